@@ -1,0 +1,30 @@
+# The two commands a new machine needs: `make demo` and `make test`. Both install missing
+# Debian packages first (scripts/install-deps.sh).
+BUILD_DIR ?= build
+BUILD_TYPE ?= RelWithDebInfo
+CMAKE_ARGS ?=
+
+.PHONY: all deps configure build test demo clean format
+
+all: build
+
+deps:
+	@scripts/install-deps.sh
+
+configure: deps
+	@cmake -S . -B $(BUILD_DIR) -G Ninja -DCMAKE_BUILD_TYPE=$(BUILD_TYPE) -DTOVRA_WERROR=ON $(CMAKE_ARGS)
+
+build: configure
+	@cmake --build $(BUILD_DIR) --parallel $$(nproc)
+
+test: deps
+	@scripts/run-tests.sh
+
+demo: build
+	@scripts/demo.sh $(BUILD_DIR)
+
+format:
+	@git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+clean:
+	rm -rf $(BUILD_DIR) build-asan build-fuzz

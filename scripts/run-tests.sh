@@ -1,0 +1,56 @@
+#!/usr/bin/env bash
+# Builds and runs the whole suite twice: a normal tree, then an AddressSanitizer +
+# UndefinedBehaviorSanitizer tree. Then runs each fuzz target briefly when clang is present.
+set -euo pipefail
+cd "$(dirname "$0")/.."
+jobs=$(nproc)
+fuzz_seconds=${TOVRA_FUZZ_SECONDS:-20}
+
+section() { printf '\n==== %s ====\n' "$*"; }
+
+section "normal build"
+start=$SECONDS
+cmake -S . -B build -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTOVRA_WERROR=ON >/dev/null
+cmake --build build --parallel "$jobs"
+echo "build took $((SECONDS - start)) s"
+
+section "tests"
+start=$SECONDS
+ctest --test-dir build --output-on-failure --parallel "$jobs"
+echo "tests took $((SECONDS - start)) s"
+
+section "sanitizer build (ASan + UBSan)"
+start=$SECONDS
+cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTOVRA_WERROR=ON -DTOVRA_SANITIZE=ON \
+    -DTOVRA_BUILD_BENCH=OFF >/dev/null
+cmake --build build-asan --parallel "$jobs"
+echo "sanitizer build took $((SECONDS - start)) s"
+
+section "tests under sanitizers"
+start=$SECONDS
+export ASAN_OPTIONS="detect_leaks=1:halt_on_error=1:abort_on_error=1:strict_string_checks=1"
+export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
+export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1"
+ctest --test-dir build-asan --output-on-failure --parallel "$jobs"
+echo "sanitizer tests took $((SECONDS - start)) s"
+unset ASAN_OPTIONS LSAN_OPTIONS UBSAN_OPTIONS
+
+if command -v clang++ >/dev/null 2>&1; then
+    section "fuzzing (${fuzz_seconds} s per target)"
+    CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTOVRA_FUZZ=ON \
+        -DTOVRA_BUILD_TESTS=OFF -DTOVRA_BUILD_BENCH=OFF >/dev/null
+    cmake --build build-fuzz --parallel "$jobs" --target tovra_fuzz_targets
+    for target in build-fuzz/fuzz/fuzz_*; do
+        [[ -x $target ]] || continue
+        name=$(basename "$target")
+        corpus=$(mktemp -d)
+        cp fuzz/corpus/"${name#fuzz_}"/* "$corpus"/ 2>/dev/null || true
+        "$target" -max_total_time="$fuzz_seconds" -print_final_stats=1 "$corpus" 2>"build-fuzz/$name.log" \
+            || { tail -n 40 "build-fuzz/$name.log"; exit 1; }
+        runs=$(grep -E '^stat::number_of_executed_units' "build-fuzz/$name.log" | awk '{print $2}')
+        echo "$name: ${runs:-?} executions, no crash"
+        rm -rf "$corpus"
+    done
+else
+    echo "clang++ not found: fuzz targets skipped"
+fi

@@ -34,7 +34,8 @@ ScriptedPeer::ScriptedPeer()
     QObject *context = new QObject;
     context->moveToThread(&m_thread);
     QMetaObject::invokeMethod(
-        context, [this, context] {
+        context,
+        [this, context] {
             startServing();
             delete context;
         },

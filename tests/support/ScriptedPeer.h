@@ -42,7 +42,10 @@ public:
     void setReplies(const QList<Reply> &replies);
     void setReply(const Reply &reply) { setReplies({reply}); }
     // Whole reply written at once, then the connection closes.
-    void setReply(const QByteArray &bytes) { setReply(Reply{{Step{bytes, 0}}, Ending::Close, true}); }
+    void setReply(const QByteArray &bytes)
+    {
+        setReply(Reply{{Step{bytes, 0}}, Ending::Close, true});
+    }
 
     QList<QByteArray> requests() const;
     QByteArray lastRequest() const;

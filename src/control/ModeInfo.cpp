@@ -1,0 +1,43 @@
+#include "ModeInfo.h"
+
+#include "JsonRead.h"
+
+ModeInfo ModeInfo::fromJson(const QJsonObject &object)
+{
+    ModeInfo info;
+    if (object.isEmpty())
+        return info;
+    info.valid = true;
+    info.transport = JsonRead::text(object, QLatin1String("transport"));
+    info.policy = JsonRead::text(object, QLatin1String("policy"));
+    info.region = JsonRead::text(object, QLatin1String("region"));
+    info.systemProxy = JsonRead::text(object, QLatin1String("system_proxy"));
+    info.pacPort = JsonRead::integer(object, QLatin1String("pac_port"));
+    info.pacVersion = JsonRead::text(object, QLatin1String("pac_version"));
+    info.proxyLan = JsonRead::boolean(object, QLatin1String("proxy_lan"));
+    info.localNetwork = JsonRead::text(object, QLatin1String("local_network"));
+    if (info.localNetwork.trimmed().isEmpty())
+        info.localNetwork = info.proxyLan ? QStringLiteral("protected") : QStringLiteral("direct");
+    info.splitProfile =
+        SplitProfileInfo::fromJson(JsonRead::object(object, QLatin1String("split_profile")));
+    info.lastTovravpnPolicy = JsonRead::text(object, QLatin1String("last_tovravpn_policy"));
+    info.lastTovravpnSplitProfile = SplitProfileInfo::fromJson(
+        JsonRead::object(object, QLatin1String("last_tovravpn_split_profile")));
+    info.proxySplitProfile =
+        SplitProfileInfo::fromJson(JsonRead::object(object, QLatin1String("proxy_split_profile")));
+    info.lastProxyPolicy = JsonRead::text(object, QLatin1String("last_proxy_policy"));
+    info.lastProxySplitProfile = SplitProfileInfo::fromJson(
+        JsonRead::object(object, QLatin1String("last_proxy_split_profile")));
+    return info;
+}
+
+ModeInfo ModeInfo::parse(const QByteArray &body, QString *errorOut)
+{
+    const auto object = JsonRead::parseObject(body);
+    if (!object) {
+        if (errorOut)
+            *errorOut = QStringLiteral("invalid mode JSON");
+        return ModeInfo();
+    }
+    return fromJson(*object);
+}

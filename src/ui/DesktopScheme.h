@@ -1,0 +1,4 @@
+#pragma once
+
+// What the desktop says about its colour scheme.
+enum class DesktopScheme { Unknown, Light, Dark };

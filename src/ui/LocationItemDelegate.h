@@ -1,0 +1,61 @@
+#pragma once
+
+#include <QColor>
+#include <QStyledItemDelegate>
+
+class ThemeColors;
+
+// Paints a location row: flag, name, tier badge, ping as text and signal bars, favourite star.
+// A click on the star asks for the opposite favourite state; the model decides.
+class LocationItemDelegate : public QStyledItemDelegate
+{
+    Q_OBJECT
+
+public:
+    struct RowLayout
+    {
+        QRect flag;
+        QRect name;
+        QRect badge;
+        QRect ping;
+        QRect bars;
+        QRect star;
+    };
+
+    explicit LocationItemDelegate(QObject *parent = nullptr);
+
+    void setThemeColors(const ThemeColors &colors);
+
+    // Geometry of one row, mirrored for right-to-left.
+    RowLayout rowLayout(const QStyleOptionViewItem &option, const QModelIndex &index) const;
+
+    // Bars shown for a row: the signal level when known, else graded from the ping; 0 unknown.
+    static int barsFor(int signalLevel, int pingMs);
+    static QString pingText(int pingMs);
+
+    void paint(QPainter *painter, const QStyleOptionViewItem &option,
+               const QModelIndex &index) const override;
+    QSize sizeHint(const QStyleOptionViewItem &option, const QModelIndex &index) const override;
+
+Q_SIGNALS:
+    void favoriteToggleRequested(const QString &nodeId, bool favorite);
+
+protected:
+    bool editorEvent(QEvent *event, QAbstractItemModel *model, const QStyleOptionViewItem &option,
+                     const QModelIndex &index) override;
+
+private:
+    void paintBadge(QPainter *painter, const QRect &rect, const QString &tier,
+                    const QPalette &palette) const;
+    void paintBars(QPainter *painter, const QRect &rect, int bars, const QPalette &palette) const;
+    void paintStar(QPainter *painter, const QRect &rect, bool favorite, bool hovered,
+                   const QPalette &palette) const;
+
+    QColor m_accent;
+    QColor m_warning;
+    QColor m_muted;
+    QColor m_subtleFill;
+    QColor m_subtleBorder;
+    QColor m_hover;
+    QColor m_selected;
+};

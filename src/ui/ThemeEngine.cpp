@@ -1,0 +1,193 @@
+#include "ThemeEngine.h"
+
+#include "StyleTemplate.h"
+#include "ThemedScrollBar.h"
+#include "ToggleSwitch.h"
+
+#include <QWidget>
+
+#include <array>
+
+namespace {
+
+struct DirectionRow
+{
+    const char *token;
+    const char *leftToRight;
+    const char *rightToLeft;
+};
+
+// Replaced before the colours: several values name @surfaceBorder@ themselves.
+constexpr std::array<DirectionRow, 16> kDirectionRows{{
+    {"@segmentDividerBorder@", "border-left: 1px solid @surfaceBorder@",
+     "border-right: 1px solid @surfaceBorder@"},
+    {"@segmentStartNoDivider@", "border-left: 0", "border-right: 0"},
+    {"@segmentStartTopRadius@", "border-top-left-radius: 6px", "border-top-right-radius: 6px"},
+    {"@segmentStartBottomRadius@", "border-bottom-left-radius: 6px",
+     "border-bottom-right-radius: 6px"},
+    {"@segmentEndTopRadius@", "border-top-right-radius: 6px", "border-top-left-radius: 6px"},
+    {"@segmentEndBottomRadius@", "border-bottom-right-radius: 6px",
+     "border-bottom-left-radius: 6px"},
+    {"@attachedStartBottomRadius@", "border-bottom-left-radius: 0px",
+     "border-bottom-right-radius: 0px"},
+    {"@attachedEndBottomRadius@", "border-bottom-right-radius: 0px",
+     "border-bottom-left-radius: 0px"},
+    {"@chevronPadding@", "padding-right: 28px", "padding-left: 28px"},
+    {"@searchClearPadding@", "padding-right: 32px", "padding-left: 32px"},
+    {"@tabInnerDividerClear@", "border-left: 0px", "border-right: 0px"},
+    {"@tabStartOuterBorder@", "border-left: 1px solid @surfaceBorder@",
+     "border-right: 1px solid @surfaceBorder@"},
+    {"@tabStartTopRadius@", "border-top-left-radius: 6px", "border-top-right-radius: 6px"},
+    {"@tabStartBottomRadius@", "border-bottom-left-radius: 0px", "border-bottom-right-radius: 0px"},
+    {"@tabEndTopRadius@", "border-top-right-radius: 6px", "border-top-left-radius: 6px"},
+    {"@tabEndBottomRadius@", "border-bottom-right-radius: 0px", "border-bottom-left-radius: 0px"},
+}};
+
+constexpr std::array<std::pair<const char *, const char *>, 3> kMetricRows{{
+    {"@sidebarMinWidth@", "92"},
+    {"@sidebarButtonMinHeight@", "72"},
+    {"@sidebarLabelFontPx@", "12"},
+}};
+
+} // namespace
+
+Appearance ThemeEngine::resolveAppearance(const QString &preference, DesktopScheme desktop)
+{
+    if (preference == QLatin1String("light")) {
+        return Appearance::Light;
+    }
+    if (preference == QLatin1String("dark")) {
+        return Appearance::Dark;
+    }
+    return desktop == DesktopScheme::Dark ? Appearance::Dark : Appearance::Light;
+}
+
+ThemeColors ThemeEngine::buildColors(Appearance appearance)
+{
+    return ThemeColors::forAppearance(appearance);
+}
+
+QPalette ThemeEngine::buildPalette(const ThemeColors &colors)
+{
+    const QColor windowBg = colors.color(ThemeColor::WindowBg);
+    const QColor text = colors.color(ThemeColor::TextPrimary);
+    const QColor surface = colors.color(ThemeColor::Surface);
+    const QColor border = colors.color(ThemeColor::SurfaceBorder);
+    const QColor disabled = colors.color(ThemeColor::DisabledText);
+
+    QPalette palette;
+    palette.setColor(QPalette::Window, windowBg);
+    palette.setColor(QPalette::AlternateBase, windowBg);
+    for (QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText,
+                                     QPalette::BrightText, QPalette::ToolTipText}) {
+        palette.setColor(role, text);
+    }
+    for (QPalette::ColorRole role :
+         {QPalette::Base, QPalette::Button, QPalette::Midlight, QPalette::ToolTipBase}) {
+        palette.setColor(role, surface);
+    }
+    palette.setColor(QPalette::Light, surface.lighter(115));
+    palette.setColor(QPalette::Mid, border);
+    palette.setColor(QPalette::Dark, border.darker(120));
+    palette.setColor(QPalette::Shadow, border.darker(140));
+    palette.setColor(QPalette::Highlight, colors.color(ThemeColor::AccentStrong));
+    palette.setColor(QPalette::HighlightedText, QColor(Qt::white));
+    palette.setColor(QPalette::PlaceholderText, colors.color(ThemeColor::TextMuted));
+#if QT_VERSION >= QT_VERSION_CHECK(6, 6, 0)
+    palette.setColor(QPalette::Accent, colors.color(ThemeColor::Accent));
+    palette.setColor(QPalette::Disabled, QPalette::Accent, disabled);
+#endif
+    for (QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText, QPalette::HighlightedText}) {
+        palette.setColor(QPalette::Disabled, role, disabled);
+    }
+    palette.setColor(QPalette::Disabled, QPalette::Highlight, border);
+    return palette;
+}
+
+QString ThemeEngine::renderStyleSheet(const ThemeColors &colors, Qt::LayoutDirection direction)
+{
+    return renderStyleSheet(StyleTemplate::text(), colors, direction);
+}
+
+QString ThemeEngine::renderStyleSheet(const QString &templateText, const ThemeColors &colors,
+                                      Qt::LayoutDirection direction)
+{
+    QString sheet = templateText;
+    for (const DirectionRow &row : kDirectionRows) {
+        QString value;
+        if (direction == Qt::LeftToRight) {
+            value = QString::fromLatin1(row.leftToRight);
+        } else if (direction == Qt::RightToLeft) {
+            value = QString::fromLatin1(row.rightToLeft);
+        }
+        sheet.replace(QString::fromLatin1(row.token), value, Qt::CaseSensitive);
+    }
+    for (int i = 0; i < ThemeColors::Count; ++i) {
+        const auto role = static_cast<ThemeColor>(i);
+        const QString token = ThemeColors::token(role);
+        if (!token.isEmpty()) {
+            sheet.replace(token, colors.value(role), Qt::CaseSensitive);
+        }
+    }
+    for (const auto &[token, value] : kMetricRows) {
+        sheet.replace(QString::fromLatin1(token), QString::fromLatin1(value), Qt::CaseSensitive);
+    }
+    return sheet;
+}
+
+void ThemeEngine::applyPaletteRecursively(QWidget *widget, const QPalette &palette)
+{
+    if (!widget) {
+        return;
+    }
+    widget->setPalette(palette);
+    const QList<QWidget *> children = widget->findChildren<QWidget *>(Qt::FindDirectChildrenOnly);
+    for (QWidget *child : children) {
+        applyPaletteRecursively(child, palette);
+    }
+}
+
+void ThemeEngine::applySwitchColors(QWidget *root, const ThemeColors &colors)
+{
+    if (!root) {
+        return;
+    }
+    const QList<ToggleSwitch *> switches = root->findChildren<ToggleSwitch *>();
+    for (ToggleSwitch *toggle : switches) {
+        toggle->setProperty("tovraSwitchCheckedTrack", colors.color(ThemeColor::Accent));
+        toggle->setProperty("tovraSwitchUncheckedTrack", colors.color(ThemeColor::SurfaceBorder));
+        toggle->setProperty("tovraSwitchThumb", QColor(0xff, 0xff, 0xff));
+        toggle->setProperty("tovraSwitchThumbBorder", QColor(0, 0, 0, 70));
+        toggle->setProperty("tovraSwitchFocus", colors.color(ThemeColor::Accent));
+        toggle->update();
+    }
+}
+
+void ThemeEngine::applyScrollBarColors(QWidget *root, const ThemeColors &colors)
+{
+    if (!root) {
+        return;
+    }
+    const QList<ThemedScrollBar *> bars = root->findChildren<ThemedScrollBar *>();
+    for (ThemedScrollBar *bar : bars) {
+        bar->setHandleColors(colors.color(ThemeColor::TextMuted),
+                             colors.color(ThemeColor::TextPrimary));
+    }
+}
+
+void ThemeEngine::applyToWindow(QWidget *window, const ThemeColors &colors)
+{
+    if (!window) {
+        return;
+    }
+    applyPaletteRecursively(window, buildPalette(colors));
+    window->setStyleSheet(renderStyleSheet(colors, window->layoutDirection()));
+    applySwitchColors(window, colors);
+    applyScrollBarColors(window, colors);
+}
+
+Appearance ThemeEngine::appearanceOf(const QPalette &palette)
+{
+    return palette.color(QPalette::Window).lightness() < 128 ? Appearance::Dark : Appearance::Light;
+}

@@ -1,0 +1,61 @@
+// tovra-gallery: every custom widget in light and dark, left-to-right and right-to-left.
+// With --screenshot DIR it writes light-ltr.png, light-rtl.png, dark-ltr.png and dark-rtl.png
+// into DIR and exits.
+#include "GalleryWindow.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QPixmap>
+
+#include <cstdio>
+
+int main(int argc, char **argv)
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("tovra-gallery"));
+
+    QCommandLineParser parser;
+    parser.addHelpOption();
+    const QCommandLineOption screenshot(QStringLiteral("screenshot"),
+                                        QStringLiteral("Write one PNG per variant and exit."),
+                                        QStringLiteral("DIR"));
+    parser.addOption(screenshot);
+    parser.process(app);
+
+    if (!parser.isSet(screenshot)) {
+        GalleryWindow window(Appearance::Light, Qt::LeftToRight);
+        window.resize(1280, 900);
+        window.show();
+        return QApplication::exec();
+    }
+
+    const QDir dir(parser.value(screenshot));
+    if (!dir.exists() && !QDir().mkpath(dir.absolutePath())) {
+        std::fprintf(stderr, "tovra-gallery: cannot create %s\n", qPrintable(dir.path()));
+        return 1;
+    }
+    const struct
+    {
+        const char *name;
+        Appearance appearance;
+        Qt::LayoutDirection direction;
+    } variants[] = {{"light-ltr", Appearance::Light, Qt::LeftToRight},
+                    {"light-rtl", Appearance::Light, Qt::RightToLeft},
+                    {"dark-ltr", Appearance::Dark, Qt::LeftToRight},
+                    {"dark-rtl", Appearance::Dark, Qt::RightToLeft}};
+    for (const auto &variant : variants) {
+        GalleryWindow window(variant.appearance, variant.direction);
+        window.resize(1280, 900);
+        window.show();
+        QApplication::processEvents();
+        const QString path =
+            dir.filePath(QString::fromLatin1(variant.name) + QStringLiteral(".png"));
+        if (!window.grab().save(path)) {
+            std::fprintf(stderr, "tovra-gallery: cannot write %s\n", qPrintable(path));
+            return 1;
+        }
+        std::printf("%s\n", qPrintable(path));
+    }
+    return 0;
+}

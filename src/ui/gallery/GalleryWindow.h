@@ -1,0 +1,51 @@
+#pragma once
+
+#include "ThemeColors.h"
+
+#include <QWidget>
+
+class ConfirmDialog;
+class LocationItemDelegate;
+class NotificationHost;
+class QBoxLayout;
+class QFrame;
+class QToolButton;
+class QVBoxLayout;
+class ToggleSwitch;
+
+// Every custom widget and dialog on one page, for looking at themes and directions.
+class GalleryWindow : public QWidget
+{
+    Q_OBJECT
+
+public:
+    GalleryWindow(Appearance appearance, Qt::LayoutDirection direction, QWidget *parent = nullptr);
+
+    void applyTheme(Appearance appearance, Qt::LayoutDirection direction);
+
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+
+private:
+    QWidget *buildSidebar();
+    QWidget *buildControls();
+    QWidget *buildSwitchCard();
+    QWidget *buildActionCard();
+    QWidget *buildLabelCard();
+    QWidget *buildFlowCard();
+    QWidget *buildLocationsCard();
+    QWidget *buildNotificationCard();
+    QWidget *buildDialogCard();
+    static QFrame *card(const QString &title, QVBoxLayout **body);
+    void placeNotification();
+
+    Appearance m_appearance;
+    QList<QToolButton *> m_sidebarButtons;
+    QList<ConfirmDialog *> m_dialogs;
+    QWidget *m_content = nullptr;
+    NotificationHost *m_host = nullptr;
+    LocationItemDelegate *m_delegate = nullptr;
+    ToggleSwitch *m_darkSwitch = nullptr;
+    ToggleSwitch *m_rtlSwitch = nullptr;
+};

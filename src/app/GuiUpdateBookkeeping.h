@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QtGlobal>
+
+// What the update flow remembers between runs; it belongs to one GUI version.
+struct GuiUpdateBookkeeping
+{
+    qint64 lastAttemptAt = 0; // seconds since the epoch
+    qint64 lastSuccessfulCheckAt = 0;
+    qint64 lastNotifiedAt = 0;
+    qint64 lastNotifiedVersionNum = 0;
+    bool forceUpgrade = false;
+
+    friend bool operator==(const GuiUpdateBookkeeping &, const GuiUpdateBookkeeping &) = default;
+};

@@ -182,6 +182,9 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
         nameFont.setWeight(QFont::DemiBold);
     }
     painter->setFont(nameFont);
+    // Names and ping come from the daemon in any script: let their own text pick the reading
+    // direction, so "24 ms" stays "24 ms" in a mirrored row.
+    painter->setLayoutDirection(Qt::LayoutDirectionAuto);
     const QColor textColor =
         connected ? pick(m_accent, pal.color(QPalette::Highlight)) : pal.color(QPalette::Text);
     painter->setPen(textColor);
@@ -208,6 +211,7 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
             row.ping,
             int(QStyle::visualAlignment(opt.direction, Qt::AlignRight) | Qt::AlignVCenter),
             pingText(ping));
+        painter->setLayoutDirection(opt.direction);
         paintBars(painter, row.bars, barsFor(level, ping), pal);
         paintStar(painter, row.star, index.data(LocationFavoriteRole).toBool(), hovered, pal);
     }

@@ -140,6 +140,12 @@ int NotificationHost::fitWidth(int maximumWidth)
     return chosen;
 }
 
+int NotificationHost::fittedHeight(int width) const
+{
+    return layout() && layout()->hasHeightForWidth() ? layout()->heightForWidth(width)
+                                                     : sizeHint().height();
+}
+
 void NotificationHost::placeIn(const QRect &area)
 {
     const int availableWidth = area.width() - 2 * kAreaMargin;
@@ -148,9 +154,7 @@ void NotificationHost::placeIn(const QRect &area)
         return;
     }
     const int w = fitWidth(qMin(availableWidth, kMaxWidth));
-    int h = layout() && layout()->hasHeightForWidth() ? layout()->heightForWidth(w)
-                                                      : sizeHint().height();
-    h = qMin(h, availableHeight);
+    const int h = qMin(fittedHeight(w), availableHeight);
     int x = area.left() + kAreaMargin;
     if (availableWidth - w > 1) {
         x += (availableWidth - w) / 2;

@@ -17,6 +17,8 @@ public:
     void showMessage(const QString &text, const QString &kind, int durationMs);
     void dismiss();
     int fitWidth(int maximumWidth);
+    // The height the host needs at `width`: wrapped when the layout wraps, else its hint.
+    int fittedHeight(int width) const;
 
     // Places the host centred along the bottom of `area` (in parent coordinates); leaves it
     // where it is when the area is too small.

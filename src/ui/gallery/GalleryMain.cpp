@@ -25,7 +25,7 @@ int main(int argc, char **argv)
 
     if (!parser.isSet(screenshot)) {
         GalleryWindow window(Appearance::Light, Qt::LeftToRight);
-        window.resize(1280, 900);
+        window.resize(1440, 960);
         window.show();
         return QApplication::exec();
     }
@@ -46,7 +46,7 @@ int main(int argc, char **argv)
                     {"dark-rtl", Appearance::Dark, Qt::RightToLeft}};
     for (const auto &variant : variants) {
         GalleryWindow window(variant.appearance, variant.direction);
-        window.resize(1280, 900);
+        window.resize(1440, 960);
         window.show();
         QApplication::processEvents();
         const QString path =

@@ -71,10 +71,10 @@ GalleryWindow::GalleryWindow(Appearance appearance, Qt::LayoutDirection directio
     grid->addWidget(buildSwitchCard(), 0, 0);
     grid->addWidget(buildActionCard(), 0, 1);
     grid->addWidget(buildLabelCard(), 0, 2);
-    grid->addWidget(buildLocationsCard(), 1, 0, 2, 1);
+    grid->addWidget(buildLocationsCard(), 1, 0);
     grid->addWidget(buildFlowCard(), 1, 1);
     grid->addWidget(buildNotificationCard(), 1, 2);
-    grid->addWidget(buildDialogCard(), 2, 1, 1, 2);
+    grid->addWidget(buildDialogCard(), 2, 0, 1, 3);
     for (int c = 0; c < 3; ++c) {
         grid->setColumnStretch(c, 1);
     }
@@ -231,6 +231,7 @@ QWidget *GalleryWindow::buildActionCard()
                    {"Connecting\u2026", "connect", true, false},
                    {"Connect (unavailable)", "connect", false, false}};
     auto *grid = new QGridLayout;
+    grid->setSpacing(8);
     int index = 0;
     for (const auto &action : actions) {
         auto *button = new QPushButton(QString::fromUtf8(action.text));
@@ -355,8 +356,8 @@ QWidget *GalleryWindow::buildNotificationCard()
     for (const auto &row : rows) {
         auto *sample = new NotificationHost;
         sample->showMessage(QString::fromUtf8(row.text), QString::fromLatin1(row.kind), 0);
-        sample->fitWidth(300);
         body->addWidget(sample);
+        m_samples.append(sample);
     }
     body->addStretch(1);
     return frame;
@@ -411,6 +412,11 @@ void GalleryWindow::applyTheme(Appearance appearance, Qt::LayoutDirection direct
     for (QToolButton *button : m_sidebarButtons) {
         button->setIcon(IconTinter::sidebarIcon(button->property("tovraSidebarIcon").toString(),
                                                 colors, QSize(24, 24), dpr));
+    }
+    // Fitted after the theme, whose fonts decide the one-line width.
+    for (NotificationHost *sample : m_samples) {
+        const int width = sample->fitWidth(340);
+        sample->setFixedHeight(sample->fittedHeight(width));
     }
     m_darkSwitch->setChecked(appearance == Appearance::Dark);
     m_rtlSwitch->setChecked(direction == Qt::RightToLeft);

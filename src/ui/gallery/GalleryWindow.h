@@ -43,6 +43,7 @@ private:
     Appearance m_appearance;
     QList<QToolButton *> m_sidebarButtons;
     QList<ConfirmDialog *> m_dialogs;
+    QList<NotificationHost *> m_samples;
     QWidget *m_content = nullptr;
     NotificationHost *m_host = nullptr;
     LocationItemDelegate *m_delegate = nullptr;

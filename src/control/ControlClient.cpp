@@ -141,8 +141,11 @@ ControlResponse ControlClient::exchange(const QString &socketPath, const QByteAr
             return response;
     }
 
+    // A response framed by the close is complete only once the daemon really closed; a deadline
+    // or a cancel is not the end of its stream.
     buffer += socket.readAll();
-    if (ControlResponseParser::parse(buffer, true, &response) && !canceled())
+    const bool endOfStream = socket.state() != QLocalSocket::ConnectedState;
+    if (ControlResponseParser::parse(buffer, endOfStream, &response) && !canceled())
         return response;
 
     if (canceled())

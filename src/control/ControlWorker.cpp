@@ -52,6 +52,9 @@ void ControlWorker::run(quint64 requestId, bool isConnect,
     const Record record = exchange(&error);
     if (isConnect)
         m_activeConnectId.store(0);
+    // A stopped worker answers nothing, not even for the exchange the stop cut short.
+    if (m_stop.load(std::memory_order_relaxed))
+        return;
     Q_EMIT(this->*finished)(requestId, record, error);
 }
 

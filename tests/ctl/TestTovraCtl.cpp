@@ -1,0 +1,181 @@
+#include "ScriptedPeer.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QProcess>
+#include <QTest>
+
+namespace {
+
+struct Run
+{
+    int exitCode = -1;
+    QByteArray out;
+    QByteArray err;
+};
+
+Run runCtl(const QStringList &arguments, const QString &socketOverride = QString())
+{
+    QProcess process;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("TOVRA_CONTROL_SOCKET"), socketOverride);
+    process.setProcessEnvironment(environment);
+    process.start(QStringLiteral(TOVRA_BINARY_DIR "/src/ctl/tovra-ctl"), arguments);
+    if (!process.waitForFinished(10000))
+        return {};
+    return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
+}
+
+} // namespace
+
+class TestTovraCtl : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void fetchStatusPrintsRecord();
+    void rawPrintsWholeResponse();
+    void failures_data();
+    void failures();
+    void usageErrors_data();
+    void usageErrors();
+    void argumentsReachTheWire();
+};
+
+void TestTovraCtl::fetchStatusPrintsRecord()
+{
+    ScriptedPeer peer;
+    peer.setReply(ScriptedPeer::response(
+        200,
+        R"({"tunnel_state":"connected","mode":{"transport":"auto","policy":"split"},)"
+        R"("selected_node":{"id":3,"region":"SE","name":"Stockholm"},"kill_switch":{"enabled":true}})"));
+    // The environment override is how scripts point it at another daemon.
+    const Run run = runCtl({QStringLiteral("fetchStatus")}, peer.socketPath());
+    QCOMPARE(run.exitCode, 0);
+    QVERIFY(run.err.isEmpty());
+    const QJsonObject record = QJsonDocument::fromJson(run.out).object();
+    QCOMPARE(record.value(QLatin1String("valid")).toBool(), true);
+    QCOMPARE(record.value(QLatin1String("tunnel_state")).toString(), QStringLiteral("connected"));
+    QCOMPARE(record.value(QLatin1String("mode_summary")).toString(), QStringLiteral("auto split"));
+    QCOMPARE(record.value(QLatin1String("selected_node")).toString(),
+             QStringLiteral("[3] [SE] Stockholm"));
+    QCOMPARE(record.value(QLatin1String("connected_node")).toString(), QString());
+    QCOMPARE(record.value(QLatin1String("mode"))
+                 .toObject()
+                 .value(QLatin1String("local_network"))
+                 .toString(),
+             QStringLiteral("direct"));
+    QCOMPARE(record.value(QLatin1String("kill_switch"))
+                 .toObject()
+                 .value(QLatin1String("enabled"))
+                 .toBool(),
+             true);
+    QVERIFY(peer.lastRequest().startsWith("GET /v1/status HTTP/1.1\r\n"));
+}
+
+void TestTovraCtl::rawPrintsWholeResponse()
+{
+    ScriptedPeer peer;
+    peer.setReply(
+        ScriptedPeer::response(500, "{\"error\":\"x\"}", {"Zeta: last", "Alpha:  first "}));
+    const Run run =
+        runCtl({QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("raw"),
+                QStringLiteral("POST"), QStringLiteral("/v1/connect"), QStringLiteral("{}")});
+    QCOMPARE(run.exitCode, 0);
+    QCOMPARE(run.out, QByteArray("500\nalpha: first\nzeta: last\n\n{\"error\":\"x\"}"));
+    QVERIFY(peer.lastRequest().endsWith("Content-Length: 2\r\n\r\n{}"));
+}
+
+void TestTovraCtl::failures_data()
+{
+    QTest::addColumn<QByteArray>("response");
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("stderr");
+
+    QTest::addRow("not running") << QByteArray() << QStringList{QStringLiteral("fetchStatus")}
+                                 << QByteArray("Tovra daemon is not running.\n");
+    QTest::addRow("raw, not running")
+        << QByteArray()
+        << QStringList{QStringLiteral("raw"), QStringLiteral("GET"), QStringLiteral("/v1/status")}
+        << QByteArray("Tovra daemon is not running.\n");
+    QTest::addRow("daemon error") << ScriptedPeer::response(401, R"({"error":"wrong password"})")
+                                  << QStringList{QStringLiteral("login"), QStringLiteral("a"),
+                                                 QStringLiteral("b"), QStringLiteral("false")}
+                                  << QByteArray("wrong password\n");
+    QTest::addRow("bad record") << ScriptedPeer::response(200, "[]")
+                                << QStringList{QStringLiteral("fetchUser")}
+                                << QByteArray("invalid user JSON\n");
+}
+
+void TestTovraCtl::failures()
+{
+    QFETCH(QByteArray, response);
+    QFETCH(QStringList, arguments);
+    ScriptedPeer peer;
+    QString socket = peer.socketPath() + QStringLiteral(".absent");
+    if (!response.isEmpty()) {
+        peer.setReply(response);
+        socket = peer.socketPath();
+    }
+    const Run run = runCtl(QStringList{QStringLiteral("--socket"), socket} + arguments);
+    QCOMPARE(run.exitCode, 1);
+    QVERIFY(run.out.isEmpty());
+    QTEST(run.err, "stderr");
+}
+
+void TestTovraCtl::usageErrors_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("problem");
+    QTest::addRow("nothing") << QStringList() << QByteArray("no operation given");
+    QTest::addRow("unknown operation")
+        << QStringList{QStringLiteral("fly")} << QByteArray("unknown operation fly");
+    QTest::addRow("boolean spelled otherwise")
+        << QStringList{QStringLiteral("fetchNodes"), QStringLiteral("yes")}
+        << QByteArray("refresh must be true or false");
+    QTest::addRow("missing argument") << QStringList{QStringLiteral("connectNode")}
+                                      << QByteArray("connectNode takes 1 argument(s), 0 given");
+    QTest::addRow("mode not an object")
+        << QStringList{QStringLiteral("setMode"), QStringLiteral("auto")}
+        << QByteArray("mode must be a JSON object");
+    QTest::addRow("timeout not a number")
+        << QStringList{QStringLiteral("--timeout"), QStringLiteral("soon"),
+                       QStringLiteral("fetchStatus")}
+        << QByteArray("--timeout needs a whole number");
+    QTest::addRow("unknown option") << QStringList{QStringLiteral("--verbose"), QStringLiteral("x")}
+                                    << QByteArray("unknown option --verbose");
+}
+
+void TestTovraCtl::usageErrors()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, problem);
+    const Run run = runCtl(arguments);
+    QCOMPARE(run.exitCode, 2);
+    QVERIFY2(run.err.contains(QByteArray(QByteArray("tovra-ctl: ") + problem)),
+             run.err.constData());
+    QVERIFY(run.err.contains("Usage: tovra-ctl"));
+}
+
+void TestTovraCtl::argumentsReachTheWire()
+{
+    ScriptedPeer peer;
+    peer.setReply(ScriptedPeer::response(200, R"({"transport":"tovravpn"})"));
+    const Run mode =
+        runCtl({QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("setMode"),
+                QStringLiteral(R"({"transport":"tovravpn","split_profile":{"gfwlist":true}})")});
+    QCOMPARE(mode.exitCode, 0);
+    QVERIFY2(peer.lastRequest().endsWith(R"(,"transport":"tovravpn"})"),
+             peer.lastRequest().constData());
+    QVERIFY(peer.lastRequest().contains(R"("gfwlist":true)"));
+
+    peer.setReply(ScriptedPeer::response(200, "{}"));
+    const Run dns =
+        runCtl({QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("setSplitDNSLocal"),
+                QStringLiteral("1.1.1.1, 8.8.8.8,")});
+    QCOMPARE(dns.exitCode, 0);
+    QVERIFY(peer.lastRequest().endsWith(R"({"local_direct_dns":["1.1.1.1","8.8.8.8"]})"));
+}
+
+QTEST_GUILESS_MAIN(TestTovraCtl)
+#include "TestTovraCtl.moc"

@@ -32,9 +32,11 @@ bool boolField(const QJsonObject &body, const char *key, bool *out, HttpResponse
     return false;
 }
 
-HttpResponse refusalOr(const QString &refusal, int status, const HttpResponse &success)
+// The success answer is built only after the change was applied.
+template<typename Answer>
+HttpResponse refusalOr(const QString &refusal, int status, Answer success)
 {
-    return refusal.isEmpty() ? success : HttpResponse::error(status, refusal);
+    return refusal.isEmpty() ? success() : HttpResponse::error(status, refusal);
 }
 
 } // namespace
@@ -213,7 +215,7 @@ void DemoService::addAccountRoutes()
                      const QString refusal =
                          m_account.login(username, password,
                                          body.value(QStringLiteral("remember_me")).toBool(), &code);
-                     return refusalOr(refusal, code, status());
+                     return refusalOr(refusal, code, [&] { return status(); });
                  });
     m_router.add("POST", QStringLiteral("/v1/session/logout"),
                  [this](const HttpRequest &, const QJsonObject &) {
@@ -255,26 +257,27 @@ void DemoService::addConfigRoutes()
         QString url;
         if (!textField(body, "api_url", &url, &error))
             return error;
-        return refusalOr(m_config.setApiUrl(url), 400, HttpResponse::json(m_config.apiUrlJson()));
+        return refusalOr(m_config.setApiUrl(url), 400,
+                         [&] { return HttpResponse::json(m_config.apiUrlJson()); });
     });
     m_router.add("DELETE", apiUrl, [this](const HttpRequest &, const QJsonObject &) {
         m_config.resetApiUrl();
         return HttpResponse::json(m_config.apiUrlJson());
     });
-    m_router.add(
-        "POST", QStringLiteral("/v1/config/auto-connect"),
-        [this](const HttpRequest &, const QJsonObject &body) {
-            HttpResponse error;
-            QString value;
-            if (!textField(body, "auto_connect", &value, &error))
-                return error;
-            const QString refusal = m_config.setAutoConnect(value);
-            return refusalOr(
-                refusal, 400,
-                HttpResponse::json({{QStringLiteral("auto_connect"), m_config.autoConnect()},
-                                    {QStringLiteral("reconnect_source"), m_tunnel.source()},
-                                    {QStringLiteral("reconnect_target"), m_tunnel.target()}}));
-        });
+    m_router.add("POST", QStringLiteral("/v1/config/auto-connect"),
+                 [this](const HttpRequest &, const QJsonObject &body) {
+                     HttpResponse error;
+                     QString value;
+                     if (!textField(body, "auto_connect", &value, &error))
+                         return error;
+                     const QString refusal = m_config.setAutoConnect(value);
+                     return refusalOr(refusal, 400, [&] {
+                         return HttpResponse::json(
+                             {{QStringLiteral("auto_connect"), m_config.autoConnect()},
+                              {QStringLiteral("reconnect_source"), m_tunnel.source()},
+                              {QStringLiteral("reconnect_target"), m_tunnel.target()}});
+                     });
+                 });
     const QString language = QStringLiteral("/v1/config/language");
     m_router.add("GET", language, [this](const HttpRequest &, const QJsonObject &) {
         return HttpResponse::json(m_language.json());
@@ -287,7 +290,7 @@ void DemoService::addConfigRoutes()
         const QString refusal =
             m_language.set(source, body.value(QStringLiteral("language")).toString(),
                            body.value(QStringLiteral("if_source")).toString());
-        return refusalOr(refusal, 400, HttpResponse::json(m_language.json()));
+        return refusalOr(refusal, 400, [&] { return HttpResponse::json(m_language.json()); });
     });
     m_router.add("GET", QStringLiteral("/v1/config/path"),
                  [this](const HttpRequest &, const QJsonObject &) {
@@ -305,7 +308,7 @@ void DemoService::addUpdateRoutes()
                          return error;
                      QJsonObject answer;
                      return refusalOr(m_update.check(version, &answer), 400,
-                                      HttpResponse::json(answer));
+                                      [&] { return HttpResponse::json(answer); });
                  });
     const QString download = QStringLiteral("/v1/gui/update/download");
     m_router.add("POST", download, [this](const HttpRequest &, const QJsonObject &body) {
@@ -319,7 +322,7 @@ void DemoService::addUpdateRoutes()
                                        QStringLiteral("\"expected_version_num\" must be a number"));
         const QString refusal =
             m_update.start(version, qint64(expected.toDouble()), m_tunnel.connected());
-        return refusalOr(refusal, 400, HttpResponse::json(m_update.downloadJson()));
+        return refusalOr(refusal, 400, [&] { return HttpResponse::json(m_update.downloadJson()); });
     });
     m_router.add("GET", download, [this](const HttpRequest &, const QJsonObject &) {
         return HttpResponse::json(m_update.downloadJson());
@@ -344,7 +347,8 @@ void DemoService::addKillSwitchRoutes()
                      if (enabled && m_routing.transport() == QLatin1String("proxy"))
                          return HttpResponse::error(
                              409, QStringLiteral("Kill Switch can't run in Tovra Proxy mode."));
-                     return refusalOr(m_killSwitch.setEnabled(enabled), 409, killSwitch());
+                     return refusalOr(m_killSwitch.setEnabled(enabled), 409,
+                                      [&] { return killSwitch(); });
                  });
     if (m_options.noKillSwitchMode) {
         // An older daemon's router: no such endpoint, and a plain-text 404 as its HTTP library
@@ -365,7 +369,8 @@ void DemoService::addKillSwitchRoutes()
                          QString mode;
                          if (!textField(body, "mode", &mode, &error))
                              return error;
-                         return refusalOr(m_killSwitch.setMode(mode), 400, killSwitch());
+                         return refusalOr(m_killSwitch.setMode(mode), 400,
+                                          [&] { return killSwitch(); });
                      });
     }
     m_router.add("POST", QStringLiteral("/v1/kill-switch/allow-lan"),
@@ -389,7 +394,7 @@ void DemoService::addRoutingRoutes()
                 m_killSwitch.enabled())
                 return HttpResponse::error(
                     409, QStringLiteral("Turn off Kill Switch before switching to Tovra Proxy."));
-            return refusalOr(m_routing.setMode(body), 400, mode());
+            return refusalOr(m_routing.setMode(body), 400, [&] { return mode(); });
         });
     auto valueRoute = [this, mode](const QString &path,
                                    QString (RoutingStore::*setter)(const QString &)) {
@@ -399,25 +404,25 @@ void DemoService::addRoutingRoutes()
                          QString value;
                          if (!textField(body, "value", &value, &error))
                              return error;
-                         return refusalOr((m_routing.*setter)(value), 400, mode());
+                         return refusalOr((m_routing.*setter)(value), 400, [&] { return mode(); });
                      });
     };
     valueRoute(QStringLiteral("/v1/proxy/system-proxy"), &RoutingStore::setSystemProxy);
     valueRoute(QStringLiteral("/v1/local-network"), &RoutingStore::setLocalNetwork);
     valueRoute(QStringLiteral("/v1/proxy/proxy-lan"), &RoutingStore::setProxyLan);
-    m_router.add(
-        "POST", QStringLiteral("/v1/proxy/listen"),
-        [this](const HttpRequest &, const QJsonObject &body) {
-            const QJsonValue listeners = body.value(QStringLiteral("proxy_listeners"));
-            if (!listeners.isArray())
-                return HttpResponse::error(400,
-                                           QStringLiteral("\"proxy_listeners\" must be an array"));
-            const QString refusal = m_routing.setListeners(listeners.toArray());
-            return refusalOr(refusal, 400,
-                             HttpResponse::json(
-                                 {{QStringLiteral("applies_on_reconnect"), m_tunnel.active()},
-                                  {QStringLiteral("proxy_listeners"), m_routing.listenersJson()}}));
-        });
+    m_router.add("POST", QStringLiteral("/v1/proxy/listen"),
+                 [this](const HttpRequest &, const QJsonObject &body) {
+                     const QJsonValue listeners = body.value(QStringLiteral("proxy_listeners"));
+                     if (!listeners.isArray())
+                         return HttpResponse::error(
+                             400, QStringLiteral("\"proxy_listeners\" must be an array"));
+                     const QString refusal = m_routing.setListeners(listeners.toArray());
+                     return refusalOr(refusal, 400, [&] {
+                         return HttpResponse::json(
+                             {{QStringLiteral("applies_on_reconnect"), m_tunnel.active()},
+                              {QStringLiteral("proxy_listeners"), m_routing.listenersJson()}});
+                     });
+                 });
 }
 
 void DemoService::addSplitRoutes()
@@ -435,7 +440,8 @@ void DemoService::addSplitRoutes()
                      const QJsonArray array = servers.toArray();
                      for (const QJsonValue &server : array)
                          list.append(server.toString());
-                     return refusalOr(m_split.setDnsLocal(list, m_tunnel.active()), 400, dns());
+                     return refusalOr(m_split.setDnsLocal(list, m_tunnel.active()), 400,
+                                      [&] { return dns(); });
                  });
     m_router.add("DELETE", QStringLiteral("/v1/split/dns/local"),
                  [this, dns](const HttpRequest &, const QJsonObject &) {
@@ -448,7 +454,8 @@ void DemoService::addSplitRoutes()
                      QString policy;
                      if (!textField(body, "policy", &policy, &error))
                          return error;
-                     return refusalOr(m_split.setDnsPolicy(policy, m_tunnel.active()), 400, dns());
+                     return refusalOr(m_split.setDnsPolicy(policy, m_tunnel.active()), 400,
+                                      [&] { return dns(); });
                  });
     m_router.add("POST", QStringLiteral("/v1/split/dns/reset"),
                  [this, dns](const HttpRequest &, const QJsonObject &) {

@@ -169,7 +169,8 @@ QWidget *GalleryWindow::buildControls()
     search->setObjectName(QStringLiteral("TovraLocationsSearch"));
     search->setPlaceholderText(QStringLiteral("Search locations"));
     search->setClearButtonEnabled(true);
-    search->addAction(QIcon(QStringLiteral(":/icons/search.svg")), QLineEdit::LeadingPosition);
+    // Tinted with the rest of the theme in applyTheme().
+    m_searchAction = search->addAction(QIcon(), QLineEdit::LeadingPosition);
     layout->addWidget(search, 1);
     auto *combo = new QComboBox;
     combo->addItems(
@@ -409,6 +410,8 @@ void GalleryWindow::applyTheme(Appearance appearance, Qt::LayoutDirection direct
     }
     m_delegate->setThemeColors(colors);
     const qreal dpr = devicePixelRatioF();
+    m_searchAction->setIcon(IconTinter::tinted(QStringLiteral(":/icons/search.svg"), QSize(16, 16),
+                                               colors.color(ThemeColor::TextMuted), dpr));
     for (QToolButton *button : m_sidebarButtons) {
         button->setIcon(IconTinter::sidebarIcon(button->property("tovraSidebarIcon").toString(),
                                                 colors, QSize(24, 24), dpr));

@@ -7,6 +7,7 @@
 class ConfirmDialog;
 class LocationItemDelegate;
 class NotificationHost;
+class QAction;
 class QBoxLayout;
 class QFrame;
 class QToolButton;
@@ -47,6 +48,7 @@ private:
     QWidget *m_content = nullptr;
     NotificationHost *m_host = nullptr;
     LocationItemDelegate *m_delegate = nullptr;
+    QAction *m_searchAction = nullptr;
     ToggleSwitch *m_darkSwitch = nullptr;
     ToggleSwitch *m_rtlSwitch = nullptr;
 };

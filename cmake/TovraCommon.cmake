@@ -4,7 +4,8 @@ add_library(tovra_common INTERFACE)
 target_compile_features(tovra_common INTERFACE cxx_std_20)
 target_compile_options(tovra_common INTERFACE
     -Wall -Wextra -Wpedantic -Wold-style-cast -Wnon-virtual-dtor -Woverloaded-virtual
-    -Wcast-qual -Wformat=2 -Wmissing-declarations -Wshadow=local -Wundef
+    -Wcast-qual -Wformat=2 -Wmissing-declarations -Wundef
+    $<$<CXX_COMPILER_ID:GNU>:-Wshadow=local>
     $<$<BOOL:${TOVRA_WERROR}>:-Werror>)
 target_compile_definitions(tovra_common INTERFACE
     QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_CAST_FROM_BYTEARRAY
@@ -18,4 +19,11 @@ if(TOVRA_SANITIZE)
     set(_san -fsanitize=address,undefined -fno-omit-frame-pointer -fno-sanitize-recover=all)
     target_compile_options(tovra_common INTERFACE ${_san})
     target_link_options(tovra_common INTERFACE ${_san})
+endif()
+
+if(TOVRA_FUZZ)
+    # Coverage instrumentation everywhere; the fuzz executables add the libFuzzer driver.
+    set(_fuzz -fsanitize=fuzzer-no-link,address,undefined -fno-omit-frame-pointer)
+    target_compile_options(tovra_common INTERFACE ${_fuzz})
+    target_link_options(tovra_common INTERFACE -fsanitize=address,undefined)
 endif()

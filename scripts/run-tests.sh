@@ -38,7 +38,8 @@ unset ASAN_OPTIONS LSAN_OPTIONS UBSAN_OPTIONS
 if command -v clang++ >/dev/null 2>&1; then
     section "fuzzing (${fuzz_seconds} s per target)"
     CXX=clang++ cmake -S . -B build-fuzz -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo -DTOVRA_FUZZ=ON \
-        -DTOVRA_BUILD_TESTS=OFF -DTOVRA_BUILD_BENCH=OFF >/dev/null
+        -DTOVRA_BUILD_TESTS=OFF -DTOVRA_BUILD_BENCH=OFF -DTOVRA_BUILD_DEMO=OFF \
+        -DTOVRA_SUBSYSTEMS=control >/dev/null
     cmake --build build-fuzz --parallel "$jobs" --target tovra_fuzz_targets
     for target in build-fuzz/fuzz/fuzz_*; do
         [[ -x $target ]] || continue

@@ -76,8 +76,11 @@ const CatalogStore::Node *CatalogStore::node(qint64 id) const
 
 const CatalogStore::Node *CatalogStore::nodeFromJson(const QJsonValue &id) const
 {
-    if (id.isDouble())
-        return node(qint64(id.toDouble()));
+    if (id.isDouble()) {
+        // Out-of-range numbers must not reach the integer conversion.
+        const double number = id.toDouble();
+        return number >= 0 && number < 1e15 ? node(qint64(number)) : nullptr;
+    }
     bool ok = false;
     const qint64 number = id.toString().trimmed().toLongLong(&ok);
     return ok ? node(number) : nullptr;

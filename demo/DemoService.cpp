@@ -3,6 +3,8 @@
 #include <QJsonArray>
 #include <QUrlQuery>
 
+#include <cmath>
+
 namespace {
 
 // A text field of the request, with its type checked: a wrong type is the client's fault.
@@ -317,7 +319,8 @@ void DemoService::addUpdateRoutes()
         if (!textField(body, "version", &version, &error))
             return error;
         const QJsonValue expected = body.value(QStringLiteral("expected_version_num"));
-        if (!expected.isDouble())
+        // Out-of-range numbers must not reach the integer conversion.
+        if (!expected.isDouble() || !(std::abs(expected.toDouble()) < 1e15))
             return HttpResponse::error(400,
                                        QStringLiteral("\"expected_version_num\" must be a number"));
         const QString refusal =

@@ -143,6 +143,11 @@ void TestDemoLifecycle::rawRequests_data()
                       "Content-Length: 17\r\n\r\n{\"enabled\":\"yes\"}")
         << QByteArray("HTTP/1.1 400 ")
         << QByteArray("{\"error\":\"\\\"enabled\\\" must be true or false\"}");
+    const QByteArray hugeId = "{\"node\":1e300,\"favorite\":true}";
+    QTest::addRow("node id out of range")
+        << QByteArray("POST /v1/nodes/favorite HTTP/1.1\r\n" + v1 +
+                      "Content-Length: " + QByteArray::number(hugeId.size()) + "\r\n\r\n" + hugeId)
+        << QByteArray("HTTP/1.1 404 ") << QByteArray("{\"error\":\"unknown location\"}");
     QTest::addRow("length framing")
         << QByteArray("GET /v1/version HTTP/1.1\r\n" + v1 + "\r\n") << QByteArray("HTTP/1.1 200 ")
         << QByteArray("Connection: close\r\nContent-Length: 42\r\n\r\n");

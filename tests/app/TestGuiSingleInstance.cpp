@@ -24,7 +24,7 @@ std::unique_ptr<QProcess> startHelper(const char *mode, const QString &name)
 {
     auto process = std::make_unique<QProcess>();
     process->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process->start(QStringLiteral(SINGLE_INSTANCE_HELPER), {QString::fromLatin1(mode), name});
+    process->start(QStringLiteral(APP_TEST_HELPER), {QString::fromLatin1(mode), name});
     return process;
 }
 

@@ -1,7 +1,9 @@
-// A second GUI process for the single-instance tests.
+// A second process for the application core tests.
 //   acquire <name>: claim the name like a normal launch; the exit code is the result.
 //   hold <name>:    claim the name, print "ready", and keep it until "quit" arrives on stdin
 //                   (or the process is killed, which leaves a stale socket behind).
+//   memlog <text>:  write one diagnostic memory line.
+#include "GuiMemLog.h"
 #include "GuiSingleInstance.h"
 
 #include <QCoreApplication>
@@ -16,6 +18,10 @@ int main(int argc, char **argv)
     const QStringList args = app.arguments();
     if (args.size() != 3)
         return 64;
+    if (args.at(1) == u"memlog") {
+        guiMemLog(args.at(2));
+        return 0;
+    }
     GuiSingleInstance instance(args.at(2));
     QString error;
     const SingleInstanceResult result = instance.acquire(&error);

@@ -2,6 +2,32 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="es">
 <context>
+    <name>ConfirmDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ControlClient</name>
+    <message>
+        <source>Tovra daemon is not running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not connect to Tovra daemon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -50,6 +76,57 @@
         <source>Off</source>
         <translation>Desactivado</translation>
     </message>
+    <message>
+        <source>Kill Switch needs a VPN mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch to Auto and enable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch to Auto and enable Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose mode…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a mode for Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy needs Kill Switch off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Settings to turn off Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationItemDelegate</name>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ModePage</name>
@@ -75,6 +152,17 @@
     </message>
     <message>
         <source>Tovra Proxy Global</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NotificationHost</name>
+    <message>
+        <source>Dismiss notification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notification: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -12,10 +12,10 @@ struct Language
 };
 
 const Language Supported[] = {
-    {"en", "English"}, {"de", "Deutsch"},     {"fr", "Français"},
-    {"es", "Español"}, {"it", "Italiano"},    {"pt-BR", "Português (Brasil)"},
-    {"ru", "Русский"}, {"tr", "Türkçe"},      {"ja", "日本語"},
-    {"ko", "한국어"},  {"zh-CN", "简体中文"}, {"zh-TW", "繁體中文"},
+    {"en", "English"}, {"de", "Deutsch"},       {"fr", "Français"},
+    {"es", "Español"}, {"it", "Italiano"},      {"pt-BR", "Português (Brasil)"},
+    {"ru", "Русский"}, {"tr", "Türkçe"},        {"ja", "日本語"},
+    {"ko", "한국어"},  {"zh-Hans", "简体中文"}, {"zh-Hant", "繁體中文"},
 };
 
 // "de_DE.UTF-8" and "de-de" both become "de-DE".
@@ -56,6 +56,12 @@ QString LanguageStore::set(const QString &source, const QString &language, const
 QString LanguageStore::effectiveLanguage() const
 {
     const QString base = m_language.section(QLatin1Char('-'), 0, 0);
+    // Chinese resolves by script; the region only hints at it.
+    if (base == QLatin1String("zh")) {
+        static const QRegularExpression traditional(QStringLiteral("-(Hant|TW|HK|MO)\\b"));
+        return traditional.match(m_language).hasMatch() ? QStringLiteral("zh-Hant")
+                                                        : QStringLiteral("zh-Hans");
+    }
     QString fallback;
     for (const Language &entry : Supported) {
         const QString code = QString::fromLatin1(entry.code);

@@ -68,6 +68,8 @@ private Q_SLOTS:
     void splitRuleImportCounts_data();
     void splitRuleImportCounts();
     void repairs();
+    void languageResolves_data();
+    void languageResolves();
     void languageAndConfig();
     void updateDownloadReachesReady();
     void updateDownloadCancels();
@@ -591,6 +593,45 @@ void TestDemoContract::repairs()
     QVERIFY(info.lines.at(1).startsWith(QLatin1String("proxy: ok")));
     QVERIFY(info.lines.at(2).contains(QLatin1String("disconnected")));
     QVERIFY(info.failedLines.isEmpty());
+}
+
+void TestDemoContract::languageResolves_data()
+{
+    QTest::addColumn<QString>("tag");
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("effective");
+    QTest::addRow("supported as sent") << "pt-BR"
+                                       << "pt-BR"
+                                       << "pt-BR";
+    QTest::addRow("locale spelling") << "de_DE.UTF-8"
+                                     << "de-DE"
+                                     << "de";
+    QTest::addRow("simplified Chinese by region") << "zh_CN"
+                                                  << "zh-CN"
+                                                  << "zh-Hans";
+    QTest::addRow("traditional Chinese by region") << "zh_TW"
+                                                   << "zh-TW"
+                                                   << "zh-Hant";
+    QTest::addRow("traditional Chinese by script") << "zh-Hant"
+                                                   << "zh-Hant"
+                                                   << "zh-Hant";
+    QTest::addRow("unsupported falls back to English") << "sw"
+                                                       << "sw"
+                                                       << "en";
+}
+
+void TestDemoContract::languageResolves()
+{
+    QFETCH(QString, tag);
+    QFETCH(QString, language);
+    QFETCH(QString, effective);
+    QString error;
+    const LanguageConfigInfo info = ControlEndpoints::setLanguageIfSource(
+        socket(), QStringLiteral("system"), tag, QStringLiteral("system"), Timeout, &error);
+    QCOMPARE(error, QString());
+    QCOMPARE(info.language, language);
+    QCOMPARE(info.effectiveLanguage, effective);
+    QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).effectiveLanguage, effective);
 }
 
 void TestDemoContract::languageAndConfig()

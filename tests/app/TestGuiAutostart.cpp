@@ -170,13 +170,13 @@ void TestGuiAutostart::configDirectory()
     };
     qputenv("XDG_CONFIG_HOME", absolute(xdgConfigHome).toLocal8Bit());
     const GuiAutostart autostart(absolute(explicitDir), u"/usr/bin/tovra"_s);
-    QCOMPARE(autostart.entryPath(), root + expectedDir + u"/autostart/com.tovra.vpn.desktop");
+    QCOMPARE(autostart.entryPath(), QString(root + expectedDir + u"/autostart/com.tovra.vpn.desktop"));
 }
 
 void TestGuiAutostart::enableWritesPrivateFile()
 {
     const GuiAutostart autostart({}, u"/usr/bin/tovra"_s);
-    QCOMPARE(autostart.entryPath(), m_dirs->configHome() + u"/autostart/com.tovra.vpn.desktop");
+    QCOMPARE(autostart.entryPath(), QString(m_dirs->configHome() + u"/autostart/com.tovra.vpn.desktop"));
     QString error;
     QVERIFY(autostart.reconcile(true, &error));
     QCOMPARE(error, QString());

@@ -3,6 +3,8 @@
 # UndefinedBehaviorSanitizer tree. Then runs each fuzz target briefly when clang is present.
 set -euo pipefail
 cd "$(dirname "$0")/.."
+# Relative paths in ccache keys, so that a fresh clone reuses what an earlier one compiled.
+export CCACHE_BASEDIR="$PWD" CCACHE_NOHASHDIR=1
 jobs=$(nproc)
 fuzz_seconds=${TOVRA_FUZZ_SECONDS:-20}
 

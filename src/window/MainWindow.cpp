@@ -1,0 +1,510 @@
+#include "MainWindow.h"
+
+#include "AccountPage.h"
+#include "AppState.h"
+#include "DelayedBusyIndicator.h"
+#include "DesktopColorScheme.h"
+#include "GuiMemLog.h"
+#include "GuiPreferences.h"
+#include "LocationsPage.h"
+#include "ModePage.h"
+#include "NavigationSidebar.h"
+#include "NotificationHost.h"
+#include "SettingsPage.h"
+#include "ThemeEngine.h"
+#include "TranslationManager.h"
+#include "UnifiedTitleBar.h"
+#include "VpnPage.h"
+
+#include <QAction>
+#include <QCloseEvent>
+#include <QCoreApplication>
+#include <QFrame>
+#include <QHBoxLayout>
+#include <QKeySequence>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QStackedWidget>
+#include <QUrlQuery>
+#include <QVBoxLayout>
+
+namespace {
+
+const QString kErrorKind = QStringLiteral("error");
+
+} // namespace
+
+MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *parent)
+    : QMainWindow(parent)
+    , m_state(state)
+    , m_preferences(preferences)
+    , m_desktopScheme(new DesktopColorScheme(this))
+{
+    if (m_preferences) {
+        m_appearance = normalizedAppearance(m_preferences->appearance());
+    }
+
+    setWindowTitle(tr("Tovra"));
+    setMinimumSize(780, 620);
+
+    auto *closeAction = new QAction(this);
+    closeAction->setObjectName(QStringLiteral("TovraCloseWindowAction"));
+    closeAction->setShortcut(QKeySequence::Close);
+    closeAction->setShortcutContext(Qt::WindowShortcut);
+    addAction(closeAction);
+    // Through close(), so the key behaves exactly like the title bar's close button.
+    connect(closeAction, &QAction::triggered, this, &QWidget::close);
+
+    auto *root = new QWidget(this);
+    root->setObjectName(QStringLiteral("TovraWindowRoot"));
+    auto *rootLayout = new QHBoxLayout(root);
+    rootLayout->setContentsMargins(0, 0, 0, 0);
+    rootLayout->setSpacing(0);
+
+    m_sidebar = new NavigationSidebar(root);
+    connect(m_sidebar, &NavigationSidebar::pageRequested, this, &MainWindow::showPage);
+    auto *divider = new QFrame(root);
+    divider->setObjectName(QStringLiteral("TovraSidebarDivider"));
+    divider->setFixedWidth(1);
+    divider->setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Expanding);
+
+    rootLayout->addWidget(m_sidebar);
+    rootLayout->addWidget(divider);
+    rootLayout->addWidget(buildContentColumn(root), 1);
+    setCentralWidget(root);
+
+    connectPages();
+    applyTitleBarHooks();
+
+    m_notifications = new NotificationHost(m_content);
+    m_notifications->hide();
+
+    m_modeBusy =
+        new DelayedBusyIndicator([this](bool shown) { m_modePage->setModeBusy(shown); }, this);
+    m_settingsBusy = new DelayedBusyIndicator(
+        [this](bool shown) {
+            m_settingsPage->setBusy(shown);
+            m_modePage->setSettingsBusy(shown);
+        },
+        this);
+
+    connectState();
+    connect(m_desktopScheme, &DesktopColorScheme::changed, this, [this] {
+        // Only the "system" preference follows the desktop.
+        if (m_appearance == QLatin1String("system")) {
+            applyTheme();
+        }
+    });
+
+    applyTheme();
+    showPage(VpnPageIndex);
+    refreshFromState();
+}
+
+MainWindow::~MainWindow()
+{
+    guiMemLog(QStringLiteral("MainWindow destroyed"));
+}
+
+QWidget *MainWindow::buildContentColumn(QWidget *root)
+{
+    m_content = new QWidget(root);
+    auto *column = new QVBoxLayout(m_content);
+    column->setContentsMargins(32, 28, 32, 28);
+    column->setSpacing(18);
+
+    m_pageTitle = new QLabel(tr("VPN"), m_content);
+    m_pageTitle->setObjectName(QStringLiteral("TovraCurrentPageTitle"));
+    column->addWidget(m_pageTitle);
+
+    m_stack = new QStackedWidget(m_content);
+    // The order is the meaning of the page index everywhere.
+    m_vpnPage = new VpnPage(m_stack);
+    m_locationsPage = new LocationsPage(m_stack);
+    m_modePage = new ModePage(m_stack);
+    m_settingsPage = new SettingsPage(m_stack);
+    m_accountPage = new AccountPage(m_stack);
+    for (QWidget *page :
+         {static_cast<QWidget *>(m_vpnPage), static_cast<QWidget *>(m_locationsPage),
+          static_cast<QWidget *>(m_modePage), static_cast<QWidget *>(m_settingsPage),
+          static_cast<QWidget *>(m_accountPage)}) {
+        m_stack->addWidget(page);
+    }
+    column->addWidget(m_stack, 1);
+    return m_content;
+}
+
+void MainWindow::connectPages()
+{
+    connect(m_vpnPage, &VpnPage::connectRuntimeRequested, this,
+            &MainWindow::connectRuntimeRequested);
+    connect(m_vpnPage, &VpnPage::cancelConnectRequested, this, &MainWindow::cancelConnectRequested);
+    connect(m_vpnPage, &VpnPage::disconnectRuntimeRequested, this,
+            &MainWindow::disconnectRuntimeRequested);
+    connect(m_vpnPage, &VpnPage::connectNodeRequested, this, &MainWindow::connectNodeRequested);
+    connect(m_vpnPage, &VpnPage::recentConnectionsCleared, this,
+            &MainWindow::recentConnectionsCleared);
+    connect(m_vpnPage, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmartRequested);
+    connect(m_vpnPage, &VpnPage::pendingConnectTargetChanged, this,
+            &MainWindow::pendingConnectTargetChanged);
+
+    connect(m_locationsPage, &LocationsPage::refreshLocationsRequested, this,
+            &MainWindow::refreshLocationsRequested);
+    connect(m_locationsPage, &LocationsPage::connectNodeRequested, this,
+            &MainWindow::connectNodeRequested);
+    connect(m_locationsPage, &LocationsPage::connectSmartRequested, this,
+            &MainWindow::connectSmartRequested);
+    connect(m_locationsPage, &LocationsPage::setNodeFavoriteRequested, this,
+            &MainWindow::setNodeFavoriteRequested);
+    connect(m_locationsPage, &LocationsPage::pendingConnectTargetChanged, this,
+            &MainWindow::pendingConnectTargetChanged);
+
+    connect(m_modePage, &ModePage::setModeRequested, this, &MainWindow::setModeRequested);
+    connect(m_modePage, &ModePage::splitRulesRequested, this, &MainWindow::splitRulesRequested);
+    connect(m_modePage, &ModePage::importSplitRulesRequested, this,
+            &MainWindow::importSplitRulesRequested);
+    connect(m_modePage, &ModePage::setLocalNetworkRequested, this,
+            &MainWindow::setLocalNetworkRequested);
+    connect(m_modePage, &ModePage::setSystemProxyRequested, this,
+            &MainWindow::setSystemProxyRequested);
+
+    connect(m_settingsPage, &SettingsPage::openLogsRequested, this, &MainWindow::openLogsRequested);
+    connect(m_settingsPage, &SettingsPage::openExternalURLRequested, this,
+            &MainWindow::openExternalURLRequested);
+    connect(m_settingsPage, &SettingsPage::setKillSwitchEnabledRequested, this,
+            &MainWindow::setKillSwitchEnabledRequested);
+    connect(m_settingsPage, &SettingsPage::setKillSwitchModeRequested, this,
+            &MainWindow::setKillSwitchModeRequested);
+    connect(m_settingsPage, &SettingsPage::switchToAutoAndEnableKillSwitchRequested, this,
+            &MainWindow::switchToAutoAndEnableKillSwitchRequested);
+    connect(m_settingsPage, &SettingsPage::chooseModeForKillSwitchRequested, this,
+            &MainWindow::chooseModeForKillSwitchRequested);
+    connect(m_settingsPage, &SettingsPage::setAPIURLRequested, this,
+            &MainWindow::setAPIURLRequested);
+    connect(m_settingsPage, &SettingsPage::resetAPIURLRequested, this,
+            &MainWindow::resetAPIURLRequested);
+    connect(m_settingsPage, &SettingsPage::setAutoConnectRequested, this,
+            &MainWindow::setAutoConnectRequested);
+    connect(m_settingsPage, &SettingsPage::setLanguageRequested, this,
+            &MainWindow::setLanguageRequested);
+    connect(m_settingsPage, &SettingsPage::checkUpdateRequested, this,
+            &MainWindow::checkUpdateRequested);
+    connect(m_settingsPage, &SettingsPage::setProxyListenersRequested, this,
+            &MainWindow::setProxyListenersRequested);
+    connect(m_settingsPage, &SettingsPage::setSplitDNSLocalRequested, this,
+            &MainWindow::setSplitDNSLocalRequested);
+    connect(m_settingsPage, &SettingsPage::setSplitDNSPolicyRequested, this,
+            &MainWindow::setSplitDNSPolicyRequested);
+    connect(m_settingsPage, &SettingsPage::clearSplitDNSLocalRequested, this,
+            &MainWindow::clearSplitDNSLocalRequested);
+    connect(m_settingsPage, &SettingsPage::resetSplitDNSRequested, this,
+            &MainWindow::resetSplitDNSRequested);
+    connect(m_settingsPage, &SettingsPage::repairDiagnosticsRequested, this,
+            &MainWindow::repairDiagnosticsRequested);
+    connect(m_settingsPage, &SettingsPage::appearanceChangeRequested, this,
+            &MainWindow::setAppearancePreference);
+
+    connect(m_accountPage, &AccountPage::loginRequested, this, &MainWindow::loginRequested);
+    connect(m_accountPage, &AccountPage::logoutRequested, this, &MainWindow::logoutRequested);
+    connect(m_accountPage, &AccountPage::renewRequested, this,
+            [this] { Q_EMIT purchaseURLRequested(linkLanguage()); });
+    connect(m_accountPage, &AccountPage::signUpRequested, this,
+            [this] { Q_EMIT openExternalURLRequested(accountLink(QStringLiteral("/signup"))); });
+    connect(m_accountPage, &AccountPage::forgotPasswordRequested, this, [this] {
+        Q_EMIT openExternalURLRequested(accountLink(QStringLiteral("/password-reset")));
+    });
+}
+
+void MainWindow::connectState()
+{
+    if (!m_state) {
+        return;
+    }
+    AppState *state = m_state;
+    const auto all = [this] {
+        refreshPages({m_locationsPage, m_modePage, m_vpnPage, m_settingsPage, m_accountPage});
+    };
+    const auto catalogue = [this] { refreshPages({m_locationsPage, m_vpnPage}); };
+    const auto settings = [this] { refreshPages({m_settingsPage}); };
+    connect(state, &AppState::runtimeChanged, this, all);
+    connect(state, &AppState::userChanged, this, [this] {
+        refreshPages({m_vpnPage, m_accountPage});
+    });
+    connect(state, &AppState::nodesChanged, this, catalogue);
+    connect(state, &AppState::nodeGroupsChanged, this, catalogue);
+    connect(state, &AppState::nodesRefreshCooldownChanged, this, catalogue);
+    connect(state, &AppState::killSwitchChanged, this, [this] {
+        refreshPages({m_modePage, m_vpnPage, m_settingsPage});
+    });
+    connect(state, &AppState::splitRulesChanged, this, [this] { refreshPages({m_modePage}); });
+    connect(state, &AppState::configPathsChanged, this, settings);
+    connect(state, &AppState::versionChanged, this, settings);
+    connect(state, &AppState::apiURLConfigChanged, this, settings);
+    connect(state, &AppState::languageConfigChanged, this, settings);
+    connect(state, &AppState::updateChanged, this, settings);
+    connect(state, &AppState::splitDNSChanged, this, settings);
+}
+
+void MainWindow::refreshPages(std::initializer_list<WindowPage *> pages)
+{
+    if (!m_state) {
+        return;
+    }
+    for (WindowPage *page : pages) {
+        page->refresh(*m_state);
+    }
+}
+
+void MainWindow::refreshFromState()
+{
+    // The catalogue and mode first: the VPN page's summary reads from them.
+    refreshPages({m_locationsPage, m_modePage, m_vpnPage, m_settingsPage, m_accountPage});
+}
+
+int MainWindow::currentPage() const
+{
+    return m_stack ? m_stack->currentIndex() : -1;
+}
+
+void MainWindow::showPage(int index)
+{
+    if (!m_stack || index < 0 || index >= m_stack->count()) {
+        return;
+    }
+    const int previous = m_stack->currentIndex();
+    m_stack->setCurrentIndex(index);
+
+    if (previous == VpnPageIndex && index != VpnPageIndex) {
+        m_vpnPage->closeQuickEntryPopup();
+    } else if (previous == ModePageIndex && index != ModePageIndex) {
+        Q_EMIT modePageLeft();
+    }
+
+    m_sidebar->setCurrentIndex(index);
+    m_pageTitle->setText(m_sidebar->entryText(index));
+    // The VPN page carries its own status heading.
+    m_pageTitle->setVisible(index != VpnPageIndex);
+
+    switch (index) {
+    case SettingsPageIndex:
+        Q_EMIT settingsVisibleRequested();
+        return;
+    case ModePageIndex:
+        if (m_state && m_state->splitRules().rules.isEmpty() && !m_splitRulesFetch &&
+            !m_splitRulesImport) {
+            Q_EMIT splitRulesRequested();
+        }
+        return;
+    case LocationsPageIndex:
+        m_locationsPage->pageShown();
+        return;
+    default:
+        return;
+    }
+}
+
+void MainWindow::setHideOnClose(bool hide)
+{
+    m_hideOnClose = hide;
+}
+
+void MainWindow::setDeleteOnClose(bool remove)
+{
+    m_deleteOnClose = remove;
+    setAttribute(Qt::WA_DeleteOnClose, remove);
+}
+
+void MainWindow::setModeOperationBusy(bool busy)
+{
+    m_modeBusy->setBusy(busy);
+}
+
+void MainWindow::setSettingsOperationBusy(bool busy)
+{
+    m_settingsBusy->setBusy(busy);
+}
+
+void MainWindow::setSplitRulesFetchInProgress(bool inProgress)
+{
+    if (m_splitRulesFetch == inProgress) {
+        return;
+    }
+    m_splitRulesFetch = inProgress;
+    m_modePage->setSplitRulesFetchInProgress(inProgress);
+}
+
+void MainWindow::setSplitRulesImportInProgress(bool inProgress)
+{
+    if (m_splitRulesImport == inProgress) {
+        return;
+    }
+    m_splitRulesImport = inProgress;
+    m_modePage->setSplitRulesImportInProgress(inProgress);
+}
+
+void MainWindow::showError(const QString &message, const QString &fallback)
+{
+    const QString text = message.trimmed();
+    showNotification(text.isEmpty() ? fallback : text, kErrorKind, ErrorDurationMs);
+}
+
+void MainWindow::showOperationError(const QString &message)
+{
+    showError(message, tr("Operation failed"));
+}
+
+void MainWindow::showSettingsOperationError(const QString &message)
+{
+    showError(message, tr("Settings operation failed"));
+}
+
+void MainWindow::showModeOperationError(const QString &message)
+{
+    QString text = message.trimmed();
+    if (text.isEmpty()) {
+        text = tr("Mode operation failed");
+    }
+    if (!m_modePage->offerInlineError(text)) {
+        showNotification(text, kErrorKind, ErrorDurationMs);
+    }
+}
+
+void MainWindow::showNotification(const QString &text, const QString &kind, int durationMs)
+{
+    m_notifications->showMessage(text, kind, durationMs);
+    placeNotificationHost();
+}
+
+void MainWindow::placeNotificationHost()
+{
+    if (!m_notifications->isVisible()) {
+        return;
+    }
+    m_notifications->placeIn(m_stack ? m_stack->geometry() : m_content->rect());
+}
+
+QString MainWindow::normalizedAppearance(const QString &preference)
+{
+    if (preference == QLatin1String("light") || preference == QLatin1String("dark")) {
+        return preference;
+    }
+    return QStringLiteral("system");
+}
+
+void MainWindow::setAppearancePreference(const QString &preference)
+{
+    const QString value = normalizedAppearance(preference);
+    if (value == m_appearance) {
+        return;
+    }
+    m_appearance = value;
+    if (m_preferences) {
+        m_preferences->setAppearance(value);
+    }
+    applyTheme();
+    Q_EMIT appearancePreferenceChanged();
+}
+
+Appearance MainWindow::effectiveAppearance() const
+{
+    return ThemeEngine::resolveAppearance(m_appearance, m_desktopScheme->scheme());
+}
+
+void MainWindow::applyTheme()
+{
+    const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
+    ThemeEngine::applyPaletteRecursively(this, ThemeEngine::buildPalette(colors));
+    setStyleSheet(ThemeEngine::renderStyleSheet(colors, layoutDirection()));
+    m_vpnPage->applyTheme(colors);
+    m_sidebar->applyTheme(colors);
+    m_locationsPage->applyTheme(colors);
+    m_modePage->applyTheme(colors);
+    m_settingsPage->applyTheme(colors);
+    ThemeEngine::applySwitchColors(this, colors);
+    ThemeEngine::applyScrollBarColors(this, colors);
+}
+
+QString MainWindow::linkLanguage() const
+{
+    const QString effective = m_state ? m_state->runtime().effectiveLanguage : QString();
+    return TranslationManager::normalize(effective.isEmpty() ? TranslationManager::systemLanguage()
+                                                             : effective);
+}
+
+QUrl MainWindow::accountLink(const QString &path) const
+{
+    QUrl url;
+    url.setScheme(QStringLiteral("https"));
+    url.setHost(QStringLiteral(TOVRA_VENDOR_HOST));
+    url.setPath(path);
+    QUrlQuery query;
+    query.addQueryItem(QStringLiteral("lang"), linkLanguage());
+    url.setQuery(query);
+    return url;
+}
+
+void MainWindow::closeEvent(QCloseEvent *event)
+{
+    if (!m_hideOnClose) {
+        // Without a tray this window is the only way in: closing it ends the program.
+        QMainWindow::closeEvent(event);
+        QCoreApplication::quit();
+        return;
+    }
+    m_vpnPage->closeQuickEntryPopup();
+    if (currentPage() == ModePageIndex) {
+        Q_EMIT modePageLeft();
+    }
+    Q_EMIT hiddenToTray();
+    if (!m_deleteOnClose) {
+        event->ignore();
+        hide();
+        return;
+    }
+    if (m_state) {
+        disconnect(m_state, nullptr, this, nullptr);
+    }
+    event->accept();
+}
+
+void MainWindow::resizeEvent(QResizeEvent *event)
+{
+    QMainWindow::resizeEvent(event);
+    placeNotificationHost();
+}
+
+void MainWindow::showEvent(QShowEvent *event)
+{
+    QMainWindow::showEvent(event);
+    applyTitleBarHooks();
+}
+
+void MainWindow::applyTitleBarHooks()
+{
+    m_unifiedTitleBar = UnifiedTitleBar::isUnified(this);
+}
+
+bool MainWindow::inUnifiedTitleBar(const QMouseEvent *event) const
+{
+    return m_unifiedTitleBar && event->button() == Qt::LeftButton &&
+           event->position().y() < UnifiedTitleBar::height(this);
+}
+
+void MainWindow::mousePressEvent(QMouseEvent *event)
+{
+    if (inUnifiedTitleBar(event) && UnifiedTitleBar::startSystemMove(this)) {
+        event->accept();
+        return;
+    }
+    QMainWindow::mousePressEvent(event);
+}
+
+void MainWindow::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    if (inUnifiedTitleBar(event)) {
+        isMaximized() ? showNormal() : showMaximized();
+        event->accept();
+        return;
+    }
+    QMainWindow::mouseDoubleClickEvent(event);
+}

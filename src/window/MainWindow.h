@@ -1,0 +1,160 @@
+#pragma once
+
+#include "ModeInfo.h"
+#include "ThemeColors.h"
+
+#include <QMainWindow>
+#include <QPointer>
+#include <QStringList>
+#include <QUrl>
+
+class AccountPage;
+class AppState;
+class DelayedBusyIndicator;
+class DesktopColorScheme;
+class GuiPreferences;
+class LocationsPage;
+class ModePage;
+class NavigationSidebar;
+class NotificationHost;
+class QLabel;
+class QStackedWidget;
+class SettingsPage;
+class VpnPage;
+class WindowPage;
+
+// The full interface beside the tray: a sidebar and five pages. It never talks to the daemon;
+// every user action leaves as an intent signal and the pages redraw from the state store.
+class MainWindow : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    enum Page {
+        VpnPageIndex = 0,
+        LocationsPageIndex,
+        ModePageIndex,
+        SettingsPageIndex,
+        AccountPageIndex,
+        PageCount
+    };
+
+    static constexpr int ErrorDurationMs = 5000;
+
+    MainWindow(AppState *state, GuiPreferences *preferences, QWidget *parent = nullptr);
+    ~MainWindow() override;
+
+    void setHideOnClose(bool hide);
+    bool hideOnClose() const { return m_hideOnClose; }
+    // Also sets Qt::WA_DeleteOnClose, so an accepted close deletes the window.
+    void setDeleteOnClose(bool remove);
+    bool deleteOnClose() const { return m_deleteOnClose; }
+
+    void setModeOperationBusy(bool busy);
+    void setSettingsOperationBusy(bool busy);
+    void setSplitRulesFetchInProgress(bool inProgress);
+    void setSplitRulesImportInProgress(bool inProgress);
+
+    void showOperationError(const QString &message);
+    void showModeOperationError(const QString &message);
+    void showSettingsOperationError(const QString &message);
+    void showNotification(const QString &text, const QString &kind, int durationMs);
+
+    // "light" and "dark" are kept, anything else means "system".
+    static QString normalizedAppearance(const QString &preference);
+    void setAppearancePreference(const QString &preference);
+    QString appearancePreference() const { return m_appearance; }
+    Appearance effectiveAppearance() const;
+
+    int currentPage() const;
+    bool hasUnifiedTitleBar() const { return m_unifiedTitleBar; }
+
+public Q_SLOTS:
+    void refreshFromState();
+    void showPage(int index);
+
+Q_SIGNALS:
+    void hiddenToTray();
+    void connectRuntimeRequested();
+    void cancelConnectRequested();
+    void disconnectRuntimeRequested();
+    void setModeRequested(ModeInfo mode);
+    void splitRulesRequested();
+    void importSplitRulesRequested(QString kind, QString content);
+    void setLocalNetworkRequested(QString mode);
+    void refreshLocationsRequested();
+    void connectNodeRequested(QString nodeID, QString label);
+    void recentConnectionsCleared();
+    void connectSmartRequested(QString selector);
+    void pendingConnectTargetChanged(QString nodeID, QString label);
+    void setNodeFavoriteRequested(QString nodeID, bool favorite);
+    void openLogsRequested();
+    void openExternalURLRequested(QUrl url);
+    void settingsVisibleRequested();
+    void setKillSwitchEnabledRequested(bool enabled);
+    void setKillSwitchModeRequested(QString mode);
+    void switchToAutoAndEnableKillSwitchRequested();
+    void chooseModeForKillSwitchRequested();
+    void modePageLeft();
+    void setSystemProxyRequested(QString mode);
+    void setAPIURLRequested(QString apiURL);
+    void resetAPIURLRequested();
+    void setAutoConnectRequested(QString value);
+    void setLanguageRequested(QString source, QString language);
+    void checkUpdateRequested();
+    void setProxyListenersRequested(QString socksAddress, QString httpAddress);
+    void setSplitDNSLocalRequested(QStringList servers);
+    void setSplitDNSPolicyRequested(QString policy);
+    void clearSplitDNSLocalRequested();
+    void resetSplitDNSRequested();
+    void repairDiagnosticsRequested();
+    void loginRequested(QString username, QString password, bool rememberMe);
+    void logoutRequested();
+    void purchaseURLRequested(QString lang);
+    void appearancePreferenceChanged();
+
+protected:
+    void closeEvent(QCloseEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
+    void showEvent(QShowEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+
+private:
+    QWidget *buildContentColumn(QWidget *root);
+    void connectPages();
+    void connectState();
+    void refreshPages(std::initializer_list<WindowPage *> pages);
+    void applyTheme();
+    void applyTitleBarHooks();
+    bool inUnifiedTitleBar(const QMouseEvent *event) const;
+    void placeNotificationHost();
+    void showError(const QString &message, const QString &fallback);
+    QString linkLanguage() const;
+    QUrl accountLink(const QString &path) const;
+
+    QPointer<AppState> m_state;
+    GuiPreferences *m_preferences;
+    QString m_appearance = QStringLiteral("system");
+    DesktopColorScheme *m_desktopScheme = nullptr;
+
+    NavigationSidebar *m_sidebar = nullptr;
+    QWidget *m_content = nullptr;
+    QLabel *m_pageTitle = nullptr;
+    QStackedWidget *m_stack = nullptr;
+    VpnPage *m_vpnPage = nullptr;
+    LocationsPage *m_locationsPage = nullptr;
+    ModePage *m_modePage = nullptr;
+    SettingsPage *m_settingsPage = nullptr;
+    AccountPage *m_accountPage = nullptr;
+    NotificationHost *m_notifications = nullptr;
+
+    DelayedBusyIndicator *m_modeBusy = nullptr;
+    DelayedBusyIndicator *m_settingsBusy = nullptr;
+    bool m_splitRulesFetch = false;
+    bool m_splitRulesImport = false;
+
+    bool m_hideOnClose = true;
+    bool m_deleteOnClose = false;
+    bool m_unifiedTitleBar = false;
+};

@@ -1,0 +1,33 @@
+#include "VpnPage.h"
+
+#include <QFrame>
+#include <QTimer>
+
+namespace {
+
+constexpr int kSearchDebounceMs = 150;
+
+} // namespace
+
+VpnPage::VpnPage(QWidget *parent)
+    : WindowPage(QStringLiteral("TovraVPNPage"), tr("Connection"),
+                 tr("Your connection status and quick connect appear here."), parent)
+    , m_quickEntryPopup(new QFrame(this))
+    , m_searchTimer(new QTimer(this))
+{
+    m_quickEntryPopup->setObjectName(QStringLiteral("TovraVPNSearchPopup"));
+    m_quickEntryPopup->hide();
+    m_searchTimer->setSingleShot(true);
+    m_searchTimer->setInterval(kSearchDebounceMs);
+}
+
+void VpnPage::closeQuickEntryPopup()
+{
+    m_searchTimer->stop();
+    m_quickEntryPopup->hide();
+}
+
+bool VpnPage::isQuickEntryPopupOpen() const
+{
+    return m_quickEntryPopup->isVisible();
+}

@@ -1,0 +1,356 @@
+#include "WindowController.h"
+
+#include "DesktopColorScheme.h"
+#include "GuiMemLog.h"
+#include "GuiPreferences.h"
+#include "MainWindow.h"
+#include "ThemeEngine.h"
+
+#include <QApplication>
+#include <QDesktopServices>
+#include <QFileInfo>
+
+namespace {
+
+bool openWithDesktop(const QUrl &url)
+{
+    return QDesktopServices::openUrl(url);
+}
+
+} // namespace
+
+WindowController::WindowController(AppState *state, GuiPreferences *preferences, QObject *parent)
+    : QObject(parent)
+    , m_state(state)
+    , m_preferences(preferences)
+    , m_desktopScheme(new DesktopColorScheme(this))
+    , m_urlOpener(openWithDesktop)
+{
+    // The window hides to the tray or quits on purpose; a released window that closes must
+    // not end the program as the last window.
+    QApplication::setQuitOnLastWindowClosed(false);
+    connect(m_desktopScheme, &DesktopColorScheme::changed, this, [this] {
+        if (appearancePreference() == QLatin1String("system")) {
+            applyUpdateDialogTheme();
+        }
+    });
+}
+
+WindowController::~WindowController()
+{
+    delete m_window.data();
+}
+
+MainWindow *WindowController::window() const
+{
+    return m_window.data();
+}
+
+MainWindow *WindowController::ensureWindow()
+{
+    if (m_window) {
+        return m_window;
+    }
+    auto *window = new MainWindow(m_state, m_preferences);
+    m_window = window;
+    ++m_windowsCreated;
+    window->setHideOnClose(effectiveHideOnClose());
+    window->setDeleteOnClose(m_releaseOnHide);
+    window->setModeOperationBusy(m_modeBusy);
+    window->setSettingsOperationBusy(m_settingsBusy);
+    window->setSplitRulesFetchInProgress(m_splitRulesFetch);
+    window->setSplitRulesImportInProgress(m_splitRulesImport);
+    connect(window, &QObject::destroyed, this, [this](QObject *gone) {
+        if (m_window.data() == gone) {
+            m_window.clear();
+        }
+    });
+    forwardIntents(window);
+    connect(window, &MainWindow::hiddenToTray, this, &WindowController::handleHiddenToTray);
+    connect(window, &MainWindow::openExternalURLRequested, this,
+            &WindowController::openExternalURL);
+    connect(window, &MainWindow::appearancePreferenceChanged, this,
+            &WindowController::applyUpdateDialogTheme);
+    return window;
+}
+
+void WindowController::forwardIntents(MainWindow *window)
+{
+    connect(window, &MainWindow::connectRuntimeRequested, this,
+            &WindowController::connectRuntimeRequested);
+    connect(window, &MainWindow::cancelConnectRequested, this,
+            &WindowController::cancelConnectRequested);
+    connect(window, &MainWindow::disconnectRuntimeRequested, this,
+            &WindowController::disconnectRuntimeRequested);
+    connect(window, &MainWindow::setModeRequested, this, &WindowController::setModeRequested);
+    connect(window, &MainWindow::splitRulesRequested, this, &WindowController::splitRulesRequested);
+    connect(window, &MainWindow::importSplitRulesRequested, this,
+            &WindowController::importSplitRulesRequested);
+    connect(window, &MainWindow::setLocalNetworkRequested, this,
+            &WindowController::setLocalNetworkRequested);
+    connect(window, &MainWindow::refreshLocationsRequested, this,
+            &WindowController::refreshLocationsRequested);
+    connect(window, &MainWindow::connectNodeRequested, this,
+            &WindowController::connectNodeRequested);
+    connect(window, &MainWindow::recentConnectionsCleared, this,
+            &WindowController::recentConnectionsCleared);
+    connect(window, &MainWindow::connectSmartRequested, this,
+            &WindowController::connectSmartRequested);
+    connect(window, &MainWindow::setNodeFavoriteRequested, this,
+            &WindowController::setNodeFavoriteRequested);
+    connect(window, &MainWindow::openLogsRequested, this, &WindowController::openLogsRequested);
+    connect(window, &MainWindow::settingsVisibleRequested, this,
+            &WindowController::settingsVisibleRequested);
+    connect(window, &MainWindow::setKillSwitchEnabledRequested, this,
+            &WindowController::setKillSwitchEnabledRequested);
+    connect(window, &MainWindow::setKillSwitchModeRequested, this,
+            &WindowController::setKillSwitchModeRequested);
+    connect(window, &MainWindow::switchToAutoAndEnableKillSwitchRequested, this,
+            &WindowController::switchToAutoAndEnableKillSwitchRequested);
+    connect(window, &MainWindow::chooseModeForKillSwitchRequested, this,
+            &WindowController::chooseModeForKillSwitchRequested);
+    connect(window, &MainWindow::modePageLeft, this, &WindowController::modePageLeft);
+    connect(window, &MainWindow::setSystemProxyRequested, this,
+            &WindowController::setSystemProxyRequested);
+    connect(window, &MainWindow::setAPIURLRequested, this, &WindowController::setAPIURLRequested);
+    connect(window, &MainWindow::resetAPIURLRequested, this,
+            &WindowController::resetAPIURLRequested);
+    connect(window, &MainWindow::setAutoConnectRequested, this,
+            &WindowController::setAutoConnectRequested);
+    connect(window, &MainWindow::setLanguageRequested, this,
+            &WindowController::setLanguageRequested);
+    connect(window, &MainWindow::checkUpdateRequested, this,
+            &WindowController::checkUpdateRequested);
+    connect(window, &MainWindow::setProxyListenersRequested, this,
+            &WindowController::setProxyListenersRequested);
+    connect(window, &MainWindow::setSplitDNSLocalRequested, this,
+            &WindowController::setSplitDNSLocalRequested);
+    connect(window, &MainWindow::setSplitDNSPolicyRequested, this,
+            &WindowController::setSplitDNSPolicyRequested);
+    connect(window, &MainWindow::clearSplitDNSLocalRequested, this,
+            &WindowController::clearSplitDNSLocalRequested);
+    connect(window, &MainWindow::resetSplitDNSRequested, this,
+            &WindowController::resetSplitDNSRequested);
+    connect(window, &MainWindow::repairDiagnosticsRequested, this,
+            &WindowController::repairDiagnosticsRequested);
+    connect(window, &MainWindow::loginRequested, this, &WindowController::loginRequested);
+    connect(window, &MainWindow::logoutRequested, this, &WindowController::logoutRequested);
+    connect(window, &MainWindow::purchaseURLRequested, this,
+            &WindowController::purchaseURLRequested);
+}
+
+void WindowController::showOrRaise()
+{
+    MainWindow *window = ensureWindow();
+    if (window->isMinimized()) {
+        window->showNormal();
+    } else {
+        window->show();
+    }
+    window->raise();
+    window->activateWindow();
+}
+
+void WindowController::showPageOfWindow(int index)
+{
+    showOrRaise();
+    m_window->showPage(index);
+}
+
+void WindowController::showAccount()
+{
+    showPageOfWindow(MainWindow::AccountPageIndex);
+}
+
+void WindowController::showLocations()
+{
+    showPageOfWindow(MainWindow::LocationsPageIndex);
+}
+
+void WindowController::showModePage()
+{
+    showPageOfWindow(MainWindow::ModePageIndex);
+}
+
+void WindowController::activateFromApplication()
+{
+    showOrRaise();
+}
+
+bool WindowController::effectiveHideOnClose() const
+{
+    return m_hideOnClose && m_systemTrayAvailable;
+}
+
+void WindowController::setHideOnClose(bool hide)
+{
+    m_hideOnClose = hide;
+    if (m_window) {
+        m_window->setHideOnClose(effectiveHideOnClose());
+    }
+}
+
+void WindowController::setSystemTrayAvailable(bool available)
+{
+    m_systemTrayAvailable = available;
+    if (m_window) {
+        m_window->setHideOnClose(effectiveHideOnClose());
+    }
+}
+
+void WindowController::setReleaseOnHide(bool release)
+{
+    m_releaseOnHide = release;
+    if (m_window) {
+        m_window->setDeleteOnClose(release);
+    }
+}
+
+void WindowController::setUrlOpener(UrlOpener opener)
+{
+    m_urlOpener = opener ? std::move(opener) : UrlOpener(openWithDesktop);
+}
+
+void WindowController::handleHiddenToTray()
+{
+    if (!m_releaseOnHide) {
+        return;
+    }
+    guiMemLog(QStringLiteral("MainWindow QPointer cleared on hide-to-tray (created=%1)")
+                  .arg(m_windowsCreated));
+    // The window deletes itself once its close event is accepted.
+    m_window.clear();
+}
+
+void WindowController::setModeOperationBusy(bool busy)
+{
+    m_modeBusy = busy;
+    if (m_window) {
+        m_window->setModeOperationBusy(busy);
+    }
+}
+
+void WindowController::setSettingsOperationBusy(bool busy)
+{
+    m_settingsBusy = busy;
+    if (m_window) {
+        m_window->setSettingsOperationBusy(busy);
+    }
+}
+
+void WindowController::setSplitRulesFetchInProgress(bool inProgress)
+{
+    m_splitRulesFetch = inProgress;
+    if (m_window) {
+        m_window->setSplitRulesFetchInProgress(inProgress);
+    }
+}
+
+void WindowController::setSplitRulesImportInProgress(bool inProgress)
+{
+    m_splitRulesImport = inProgress;
+    if (m_window) {
+        m_window->setSplitRulesImportInProgress(inProgress);
+    }
+}
+
+void WindowController::showOperationError(const QString &message)
+{
+    if (m_window) {
+        m_window->showOperationError(message);
+    }
+}
+
+void WindowController::showModeOperationError(const QString &message)
+{
+    if (m_window) {
+        m_window->showModeOperationError(message);
+    }
+}
+
+void WindowController::showSettingsOperationError(const QString &message)
+{
+    if (m_window) {
+        m_window->showSettingsOperationError(message);
+    }
+}
+
+void WindowController::showNotification(const QString &text, const QString &kind, int durationMs)
+{
+    if (m_window) {
+        m_window->showNotification(text, kind, durationMs);
+    }
+}
+
+void WindowController::showErrorNotification(const QString &text)
+{
+    showNotification(text, QStringLiteral("error"), MainWindow::ErrorDurationMs);
+}
+
+QString WindowController::appearancePreference() const
+{
+    if (m_window) {
+        return m_window->appearancePreference();
+    }
+    return MainWindow::normalizedAppearance(m_preferences ? m_preferences->appearance()
+                                                          : QString());
+}
+
+void WindowController::setAppearancePreference(const QString &preference)
+{
+    if (m_window) {
+        // The window stores it and tells us through appearancePreferenceChanged.
+        m_window->setAppearancePreference(preference);
+        return;
+    }
+    const QString value = MainWindow::normalizedAppearance(preference);
+    if (value == appearancePreference()) {
+        return;
+    }
+    if (m_preferences) {
+        m_preferences->setAppearance(value);
+    }
+    applyUpdateDialogTheme();
+}
+
+void WindowController::setUpdateDialog(QWidget *dialog)
+{
+    m_updateDialog = dialog;
+    applyUpdateDialogTheme();
+}
+
+void WindowController::applyUpdateDialogTheme()
+{
+    if (!m_updateDialog) {
+        return;
+    }
+    const Appearance appearance =
+        ThemeEngine::resolveAppearance(appearancePreference(), m_desktopScheme->scheme());
+    ThemeEngine::applyToWindow(m_updateDialog, ThemeEngine::buildColors(appearance));
+}
+
+bool WindowController::openExternalURL(const QUrl &url)
+{
+    if (url.isValid() && m_urlOpener(url)) {
+        return true;
+    }
+    showErrorNotification(tr("Could not open link"));
+    return false;
+}
+
+bool WindowController::openLogDirectory(const QString &path)
+{
+    if (path.trimmed().isEmpty()) {
+        showErrorNotification(tr("Log directory is unavailable"));
+        return false;
+    }
+    if (!QFileInfo::exists(path)) {
+        showErrorNotification(tr("Log directory does not exist: %1").arg(path));
+        return false;
+    }
+    if (!m_urlOpener(QUrl::fromLocalFile(path))) {
+        showErrorNotification(tr("Could not open log directory: %1").arg(path));
+        return false;
+    }
+    return true;
+}

@@ -108,9 +108,6 @@ void TestControlClient::responsesOverSocket_data()
         << Reply{{Step{"HTTP/1.1 500 X\r\n\r\n{\"error\":", 0}, Step{"\"boom\"}", 50}},
                  Ending::Close}
         << 2000 << 500 << QByteArray("{\"error\":\"boom\"}");
-    QTest::addRow("answer before the request is read")
-        << Reply{{Step{ScriptedPeer::response(200, "{}"), 0}}, Ending::Close, false} << 2000 << 200
-        << QByteArray("{}");
 }
 
 void TestControlClient::responsesOverSocket()

@@ -1,0 +1,226 @@
+#pragma once
+
+#include "ConfigPaths.h"
+#include "KillSwitchInfo.h"
+#include "ModeInfo.h"
+#include "NodeGroupsInfo.h"
+#include "NodesInfo.h"
+#include "RuntimeInfo.h"
+#include "TrayMenu.h"
+#include "TrayRequestIds.h"
+#include "TrayStatusFormatter.h"
+#include "UserInfo.h"
+
+#include <QIcon>
+#include <QObject>
+#include <QString>
+#include <QSystemTrayIcon>
+#include <QUrl>
+
+#include <functional>
+#include <memory>
+
+class AppState;
+class ControlWorker;
+class GuiPreferences;
+class QTimer;
+class TrayMenuCloseWatcher;
+class TrayModeActions;
+class TrayNodeMenuModel;
+class TrayNotifier;
+
+// The system-tray face of the program: one icon, its menu and a status poll. It asks the
+// worker itself for what it can do alone and asks the shell, by signals, for anything that
+// needs a window or the shell's connect and sign-out flows.
+class TovraTrayApp : public QObject
+{
+    Q_OBJECT
+
+public:
+    static constexpr int kFirstPollMs = 250;
+    static constexpr int kPollMs = 10000;
+    static constexpr int kAfterOperationMs = 250;
+
+    TovraTrayApp(AppState *state, ControlWorker *controlWorker, GuiPreferences *preferences,
+                 QObject *parent = nullptr);
+    ~TovraTrayApp() override;
+
+    // Menu on the icon, tooltip, icon shown, first poll after 250 ms when the daemon may be used.
+    void start();
+
+    // The shell's verdict on whether the daemon may be used at all (compatibility check).
+    void setControlAvailable(bool available, const QString &reason);
+    bool isControlAvailable() const { return m_daemonAvailable; }
+    // Unavailable, or a connect, disconnect, mode, kill-switch or logout operation in flight.
+    bool isBusy() const;
+
+    // The shell started these operations with its own request ids; the tray disables its
+    // entries, shows the text and watches the worker for the answer with that id.
+    void beginConnect(quint64 requestId, const QString &statusText, bool cancellable);
+    void beginDisconnect(quint64 requestId);
+    void beginLogout(quint64 requestId);
+
+    // The label the menu shows for a node of the current catalogue (the id itself when the
+    // catalogue does not hold it); remembered as the target named while connecting.
+    QString connectTargetLabel(const QString &nodeId);
+
+    // Seams for the two things a test cannot answer headless: the kill-switch confirmation
+    // (1, 2 or 0) and the desktop's opener for the log directory.
+    void setKillSwitchConfirm(std::function<int()> confirm);
+    void setUrlOpener(std::function<bool(const QUrl &)> opener);
+
+    const TrayMenu &menu() const { return m_menu; }
+    TrayNodeMenuModel *nodeMenuModel() const { return m_nodeModel; }
+    QSystemTrayIcon *trayIcon() const { return m_icon; }
+    bool isMenuOpen() const { return m_menuOpen; }
+
+Q_SIGNALS:
+    void openTovraRequested();
+    void openLocationsRequested();
+    void accountRequested();
+    void logoutRequested();
+    void connectRuntimeRequested();
+    void cancelConnectRequested();
+    void disconnectRuntimeRequested();
+    void connectNodeRequested(const QString &nodeID, const QString &label);
+    void switchToAutoAndEnableKillSwitchRequested();
+    void chooseModeForKillSwitchRequested();
+
+public Q_SLOTS:
+    void refreshStatus();
+    void handleTrayActivated(QSystemTrayIcon::ActivationReason reason);
+    void openLogs();
+    void logoutAccount();
+    void connectRuntime();
+    void refreshNodes();
+    void disconnectRuntime();
+    void setMode(const ModeInfo &mode, const QString &statusText);
+    void setKillSwitchEnabled(bool enabled);
+    void setProxyRoutingDefault(const QString &route);
+    void setProxyRoutingRegion(const QString &region);
+    void setProxyRoutingGFWList(bool enabled);
+    void setLocalNetworkPreference(const QString &value);
+    void setSystemProxyPreference(const QString &value);
+    void setTovraSplitDefaultRoute(const QString &route);
+    void setTovraSplitRegion(const QString &region);
+    void setTovraSplitGFWList(bool enabled);
+    void setTovraSplitCustomRules(bool enabled);
+
+    void handleStatusFinished(quint64 requestId, const RuntimeInfo &info,
+                              const QString &errorMessage);
+    void handleUserFinished(quint64 requestId, const UserInfo &user, const QString &errorMessage);
+    void handleNodesFinished(quint64 requestId, const NodesInfo &nodes,
+                             const QString &errorMessage);
+    void handleNodeGroupsFinished(quint64 requestId, const NodeGroupsInfo &groups,
+                                  const QString &errorMessage);
+    void handleConfigPathsFinished(quint64 requestId, const ConfigPaths &paths,
+                                   const QString &errorMessage);
+    void handleKillSwitchFinished(quint64 requestId, const KillSwitchInfo &info,
+                                  const QString &errorMessage);
+    void handleConnectFinished(quint64 requestId, const RuntimeInfo &info,
+                               const QString &errorMessage);
+    void handleDisconnectFinished(quint64 requestId, const RuntimeInfo &info,
+                                  const QString &errorMessage);
+    void handleLogoutFinished(quint64 requestId, const RuntimeInfo &info,
+                              const QString &errorMessage);
+    void handleModeFinished(quint64 requestId, const ModeInfo &mode, const QString &errorMessage);
+
+    void handleRuntimeStateChanged();
+    void handleUserStateChanged();
+    void handleNodesStateChanged();
+    void handleNodeGroupsStateChanged();
+    void handleKillSwitchStateChanged();
+    void handleNodesRefreshCooldownChanged(int secondsRemaining);
+
+private:
+    // Which operation a mode-kind answer belongs to, for its completion message.
+    enum class ModeOperation { Mode, SplitOption, SystemProxy, LocalNetwork };
+
+    void connectWorker();
+    void connectState();
+    void connectMenu();
+
+    bool operationInFlight() const;
+    void startModeOperation(ModeOperation operation, const QString &statusText);
+    void sendModeChange(const ModeInfo &mode, const QString &statusText, ModeOperation operation);
+    void finishOperation();
+    void loadNodes(bool refresh);
+    void loadNodeGroups();
+    void fetchUser();
+
+    // Redraw from the records (nothing here sends a request).
+    void redraw();
+    // While the menu is open nothing changes under the pointer; the redraw waits for the close.
+    void redrawOrDefer();
+    void applyStatus(const RuntimeInfo &info, const QString &errorMessage);
+    void showDaemonUnavailable(const QString &errorMessage);
+    void updateEnabledStates();
+    void updateStatusLine();
+    void updateAccountLine();
+    void updateKillSwitchEntry();
+    void updateNodeEntries();
+    void updateRefreshNodesEntry();
+    void updateConnectEntry();
+    void fillNodeActions();
+    void releaseMenuEntries();
+    void handleMenuOpened();
+    void handleMenuClosed();
+    void prewarmMenu();
+
+    const KillSwitchInfo &killSwitchRecord() const;
+    ModeInfo currentMode() const;
+    QStringList catalogRegions() const;
+
+    AppState *m_state;
+    ControlWorker *m_worker;
+    GuiPreferences *m_preferences;
+
+    TrayMenu m_menu;
+    std::unique_ptr<QMenu> m_menuOwner;
+    QSystemTrayIcon *m_icon;
+    QIcon m_iconOn;
+    QIcon m_iconOff;
+    TrayModeActions *m_modeActions;
+    TrayNodeMenuModel *m_nodeModel;
+    std::unique_ptr<TrayNotifier> m_notifier;
+    TrayMenuCloseWatcher *m_closeWatcher;
+    QTimer *m_refreshTimer;
+
+    TrayRequestIds m_ids;
+    bool m_started = false;
+    bool m_daemonAvailable = true;
+    QString m_unavailableReason;
+    bool m_daemonUnreachable = false;
+    bool m_statusApplied = false;
+
+    bool m_connectInFlight = false;
+    bool m_connectCancellable = false;
+    QString m_connectStatusText;
+    bool m_disconnectInFlight = false;
+    bool m_modeInFlight = false;
+    ModeOperation m_modeOperation = ModeOperation::Mode;
+    QString m_pendingSystemProxy;
+    bool m_killSwitchInFlight = false;
+    bool m_logoutInFlight = false;
+    bool m_statusInFlight = false;
+    bool m_nodesLoadInFlight = false;
+    bool m_nodesRefreshInFlight = false;
+    bool m_nodeGroupsInFlight = false;
+    bool m_nodeGroupsRefresh = false;
+    bool m_userInFlight = false;
+    TrayStatusFormatter::UserLookup m_userLookup = TrayStatusFormatter::UserLookup::Pending;
+    QString m_nodesError;
+
+    bool m_menuOpen = false;
+    bool m_statusPendingWhileMenuOpen = false;
+    RuntimeInfo m_heldStatus;
+    QString m_heldStatusError;
+    bool m_redrawPending = false;
+    bool m_nodesExpanded = false;
+    QString m_pendingStatusText;
+    QString m_connectTargetId;
+    QString m_connectTargetLabel;
+
+    std::function<int()> m_killSwitchConfirm;
+    std::function<bool(const QUrl &)> m_urlOpener;
+};

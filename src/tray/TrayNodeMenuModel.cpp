@@ -1,0 +1,246 @@
+#include "TrayNodeMenuModel.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+QString text(const char *source)
+{
+    return QCoreApplication::translate("TrayMenuText", source);
+}
+
+const NodeGroupEntry *findByCode(const QList<NodeGroupEntry> &groups, const QString &code)
+{
+    for (const NodeGroupEntry &group : groups) {
+        if (!code.isEmpty() && group.code.compare(code, Qt::CaseInsensitive) == 0)
+            return &group;
+        if (const NodeGroupEntry *found = findByCode(group.subgroups, code))
+            return found;
+    }
+    return nullptr;
+}
+
+// The deepest group that lists the node itself.
+const NodeGroupEntry *findHolding(const QList<NodeGroupEntry> &groups, const QString &nodeId)
+{
+    for (const NodeGroupEntry &group : groups) {
+        if (const NodeGroupEntry *deeper = findHolding(group.subgroups, nodeId))
+            return deeper;
+        if (group.nodeIds.contains(nodeId))
+            return &group;
+    }
+    return nullptr;
+}
+
+QDateTime parseSince(const QString &since)
+{
+    const QString trimmed = since.trimmed();
+    if (trimmed.isEmpty())
+        return {};
+    QDateTime parsed = QDateTime::fromString(trimmed, Qt::ISODateWithMs);
+    if (!parsed.isValid())
+        parsed = QDateTime::fromString(trimmed, Qt::ISODate);
+    if (parsed.isValid())
+        return parsed;
+    bool ok = false;
+    const qint64 seconds = trimmed.toLongLong(&ok);
+    return ok && seconds > 0 ? QDateTime::fromSecsSinceEpoch(seconds) : QDateTime();
+}
+
+} // namespace
+
+TrayNodeMenuModel::TrayNodeMenuModel(QObject *parent)
+    : QAbstractListModel(parent)
+{}
+
+int TrayNodeMenuModel::rowCount(const QModelIndex &parent) const
+{
+    return parent.isValid() ? 0 : int(m_entries.size());
+}
+
+QVariant TrayNodeMenuModel::data(const QModelIndex &index, int role) const
+{
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid | CheckIndexOption::ParentIsInvalid))
+        return {};
+    const Entry &entry = m_entries.at(index.row());
+    switch (role) {
+    case Qt::DisplayRole: {
+        const QString duration = entry.connected ? durationText() : QString();
+        if (duration.isEmpty())
+            return entry.label;
+        return text("%1 · %2").arg(entry.label, duration);
+    }
+    case NodeIdRole:
+        return entry.id;
+    case LabelRole:
+        return entry.label;
+    case ConnectedRole:
+        return entry.connected;
+    default:
+        return {};
+    }
+}
+
+void TrayNodeMenuModel::setCatalog(const NodesInfo &nodes, const NodeGroupsInfo &groups,
+                                   const QStringList &recentIds)
+{
+    m_nodes = nodes;
+    m_groups = groups;
+    m_recentIds = recentIds;
+    rebuild();
+}
+
+void TrayNodeMenuModel::setConnection(bool connected, const QString &connectedSince,
+                                      const QDateTime &now)
+{
+    m_connected = connected;
+    m_since = connected ? parseSince(connectedSince) : QDateTime();
+    m_now = now;
+    rebuild();
+}
+
+void TrayNodeMenuModel::rebuild()
+{
+    QList<Entry> entries;
+    QSet<QString> taken;
+    const auto take = [&](const NodeEntry &node, bool connected) {
+        if (entries.size() >= kEntryCount || !node.valid || node.id.isEmpty() ||
+            taken.contains(node.id))
+            return;
+        taken.insert(node.id);
+        entries.append(Entry{node.id, nodeLabel(node, m_groups), connected});
+    };
+    const auto byId = [&](const QString &id) -> const NodeEntry * {
+        for (const NodeEntry &node : m_nodes.nodes) {
+            if (node.id == id)
+                return &node;
+        }
+        return nullptr;
+    };
+
+    if (const NodeEntry *current = currentNode()) {
+        // The catalogue's copy carries the name the daemon may have left out of the short one.
+        const NodeEntry *full = byId(current->id);
+        take(full ? *full : *current, m_connected && current == &m_nodes.connected);
+    }
+    for (const NodeEntry &node : m_nodes.nodes) {
+        if (node.tags.contains(QStringLiteral("FAVORITE"), Qt::CaseInsensitive))
+            take(node, false);
+    }
+    for (const QString &id : m_recentIds) {
+        if (const NodeEntry *node = byId(id))
+            take(*node, false);
+    }
+    QList<const NodeEntry *> measured;
+    for (const NodeEntry &node : m_nodes.nodes) {
+        if (node.pingMs >= 0)
+            measured.append(&node);
+    }
+    std::stable_sort(measured.begin(), measured.end(),
+                     [](const NodeEntry *a, const NodeEntry *b) { return a->pingMs < b->pingMs; });
+    for (const NodeEntry *node : measured)
+        take(*node, false);
+    for (const NodeEntry &node : m_nodes.nodes)
+        take(node, false);
+
+    beginResetModel();
+    m_entries = entries;
+    endResetModel();
+}
+
+const NodeEntry *TrayNodeMenuModel::currentNode() const
+{
+    if (m_connected && m_nodes.connected.valid)
+        return &m_nodes.connected;
+    if (m_nodes.selected.valid)
+        return &m_nodes.selected;
+    return nullptr;
+}
+
+QString TrayNodeMenuModel::durationText() const
+{
+    if (!m_connected || !m_since.isValid() || !m_now.isValid())
+        return {};
+    return formatDuration(std::max<qint64>(0, m_since.secsTo(m_now)));
+}
+
+QString TrayNodeMenuModel::currentLine() const
+{
+    const NodeEntry *node = currentNode();
+    if (!node)
+        return text("Current: %1").arg(text("none"));
+    const QString label = labelFor(node->id.isEmpty() ? node->name : node->id);
+    if (m_connected && node == &m_nodes.connected) {
+        const QString duration = durationText();
+        if (duration.isEmpty())
+            return text("Location: %1").arg(label);
+        return text("Location: %1 · %2").arg(label, duration);
+    }
+    if (m_nodes.stale)
+        return text("Current: %1 (stale)").arg(label);
+    return text("Current: %1").arg(label);
+}
+
+QString TrayNodeMenuModel::labelFor(const QString &nodeId) const
+{
+    for (const NodeEntry &node : m_nodes.nodes) {
+        if (node.id == nodeId)
+            return nodeLabel(node, m_groups);
+    }
+    for (const NodeEntry *node : {&m_nodes.connected, &m_nodes.selected}) {
+        if (node->valid && node->id == nodeId)
+            return nodeLabel(*node, m_groups);
+    }
+    return nodeId;
+}
+
+QString TrayNodeMenuModel::joinLabel(const QString &first, const QString &second)
+{
+    const QString a = first.trimmed();
+    const QString b = second.trimmed();
+    if (a.isEmpty())
+        return b;
+    if (b.isEmpty())
+        return a;
+    if (a.compare(b, Qt::CaseInsensitive) == 0 || b.startsWith(a, Qt::CaseInsensitive))
+        return b;
+    return QStringLiteral("%1 - %2").arg(a, b);
+}
+
+QString TrayNodeMenuModel::groupLabel(const QString &name)
+{
+    const QString trimmed = name.trimmed();
+    return trimmed.isEmpty() ? text("Group") : trimmed;
+}
+
+QString TrayNodeMenuModel::formatDuration(qint64 seconds)
+{
+    if (seconds < 60)
+        return text("less than 1m");
+    if (seconds < 3600)
+        return text("%1m").arg(seconds / 60);
+    if (seconds < 86400) {
+        const qint64 minutes = (seconds % 3600) / 60;
+        if (minutes == 0)
+            return text("%1h").arg(seconds / 3600);
+        return text("%1h %2m").arg(seconds / 3600).arg(minutes);
+    }
+    const qint64 hours = (seconds % 86400) / 3600;
+    if (hours == 0)
+        return text("%1d").arg(seconds / 86400);
+    return text("%1d %2h").arg(seconds / 86400).arg(hours);
+}
+
+QString TrayNodeMenuModel::nodeLabel(const NodeEntry &node, const NodeGroupsInfo &groups)
+{
+    // The country names the place; a node without one is placed by the group that lists it.
+    const NodeGroupEntry *group = findByCode(groups.groups, node.region);
+    if (!group)
+        group = findHolding(groups.groups, node.id);
+    const QString place = group ? groupLabel(group->name) : node.region;
+    const QString name = node.name.trimmed().isEmpty() ? node.id : node.name;
+    return joinLabel(place, name);
+}

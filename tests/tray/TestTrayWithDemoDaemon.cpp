@@ -1,0 +1,214 @@
+#include "AppState.h"
+#include "ControlMetaTypes.h"
+#include "ControlWorker.h"
+#include "DemoDaemon.h"
+#include "GuiPreferences.h"
+#include "TempXdgDirs.h"
+#include "TovraTrayApp.h"
+#include "TrayNodeMenuModel.h"
+
+#include <QAbstractItemModelTester>
+#include <QAction>
+#include <QMenu>
+#include <QSignalSpy>
+#include <QTest>
+#include <QThread>
+
+#include <memory>
+
+class TestTrayWithDemoDaemon : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void init();
+    void cleanup();
+    void modeAnswerSetsCheckMarks_data();
+    void modeAnswerSetsCheckMarks();
+    void systemProxyAnswer();
+    void nodeEntriesFromTheCatalogue();
+    void shellConnectShowsCancelThenConnected();
+
+private:
+    QAction *entry(const QString &name) const;
+
+    std::unique_ptr<TempXdgDirs> m_xdg;
+    std::unique_ptr<DemoDaemon> m_daemon;
+    QThread *m_thread = nullptr;
+    ControlWorker *m_worker = nullptr;
+    std::unique_ptr<AppState> m_state;
+    std::unique_ptr<GuiPreferences> m_preferences;
+    std::unique_ptr<TovraTrayApp> m_tray;
+};
+
+void TestTrayWithDemoDaemon::initTestCase()
+{
+    registerControlMetaTypes();
+}
+
+void TestTrayWithDemoDaemon::init()
+{
+    m_xdg = std::make_unique<TempXdgDirs>();
+    m_daemon = std::make_unique<DemoDaemon>();
+    QVERIFY2(m_daemon->start({QStringLiteral("--connect-ms"), QStringLiteral("100")}),
+             qPrintable(m_daemon->errorString()));
+    m_thread = new QThread;
+    m_worker = new ControlWorker(m_daemon->socketPath());
+    m_worker->moveToThread(m_thread);
+    connect(m_thread, &QThread::finished, m_worker, &QObject::deleteLater);
+    m_thread->start();
+    m_state = std::make_unique<AppState>();
+    m_preferences = std::make_unique<GuiPreferences>();
+    m_tray = std::make_unique<TovraTrayApp>(m_state.get(), m_worker, m_preferences.get());
+    m_tray->start();
+    QTRY_COMPARE(m_tray->menu().statusLine->text(), QStringLiteral("Tovra: disconnected"));
+}
+
+void TestTrayWithDemoDaemon::cleanup()
+{
+    m_tray.reset();
+    m_worker->stop();
+    m_thread->quit();
+    QVERIFY(m_thread->wait(5000));
+    delete m_thread;
+    QVERIFY(m_daemon->stop());
+    m_daemon.reset();
+    m_preferences.reset();
+    m_state.reset();
+    m_xdg.reset();
+}
+
+QAction *TestTrayWithDemoDaemon::entry(const QString &name) const
+{
+    const TrayMenu &m = m_tray->menu();
+    const QHash<QString, QAction *> entries{
+        {QStringLiteral("Auto"), m.autoMode},
+        {QStringLiteral("WireGuard"), m.wireGuard},
+        {QStringLiteral("TovraVPN Global"), m.tunnelGlobal},
+        {QStringLiteral("TovraVPN Split"), m.tunnelSplit},
+        {QStringLiteral("Tovra Proxy Global"), m.proxyGlobal},
+        {QStringLiteral("Tovra Proxy Split"), m.proxySplit},
+    };
+    return entries.value(name);
+}
+
+void TestTrayWithDemoDaemon::modeAnswerSetsCheckMarks_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("switching");
+    QTest::addColumn<bool>("tunnelOptions");
+    QTest::addColumn<bool>("proxyOptions");
+    QTest::addRow("WireGuard") << "WireGuard"
+                               << "Tovra: switching to WireGuard..." << false << false;
+    QTest::addRow("TovraVPN Global") << "TovraVPN Global"
+                                     << "Tovra: switching to TovraVPN..." << false << false;
+    QTest::addRow("TovraVPN Split") << "TovraVPN Split"
+                                    << "Tovra: switching TovraVPN split..." << true << false;
+    QTest::addRow("Tovra Proxy Global") << "Tovra Proxy Global"
+                                        << "Tovra: switching to Tovra Proxy..." << false << false;
+    QTest::addRow("Tovra Proxy Split")
+        << "Tovra Proxy Split"
+        << "Tovra: switching to Tovra Proxy Split..." << false << true;
+}
+
+void TestTrayWithDemoDaemon::modeAnswerSetsCheckMarks()
+{
+    QFETCH(QString, name);
+    QFETCH(QString, switching);
+    QFETCH(bool, tunnelOptions);
+    QFETCH(bool, proxyOptions);
+    const TrayMenu &m = m_tray->menu();
+    QVERIFY(m.autoMode->isChecked());
+    QCOMPARE(m.modeTitle->text(), QStringLiteral("Mode: Auto"));
+
+    QAction *chosen = entry(name);
+    chosen->trigger();
+    QVERIFY(!chosen->isChecked());
+    QVERIFY(m.autoMode->isChecked());
+    QCOMPARE(m.statusLine->text(), switching);
+    QVERIFY(!m.autoMode->isEnabled());
+
+    QTRY_VERIFY(chosen->isChecked());
+    QCOMPARE(m.daemonLine->text(), QStringLiteral("Mode updated"));
+    const QList<QAction *> modes{m.autoMode,    m.wireGuard,   m.tunnelGlobal,
+                                 m.tunnelSplit, m.proxyGlobal, m.proxySplit};
+    for (QAction *mode : modes)
+        QCOMPARE(mode->isChecked(), mode == chosen);
+    QCOMPARE(m.modeTitle->text(), QStringLiteral("Mode: %1").arg(name));
+    QCOMPARE(m.tunnelSplitMenu->menuAction()->isVisible(), tunnelOptions);
+    QCOMPARE(m.tunnelSplitMenu->menuAction()->isChecked(), tunnelOptions);
+    QCOMPARE(m.proxySplitMenu->menuAction()->isVisible(), proxyOptions);
+    QVERIFY(chosen->isEnabled());
+    QVERIFY(!m_tray->isBusy());
+}
+
+void TestTrayWithDemoDaemon::systemProxyAnswer()
+{
+    const TrayMenu &m = m_tray->menu();
+    m.systemProxyLock->trigger();
+    QCOMPARE(m.statusLine->text(), QStringLiteral("Tovra: updating system proxy..."));
+    QTRY_COMPARE(m.daemonLine->text(), QStringLiteral("System proxy set to lock"));
+    QVERIFY(m.systemProxyLock->isChecked());
+    QVERIFY(!m.systemProxyOff->isChecked());
+    QCOMPARE(m.systemProxyMenu->title(), QStringLiteral("System Proxy: Lock"));
+}
+
+void TestTrayWithDemoDaemon::nodeEntriesFromTheCatalogue()
+{
+    const TrayMenu &m = m_tray->menu();
+    QAbstractItemModelTester tester(m_tray->nodeMenuModel(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QTRY_VERIFY(m_state->nodes().valid);
+    QTRY_VERIFY(m_state->nodeGroups().valid);
+    QCOMPARE(m_tray->nodeMenuModel()->rowCount(), TrayNodeMenuModel::kEntryCount);
+
+    Q_EMIT m.nodeMenu->aboutToShow();
+    QVERIFY(!m.nodePlaceholder->isVisible());
+    QVERIFY(m.nodeFootSeparator->isVisible());
+    for (QAction *node : m.nodeEntries) {
+        QVERIFY(node->isVisible());
+        QVERIFY2(node->text().contains(u" - "), qPrintable(node->text()));
+    }
+
+    QSignalSpy chosen(m_tray.get(), &TovraTrayApp::connectNodeRequested);
+    QAction *first = m.nodeEntries.constFirst();
+    first->trigger();
+    QCOMPARE(chosen.count(), 1);
+    QCOMPARE(chosen.at(0).at(0).toString(), first->data().toString());
+    QCOMPARE(chosen.at(0).at(1).toString(), first->text());
+}
+
+void TestTrayWithDemoDaemon::shellConnectShowsCancelThenConnected()
+{
+    const TrayMenu &m = m_tray->menu();
+    // The shell signs in and connects with its own numbers; the tray only watches.
+    QSignalSpy loggedIn(m_worker, &ControlWorker::loginFinished);
+    QMetaObject::invokeMethod(
+        m_worker, "login", Qt::QueuedConnection, Q_ARG(quint64, 4294967296ULL),
+        Q_ARG(QString, QStringLiteral("demo@tovra.invalid")),
+        Q_ARG(QString, QStringLiteral("demo")), Q_ARG(bool, false), Q_ARG(int, 3000));
+    QVERIFY(loggedIn.wait());
+    QCOMPARE(loggedIn.at(0).at(2).toString(), QString());
+
+    const quint64 connectId = 4294967297ULL;
+    m_tray->beginConnect(connectId, QStringLiteral("Tovra: connecting..."), true);
+    QCOMPARE(m.connect->text(), QStringLiteral("Cancel"));
+    QVERIFY(m.connect->isEnabled());
+    QSignalSpy cancel(m_tray.get(), &TovraTrayApp::cancelConnectRequested);
+    m.connect->trigger();
+    QCOMPARE(cancel.count(), 1);
+
+    QMetaObject::invokeMethod(m_worker, "connectRuntime", Qt::QueuedConnection,
+                              Q_ARG(quint64, connectId), Q_ARG(int, 3000));
+    QTRY_COMPARE(m.statusLine->text(), QStringLiteral("Tovra: connected"));
+    QCOMPARE(m.connect->text(), QStringLiteral("Connect"));
+    QVERIFY(!m.connect->isEnabled());
+    QVERIFY(m.disconnect->isEnabled());
+    QTRY_VERIFY(m.account->text().startsWith(u"Account: "));
+    QTRY_COMPARE(m.account->text(), QStringLiteral("Account: demo@tovra.invalid"));
+    QVERIFY(m.logout->isEnabled());
+}
+
+QTEST_MAIN(TestTrayWithDemoDaemon)
+#include "TestTrayWithDemoDaemon.moc"

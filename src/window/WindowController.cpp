@@ -60,11 +60,9 @@ MainWindow *WindowController::ensureWindow()
     window->setSettingsOperationBusy(m_settingsBusy);
     window->setSplitRulesFetchInProgress(m_splitRulesFetch);
     window->setSplitRulesImportInProgress(m_splitRulesImport);
-    connect(window, &QObject::destroyed, this, [this](QObject *gone) {
-        if (m_window.data() == gone) {
-            m_window.clear();
-        }
-    });
+    // Only the current window stays connected here (a released one is cut off first), so a
+    // destroyed window is always the one to forget.
+    connect(window, &QObject::destroyed, this, [this] { m_window.clear(); });
     forwardIntents(window);
     connect(window, &MainWindow::hiddenToTray, this, &WindowController::handleHiddenToTray);
     connect(window, &MainWindow::openExternalURLRequested, this,
@@ -219,6 +217,7 @@ void WindowController::handleHiddenToTray()
     guiMemLog(QStringLiteral("MainWindow QPointer cleared on hide-to-tray (created=%1)")
                   .arg(m_windowsCreated));
     // The window deletes itself once its close event is accepted.
+    disconnect(m_window, &QObject::destroyed, this, nullptr);
     m_window.clear();
 }
 

@@ -5,9 +5,12 @@
 #include "ScriptedPeer.h"
 #include "TempXdgDirs.h"
 #include "TovraTrayApp.h"
+#include "TrayMenuBuilder.h"
 #include "TrayMenuCloseWatcher.h"
 
 #include <QAction>
+#include <QDir>
+#include <QFont>
 #include <QMenu>
 #include <QRegularExpression>
 #include <QSignalSpy>
@@ -65,6 +68,9 @@ private Q_SLOTS:
     void splitOptionRequestBytes_data();
     void splitOptionRequestBytes();
     void controlUnavailable();
+    void openLogs_data();
+    void openLogs();
+    void flatLayout();
 
 private:
     void startWith(const QByteArray &reply);
@@ -572,6 +578,80 @@ void TestTovraTrayApp::controlUnavailable()
     QVERIFY(m.refreshStatus->isEnabled());
     QVERIFY(m.disconnect->isEnabled());
     QVERIFY(!m_tray->isBusy());
+}
+
+void TestTovraTrayApp::openLogs_data()
+{
+    QTest::addColumn<QByteArray>("reply");
+    QTest::addColumn<bool>("openerSucceeds");
+    QTest::addColumn<QString>("message");
+    QTest::addColumn<bool>("opened");
+    const QString tmp = QDir::tempPath();
+    const QByteArray existing = R"({"LogDir":")" + tmp.toUtf8() + R"("})";
+    QTest::addRow("opened") << ScriptedPeer::response(200, existing) << true << "" << true;
+    QTest::addRow("opener refuses")
+        << ScriptedPeer::response(200, existing) << false
+        << QStringLiteral("Error: could not open log directory: %1").arg(tmp) << true;
+    QTest::addRow("missing directory")
+        << ScriptedPeer::response(200, R"({"LogDir":"/nonexistent/tovra/logs"})") << true
+        << "Error: log directory does not exist: /nonexistent/tovra/logs" << false;
+    QTest::addRow("no path known") << ScriptedPeer::response(200, R"({"ConfigDir":"/etc"})") << true
+                                   << "Error: missing log directory" << false;
+    QTest::addRow("daemon error") << ScriptedPeer::response(500, R"({"error":"no paths here"})")
+                                  << true << "Error: no paths here" << false;
+}
+
+void TestTovraTrayApp::openLogs()
+{
+    QFETCH(QByteArray, reply);
+    QFETCH(bool, openerSucceeds);
+    QFETCH(QString, message);
+    QFETCH(bool, opened);
+    startWith(plainStatus("disconnected"));
+    const TrayMenu &m = m_tray->menu();
+    QList<QUrl> urls;
+    m_tray->setUrlOpener([&](const QUrl &url) {
+        urls.append(url);
+        return openerSucceeds;
+    });
+    const QString before = m.daemonLine->text();
+    m_peer->setReply(reply);
+    m.openLogs->trigger();
+    QTRY_COMPARE(requestsStartingWith("GET /v1/config/path ").size(), 1);
+    flushWorker();
+    QCOMPARE(urls.size(), opened ? 1 : 0);
+    if (opened)
+        QCOMPARE(urls.constFirst(), QUrl::fromLocalFile(QDir::tempPath()));
+    QCOMPARE(m.daemonLine->text(), message.isEmpty() ? before : message);
+}
+
+void TestTovraTrayApp::flatLayout()
+{
+    TrayMenuBuilder::setUsesSubmenus(false);
+    const TrayMenu flat = TrayMenuBuilder::build();
+    TrayMenuBuilder::setUsesSubmenus(true);
+    const std::unique_ptr<QMenu> owner(flat.menu);
+
+    QVERIFY(!flat.nodeMenu);
+    QVERIFY(!flat.modeMenu);
+    QVERIFY(!flat.localNetworkMenu);
+    const QList<QAction *> top = flat.menu->actions();
+    for (QAction *action : flat.nodeEntries)
+        QVERIFY(top.contains(action));
+    for (QAction *action : {flat.autoMode, flat.tunnelGlobal, flat.proxySplit, flat.localDirect})
+        QVERIFY2(top.contains(action), qPrintable(action->text()));
+    QCOMPARE(flat.modeTitle->text(), QStringLiteral("[ Mode ]"));
+    QCOMPARE(flat.localNetworkTitle->text(), QStringLiteral("[ LAN Access ]"));
+    QVERIFY(!flat.modeTitle->isEnabled());
+    QCOMPARE(flat.modeTitle->font().weight(), QFont::Bold);
+    QVERIFY(flat.tunnelSplitMenu->menuAction()->isVisible());
+    QVERIFY(flat.proxySplitMenu->menuAction()->isVisible());
+
+    const TrayMenu nested = TrayMenuBuilder::build();
+    const std::unique_ptr<QMenu> nestedOwner(nested.menu);
+    QVERIFY(nested.nodeMenu && nested.modeMenu && nested.localNetworkMenu);
+    QVERIFY(!nested.menu->actions().contains(nested.autoMode));
+    QVERIFY(!nested.tunnelSplitMenu->menuAction()->isVisible());
 }
 
 QTEST_MAIN(TestTovraTrayApp)

@@ -1,0 +1,121 @@
+// The Tovra desktop client: one tray process per user, restarted to change its language.
+#include "ControlClient.h"
+#include "ControlEndpoints.h"
+#include "GuiAutostart.h"
+#include "GuiPreferences.h"
+#include "GuiRestartLauncher.h"
+#include "GuiRestartScheduler.h"
+#include "GuiSingleInstance.h"
+#include "TovraAppShell.h"
+#include "TranslationManager.h"
+
+#include <QApplication>
+#include <QIcon>
+#include <QTimer>
+
+namespace {
+
+const char kRestartShowWindow[] = "--tovra-restart-show-window";
+const char kLanguageRestart[] = "--tovra-language-restart";
+const char kAutostart[] = "--tovra-autostart";
+
+// The interface language is settled before any widget exists; the daemon owns the setting.
+QString startupLanguage(const QString &socketPath, GuiPreferences &preferences)
+{
+    QString error;
+    const RuntimeInfo status = ControlEndpoints::fetchStatus(socketPath, 500, &error);
+    if (error.isEmpty()) {
+        QString tag = status.effectiveLanguage.trimmed();
+        if (tag.isEmpty())
+            tag = status.language.trimmed();
+        if (!tag.isEmpty()) {
+            tag = TranslationManager::normalize(tag);
+            preferences.setLastEffectiveLanguage(tag);
+            return tag;
+        }
+    }
+    const QString stored = preferences.lastEffectiveLanguage();
+    return stored.isEmpty() ? TranslationManager::systemLanguage() : stored;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Tovra"));
+    QApplication::setApplicationVersion(QStringLiteral(TOVRA_VERSION));
+    QApplication::setOrganizationName(QStringLiteral("Tovra"));
+    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.png")));
+    QApplication::setQuitOnLastWindowClosed(false);
+
+    const QStringList arguments = QApplication::arguments();
+    const bool restartShowWindow = arguments.contains(QLatin1String(kRestartShowWindow));
+    const bool languageRestart = arguments.contains(QLatin1String(kLanguageRestart));
+    const bool autostart = arguments.contains(QLatin1String(kAutostart));
+
+    GuiPreferences preferences;
+
+    if (GuiAutostart::isSupported()) {
+        const GuiAutostart loginStartup;
+        QString error;
+        if (!loginStartup.reconcile(preferences.launchAtLogin(), &error))
+            qWarning("failed to reconcile Tovra login startup: %s", qUtf8Printable(error));
+        if (autostart && !preferences.launchAtLogin())
+            return 0;
+    }
+
+    GuiSingleInstance singleInstance(GuiSingleInstance::defaultServerName());
+    QString instanceError;
+    const SingleInstanceResult instance =
+        restartShowWindow ? singleInstance.waitForPrimary(45000, 100, &instanceError)
+                          : singleInstance.acquire(&instanceError);
+    if (instance == SingleInstanceResult::ActivatedExisting)
+        return 0;
+    if (instance == SingleInstanceResult::Failed) {
+        qWarning("failed to start Tovra GUI single-instance server: %s",
+                 qUtf8Printable(instanceError));
+        return 1;
+    }
+
+    const QString socketPath = ControlClient::socketPathFromEnvironment();
+    const QString language =
+        TranslationManager::normalize(startupLanguage(socketPath, preferences));
+    QApplication::setLayoutDirection(TranslationManager::layoutDirection(language));
+    TranslationManager translations;
+    if (!translations.apply(language))
+        translations.apply(TranslationManager::defaultLanguage());
+    preferences.setLastEffectiveLanguage(translations.currentLanguage());
+
+    TovraAppShell shell(nullptr, socketPath, &preferences);
+    shell.setCurrentEffectiveLanguage(translations.currentLanguage());
+    shell.setLanguageRestartAllowed(!languageRestart);
+    shell.setLaunchedByAutostart(autostart);
+
+    GuiRestartScheduler restartScheduler;
+
+    QObject::connect(&singleInstance, &GuiSingleInstance::activateRequested, &shell,
+                     &TovraAppShell::activateFromSecondary);
+    QObject::connect(&shell, &TovraAppShell::restartRequested, &restartScheduler, [&] {
+        restartScheduler.schedule(
+            700, [] { return launchGuiRestart(); },
+            [&shell] {
+                qWarning("failed to restart Tovra GUI");
+                shell.handleGUIRestartFailed();
+            },
+            [] { QCoreApplication::quit(); });
+    });
+    QObject::connect(&shell, &TovraAppShell::exitRequested, &app, &QCoreApplication::quit,
+                     Qt::QueuedConnection);
+
+    shell.start();
+
+    if (restartShowWindow) {
+        QTimer::singleShot(0, &shell, &TovraAppShell::activateFromSecondary);
+        QTimer::singleShot(0, &shell, &TovraAppShell::refreshLocationsAfterGUIRestart);
+    }
+
+    const int exitCode = QApplication::exec();
+    shell.shutdown();
+    return exitCode;
+}

@@ -1,0 +1,521 @@
+#include "SettingsFlow.h"
+
+#include "AppState.h"
+#include "ControlWorker.h"
+#include "RequestLedger.h"
+#include "ShellNotifier.h"
+#include "ShellText.h"
+#include "ShellWorkers.h"
+#include "TovraTrayApp.h"
+#include "WindowController.h"
+
+using Kind = RequestLedger::Kind;
+
+namespace {
+
+// Routing changes reconfigure the tunnel; give the daemon time before calling it lost.
+constexpr int kModeTimeoutMs = 20000;
+constexpr int kSettingsTimeoutMs = 10000;
+constexpr int kRepairTimeoutMs = 30000;
+
+QString summaryOf(const ModeInfo &mode)
+{
+    if (mode.transport.isEmpty())
+        return QString();
+    QStringList parts{mode.transport};
+    if (!mode.policy.isEmpty() && mode.policy != QLatin1String("global"))
+        parts.append(mode.policy);
+    if (!mode.region.isEmpty())
+        parts.append(mode.region);
+    return parts.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+SettingsFlow::SettingsFlow(const ShellContext &context, QObject *parent)
+    : QObject(parent)
+    , m_context(context)
+{}
+
+bool SettingsFlow::busy() const
+{
+    const RequestLedger *ledger = m_context.ledger;
+    return ledger->inFlight(Kind::Mode) || ledger->inFlight(Kind::LocalNetwork) ||
+           ledger->inFlight(Kind::SystemProxy) || ledger->inFlight(Kind::KillSwitch);
+}
+
+void SettingsFlow::modeBusyChanged()
+{
+    const RequestLedger *ledger = m_context.ledger;
+    m_context.window->setModeOperationBusy(ledger->inFlight(Kind::Mode) ||
+                                           ledger->inFlight(Kind::LocalNetwork) ||
+                                           ledger->inFlight(Kind::SystemProxy));
+}
+
+void SettingsFlow::settingsBusyChanged()
+{
+    const RequestLedger *ledger = m_context.ledger;
+    m_context.window->setSettingsOperationBusy(
+        ledger->inFlight(Kind::KillSwitch) || ledger->inFlight(Kind::APIURL) ||
+        ledger->inFlight(Kind::AutoConnect) || ledger->inFlight(Kind::ProxyListen) ||
+        ledger->inFlight(Kind::SplitDNS) || ledger->inFlight(Kind::Repair));
+}
+
+void SettingsFlow::setMode(const ModeInfo &mode)
+{
+    // Choosing a proxy mode leaves a pending kill-switch enable nothing to wait for.
+    if (mode.transport == QLatin1String("proxy"))
+        m_pendingKillSwitchEnable = false;
+    const quint64 id = m_context.ledger->issue(Kind::Mode);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setMode", Qt::QueuedConnection,
+                              Q_ARG(quint64, id), Q_ARG(ModeInfo, mode),
+                              Q_ARG(int, kModeTimeoutMs));
+    modeBusyChanged();
+}
+
+void SettingsFlow::setLocalNetwork(const QString &value)
+{
+    const quint64 id = m_context.ledger->issue(Kind::LocalNetwork);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setLocalNetworkPreference",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, value),
+                              Q_ARG(int, kModeTimeoutMs));
+    modeBusyChanged();
+}
+
+void SettingsFlow::setSystemProxy(const QString &value)
+{
+    const quint64 id = m_context.ledger->issue(Kind::SystemProxy);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setSystemProxyPreference",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, value),
+                              Q_ARG(int, kModeTimeoutMs));
+    modeBusyChanged();
+}
+
+void SettingsFlow::applyMode(const ModeInfo &mode)
+{
+    RuntimeInfo runtime = m_context.state->runtime();
+    runtime.mode = mode;
+    runtime.modeSummary = summaryOf(mode);
+    m_context.state->setRuntime(runtime);
+}
+
+void SettingsFlow::handleMode(quint64 requestId, const ModeInfo &info, const QString &errorMessage)
+{
+    // Mode, local network and system proxy all answer with the mode record.
+    Kind kind = Kind::Mode;
+    const char *failure = QT_TRANSLATE_NOOP("TovraAppShell", "Could not switch mode");
+    if (m_context.ledger->isLatest(Kind::LocalNetwork, requestId)) {
+        kind = Kind::LocalNetwork;
+        failure = QT_TRANSLATE_NOOP("TovraAppShell", "Could not update local network");
+    } else if (m_context.ledger->isLatest(Kind::SystemProxy, requestId)) {
+        kind = Kind::SystemProxy;
+        failure = QT_TRANSLATE_NOOP("TovraAppShell", "Could not update system proxy");
+    }
+    if (!m_context.ledger->accept(kind, requestId))
+        return;
+    modeBusyChanged();
+    if (!errorMessage.isEmpty()) {
+        if (kind == Kind::Mode)
+            m_pendingKillSwitchEnable = false;
+        m_context.window->showModeOperationError(failureText(errorMessage, failure));
+        return;
+    }
+    applyMode(info);
+    m_context.tray->refreshStatus();
+    // The kill switch waited for a VPN transport; now it has one.
+    if (kind == Kind::Mode && m_pendingKillSwitchEnable &&
+        info.transport != QLatin1String("proxy")) {
+        m_pendingKillSwitchEnable = false;
+        sendKillSwitchEnabled(true);
+    }
+}
+
+void SettingsFlow::setKillSwitchEnabled(bool enabled)
+{
+    if (busy()) {
+        m_context.notifier->info(shellText(
+            QT_TRANSLATE_NOOP("TovraAppShell", "Please wait for the current operation to finish")));
+        return;
+    }
+    const KillSwitchInfo &killSwitch = m_context.state->killSwitch();
+    // The daemon holds a lockdown; switching it off is refused without a word.
+    if (!enabled && killSwitch.mode == QLatin1String("lockdown"))
+        return;
+    if (enabled && m_context.state->runtime().mode.transport == QLatin1String("proxy")) {
+        m_context.notifier->info(shellText(
+            QT_TRANSLATE_NOOP("TovraAppShell", "Pick a VPN mode to turn on Kill Switch")));
+        return;
+    }
+    sendKillSwitchEnabled(enabled);
+}
+
+void SettingsFlow::sendKillSwitchEnabled(bool enabled)
+{
+    const quint64 id = m_context.ledger->issue(Kind::KillSwitch);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setKillSwitchEnabled",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(bool, enabled),
+                              Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::setKillSwitchMode(const QString &mode)
+{
+    if (busy()) {
+        m_context.notifier->info(shellText(
+            QT_TRANSLATE_NOOP("TovraAppShell", "Please wait for the current operation to finish")));
+        return;
+    }
+    const quint64 id = m_context.ledger->issue(Kind::KillSwitch);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setKillSwitchMode",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, mode),
+                              Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::switchToAutoAndEnableKillSwitch()
+{
+    if (busy()) {
+        m_context.notifier->info(shellText(
+            QT_TRANSLATE_NOOP("TovraAppShell", "Please wait for the current operation to finish")));
+        return;
+    }
+    // The kill switch is asked for only once the daemon reports the new transport.
+    ModeInfo mode;
+    mode.transport = QStringLiteral("auto");
+    setMode(mode);
+    m_pendingKillSwitchEnable = true;
+}
+
+void SettingsFlow::chooseModeForKillSwitch()
+{
+    m_pendingKillSwitchEnable = true;
+    m_context.window->showModePage();
+    m_context.notifier->info(
+        shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Pick a VPN mode to turn on Kill Switch")));
+}
+
+void SettingsFlow::cancelPendingKillSwitchEnable()
+{
+    m_pendingKillSwitchEnable = false;
+}
+
+void SettingsFlow::handleKillSwitch(quint64 requestId, const KillSwitchInfo &info,
+                                    const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::KillSwitch, requestId))
+        return;
+    settingsBusyChanged();
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showSettingsOperationError(failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update kill switch")));
+        return;
+    }
+    m_context.state->setKillSwitch(info);
+    m_context.tray->refreshStatus();
+}
+
+void SettingsFlow::refreshSplitRules()
+{
+    if (m_context.ledger->inFlight(Kind::SplitRules))
+        return;
+    const quint64 id = m_context.ledger->issue(Kind::SplitRules);
+    m_context.window->setSplitRulesFetchInProgress(true);
+    QMetaObject::invokeMethod(m_context.workers->control(), "fetchSplitRules", Qt::QueuedConnection,
+                              Q_ARG(quint64, id), Q_ARG(QString, QString()),
+                              Q_ARG(int, kSettingsTimeoutMs));
+}
+
+void SettingsFlow::handleSplitRules(quint64 requestId, const SplitRulesInfo &info,
+                                    const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::SplitRules, requestId))
+        return;
+    m_context.window->setSplitRulesFetchInProgress(false);
+    const bool afterImport = m_importRefreshPending;
+    m_importRefreshPending = false;
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showModeOperationError(
+            afterImport
+                ? shellText(QT_TRANSLATE_NOOP(
+                      "TovraAppShell",
+                      "Custom split rules updated, but rules could not be refreshed"))
+                : failureText(errorMessage,
+                              QT_TRANSLATE_NOOP("TovraAppShell", "Could not load split rules")));
+        return;
+    }
+    m_context.state->setSplitRules(info);
+}
+
+void SettingsFlow::importSplitRules(const QString &kind, const QString &content)
+{
+    if (m_context.ledger->inFlight(Kind::SplitRuleImport))
+        return;
+    const quint64 id = m_context.ledger->issue(Kind::SplitRuleImport);
+    m_context.window->setSplitRulesImportInProgress(true);
+    QMetaObject::invokeMethod(m_context.workers->control(), "importSplitRules",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, kind),
+                              Q_ARG(QString, content), Q_ARG(int, kSettingsTimeoutMs));
+}
+
+void SettingsFlow::handleSplitRuleImport(quint64 requestId, const SplitRuleMutationInfo &info,
+                                         const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::SplitRuleImport, requestId))
+        return;
+    m_context.window->setSplitRulesImportInProgress(false);
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showModeOperationError(failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not import split rules")));
+        return;
+    }
+    if (info.changed)
+        m_context.notifier->success(QCoreApplication::translate(
+            "TovraAppShell", "Custom split rules updated (%n rule(s))", nullptr, info.count));
+    else
+        m_context.notifier->info(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Custom split rules unchanged")));
+    m_importRefreshPending = true;
+    refreshSplitRules();
+}
+
+void SettingsFlow::refreshConfigPaths(bool openLogs)
+{
+    m_openLogsPending = m_openLogsPending || openLogs;
+    if (m_context.ledger->inFlight(Kind::ConfigPaths))
+        return;
+    const quint64 id = m_context.ledger->issue(Kind::ConfigPaths);
+    QMetaObject::invokeMethod(m_context.workers->control(), "fetchConfigPaths",
+                              Qt::QueuedConnection, Q_ARG(quint64, id),
+                              Q_ARG(int, kSettingsTimeoutMs));
+}
+
+void SettingsFlow::handleConfigPaths(quint64 requestId, const ConfigPaths &paths,
+                                     const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::ConfigPaths, requestId))
+        return;
+    const bool openLogs = m_openLogsPending;
+    m_openLogsPending = false;
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showSettingsOperationError(failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not load config paths")));
+        return;
+    }
+    m_context.state->setConfigPaths(paths);
+    if (openLogs)
+        m_context.window->openLogDirectory(paths.logDir);
+}
+
+void SettingsFlow::setAPIURL(const QString &apiURL)
+{
+    m_apiURLReset = false;
+    m_apiURLChange = true;
+    const quint64 id = m_context.ledger->issue(Kind::APIURL);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setAPIURL", Qt::QueuedConnection,
+                              Q_ARG(quint64, id), Q_ARG(QString, apiURL.trimmed()),
+                              Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::resetAPIURL()
+{
+    m_apiURLReset = true;
+    m_apiURLChange = true;
+    const quint64 id = m_context.ledger->issue(Kind::APIURL);
+    QMetaObject::invokeMethod(m_context.workers->control(), "resetAPIURL", Qt::QueuedConnection,
+                              Q_ARG(quint64, id), Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::handleAPIURL(quint64 requestId, const APIURLConfigInfo &info,
+                                const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::APIURL, requestId))
+        return;
+    settingsBusyChanged();
+    const bool reset = m_apiURLReset;
+    const bool userChange = m_apiURLChange;
+    m_apiURLReset = false;
+    m_apiURLChange = false;
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showSettingsOperationError(failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update API URL")));
+        return;
+    }
+    m_context.state->setAPIURLConfig(info);
+    if (!userChange)
+        return;
+    if (reset)
+        m_context.notifier->success(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL reset to default")));
+    else if (info.validated)
+        m_context.notifier->success(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL validated and saved")));
+    else
+        m_context.notifier->warning(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL saved but not validated")));
+}
+
+void SettingsFlow::setAutoConnect(const QString &value)
+{
+    const quint64 id = m_context.ledger->issue(Kind::AutoConnect);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setAutoConnectPreference",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, value),
+                              Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::handleAutoConnect(quint64 requestId, const AutoConnectConfigInfo &info,
+                                     const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::AutoConnect, requestId))
+        return;
+    settingsBusyChanged();
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showSettingsOperationError(failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update auto connect")));
+        return;
+    }
+    RuntimeInfo runtime = m_context.state->runtime();
+    runtime.autoConnect = info.autoConnect;
+    m_context.state->setRuntime(runtime);
+}
+
+void SettingsFlow::setProxyListeners(const QString &socksAddress, const QString &httpAddress)
+{
+    const quint64 id = m_context.ledger->issue(Kind::ProxyListen);
+    QMetaObject::invokeMethod(
+        m_context.workers->control(), "setProxyListeners", Qt::QueuedConnection, Q_ARG(quint64, id),
+        Q_ARG(QString, socksAddress), Q_ARG(QString, httpAddress), Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::handleProxyListen(quint64 requestId, const ProxyListenResultInfo &info,
+                                     const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::ProxyListen, requestId))
+        return;
+    settingsBusyChanged();
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showSettingsOperationError(
+            failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell",
+                                                        "Could not update proxy listen address")));
+        return;
+    }
+    if (info.appliesOnReconnect)
+        m_context.notifier->success(shellText(
+            QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address saved for reconnect")));
+    else
+        m_context.notifier->success(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address updated")));
+    RuntimeInfo runtime = m_context.state->runtime();
+    runtime.proxyListeners = info.proxyListeners;
+    m_context.state->setRuntime(runtime);
+}
+
+void SettingsFlow::setSplitDNSLocal(const QStringList &servers)
+{
+    m_splitDNSMutation = true;
+    const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setSplitDNSLocal",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QStringList, servers),
+                              Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::setSplitDNSPolicy(const QString &policy)
+{
+    m_splitDNSMutation = true;
+    const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
+    QMetaObject::invokeMethod(m_context.workers->control(), "setSplitDNSPolicy",
+                              Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, policy),
+                              Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::clearSplitDNSLocal()
+{
+    m_splitDNSMutation = true;
+    const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
+    QMetaObject::invokeMethod(m_context.workers->control(), "clearSplitDNSLocal",
+                              Qt::QueuedConnection, Q_ARG(quint64, id),
+                              Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::resetSplitDNS()
+{
+    m_splitDNSMutation = true;
+    const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
+    QMetaObject::invokeMethod(m_context.workers->control(), "resetSplitDNS", Qt::QueuedConnection,
+                              Q_ARG(quint64, id), Q_ARG(int, kSettingsTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::handleSplitDNS(quint64 requestId, const SplitDNSInfo &info,
+                                  const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::SplitDNS, requestId))
+        return;
+    settingsBusyChanged();
+    const bool mutation = m_splitDNSMutation;
+    m_splitDNSMutation = false;
+    if (!errorMessage.isEmpty()) {
+        if (mutation)
+            m_context.window->showSettingsOperationError(failureText(
+                errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update split DNS")));
+        return;
+    }
+    m_context.state->setSplitDNS(info);
+    if (mutation)
+        m_context.notifier->success(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Split DNS updated")));
+}
+
+void SettingsFlow::repairDiagnostics()
+{
+    if (m_context.ledger->inFlight(Kind::Repair))
+        return;
+    const quint64 id = m_context.ledger->issue(Kind::Repair);
+    QMetaObject::invokeMethod(m_context.workers->control(), "repairDiagnostics",
+                              Qt::QueuedConnection, Q_ARG(quint64, id),
+                              Q_ARG(int, kRepairTimeoutMs));
+    settingsBusyChanged();
+}
+
+void SettingsFlow::handleRepair(quint64 requestId, const RepairResultInfo &info,
+                                const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::Repair, requestId))
+        return;
+    settingsBusyChanged();
+    Q_UNUSED(info)
+    if (!errorMessage.isEmpty()) {
+        m_context.window->showSettingsOperationError(
+            failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Repair failed")));
+        return;
+    }
+    m_context.notifier->success(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Repair completed")));
+    m_context.tray->refreshStatus();
+}
+
+void SettingsFlow::refreshSettingsPage()
+{
+    const QList<std::pair<Kind, const char *>> fetches{
+        {Kind::APIURL, "fetchAPIURLConfig"},
+        {Kind::SplitDNS, "fetchSplitDNS"},
+    };
+    for (const auto &[kind, method] : fetches) {
+        // A change on its way answers with the fresh record anyway.
+        if (m_context.ledger->inFlight(kind))
+            continue;
+        if (kind == Kind::APIURL)
+            m_apiURLChange = false;
+        else
+            m_splitDNSMutation = false;
+        const quint64 id = m_context.ledger->issue(kind);
+        QMetaObject::invokeMethod(m_context.workers->control(), method, Qt::QueuedConnection,
+                                  Q_ARG(quint64, id), Q_ARG(int, kSettingsTimeoutMs));
+    }
+    refreshConfigPaths(false);
+}

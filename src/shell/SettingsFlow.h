@@ -1,0 +1,89 @@
+#pragma once
+
+#include "ShellContext.h"
+
+#include "APIURLConfigInfo.h"
+#include "AutoConnectConfigInfo.h"
+#include "ConfigPaths.h"
+#include "KillSwitchInfo.h"
+#include "ModeInfo.h"
+#include "ProxyListenResultInfo.h"
+#include "RepairResultInfo.h"
+#include "SplitDNSInfo.h"
+#include "SplitRuleMutationInfo.h"
+#include "SplitRulesInfo.h"
+
+#include <QObject>
+#include <QStringList>
+
+// Everything the mode and settings pages ask of the daemon: routing mode, local network, system
+// proxy, the kill switch with its rules, API URL, auto connect, proxy listeners, split DNS and
+// rules, repairs, and the daemon's paths (for the log directory).
+class SettingsFlow : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit SettingsFlow(const ShellContext &context, QObject *parent = nullptr);
+
+    // An operation that changes the routing or the kill switch is running.
+    bool busy() const;
+
+    void setMode(const ModeInfo &mode);
+    void setLocalNetwork(const QString &value);
+    void setSystemProxy(const QString &value);
+
+    void setKillSwitchEnabled(bool enabled);
+    void setKillSwitchMode(const QString &mode);
+    void switchToAutoAndEnableKillSwitch();
+    void chooseModeForKillSwitch();
+    void cancelPendingKillSwitchEnable();
+    bool killSwitchEnablePending() const { return m_pendingKillSwitchEnable; }
+
+    void refreshSplitRules();
+    void importSplitRules(const QString &kind, const QString &content);
+    void refreshConfigPaths(bool openLogs);
+
+    void setAPIURL(const QString &apiURL);
+    void resetAPIURL();
+    void setAutoConnect(const QString &value);
+    void setProxyListeners(const QString &socksAddress, const QString &httpAddress);
+    void setSplitDNSLocal(const QStringList &servers);
+    void setSplitDNSPolicy(const QString &policy);
+    void clearSplitDNSLocal();
+    void resetSplitDNS();
+    void repairDiagnostics();
+    // Fresh settings records whenever the settings page comes into view.
+    void refreshSettingsPage();
+
+    void handleMode(quint64 requestId, const ModeInfo &info, const QString &errorMessage);
+    void handleKillSwitch(quint64 requestId, const KillSwitchInfo &info,
+                          const QString &errorMessage);
+    void handleSplitRules(quint64 requestId, const SplitRulesInfo &info,
+                          const QString &errorMessage);
+    void handleSplitRuleImport(quint64 requestId, const SplitRuleMutationInfo &info,
+                               const QString &errorMessage);
+    void handleConfigPaths(quint64 requestId, const ConfigPaths &paths,
+                           const QString &errorMessage);
+    void handleAPIURL(quint64 requestId, const APIURLConfigInfo &info, const QString &errorMessage);
+    void handleAutoConnect(quint64 requestId, const AutoConnectConfigInfo &info,
+                           const QString &errorMessage);
+    void handleProxyListen(quint64 requestId, const ProxyListenResultInfo &info,
+                           const QString &errorMessage);
+    void handleSplitDNS(quint64 requestId, const SplitDNSInfo &info, const QString &errorMessage);
+    void handleRepair(quint64 requestId, const RepairResultInfo &info, const QString &errorMessage);
+
+private:
+    void sendKillSwitchEnabled(bool enabled);
+    void settingsBusyChanged();
+    void modeBusyChanged();
+    void applyMode(const ModeInfo &mode);
+
+    ShellContext m_context;
+    bool m_pendingKillSwitchEnable = false;
+    bool m_importRefreshPending = false;
+    bool m_openLogsPending = false;
+    bool m_apiURLReset = false;
+    bool m_apiURLChange = false;
+    bool m_splitDNSMutation = false;
+};

@@ -1,0 +1,667 @@
+#include "TovraAppShell.h"
+
+#include "AccountFlow.h"
+#include "AppState.h"
+#include "CatalogFlow.h"
+#include "ConnectionFlow.h"
+#include "ControlWorker.h"
+#include "GuiPreferences.h"
+#include "LanguageFlow.h"
+#include "RequestLedger.h"
+#include "SettingsFlow.h"
+#include "ShellNotifier.h"
+#include "ShellText.h"
+#include "ShellWorkers.h"
+#include "TovraTrayApp.h"
+#include "UpdateFlow.h"
+#include "WindowController.h"
+
+#include <QSystemTrayIcon>
+#include <QTimer>
+
+namespace {
+
+constexpr int kVersionTimeoutMs = 3000;
+constexpr int kFirstUpdateCheckDelayMs = 30000;
+
+} // namespace
+
+TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
+                             GuiPreferences *preferences)
+    : QObject(parent)
+{
+    m_context.workers = new ShellWorkers(socketPath, this);
+    m_context.state = new AppState(this);
+    m_ownsPreferences = preferences == nullptr;
+    m_context.preferences = preferences ? preferences : new GuiPreferences(this);
+    m_context.ledger = new RequestLedger;
+    m_context.tray = new TovraTrayApp(m_context.state, m_context.workers->control(),
+                                      m_context.preferences, this);
+    m_context.window = new WindowController(m_context.state, m_context.preferences, this);
+    m_context.notifier = new ShellNotifier(m_context.window, m_context.tray, this);
+
+    m_update = new UpdateFlow(m_context, QCoreApplication::applicationVersion(), this);
+    m_connection = new ConnectionFlow(
+        m_context, m_update, [this] { return busy(); }, this);
+    m_catalog = new CatalogFlow(m_context, this);
+    m_settings = new SettingsFlow(m_context, this);
+    m_account = new AccountFlow(m_context, this);
+    m_language = new LanguageFlow(m_context, this);
+
+    connectWorkers();
+    connectTray();
+    connectWindow();
+    connect(m_context.state, &AppState::runtimeChanged, this, &TovraAppShell::handleRuntimeChanged);
+    connect(m_language, &LanguageFlow::restartRequested, this, &TovraAppShell::restartRequested);
+    connect(m_connection, &ConnectionFlow::runtimeAnswered, this, [this] {
+        m_catalog->fetchNodes(false);
+        m_language->checkSystemLanguage();
+    });
+    connect(m_update, &UpdateFlow::updateDialogRequested, this, [this](bool forced) {
+        if (forced)
+            m_context.notifier->warning(shellText(
+                QT_TRANSLATE_NOOP("TovraAppShell", "Tovra must be updated before you can connect. "
+                                                   "Download the installer or exit Tovra.")));
+    });
+}
+
+TovraAppShell::~TovraAppShell()
+{
+    shutdown();
+    // Views first, while the state they read still exists.
+    delete m_context.notifier;
+    delete m_context.window;
+    delete m_context.tray;
+    delete m_context.ledger;
+}
+
+void TovraAppShell::shutdown()
+{
+    if (m_shutDown)
+        return;
+    m_shutDown = true;
+    m_context.workers->shutdown();
+}
+
+void TovraAppShell::connectWorkers()
+{
+    ControlWorker *control = m_context.workers->control();
+    connect(control, &ControlWorker::statusFinished, this,
+            &TovraAppShell::handleWindowStatusFinished);
+    connect(control, &ControlWorker::nodesFinished, this,
+            &TovraAppShell::handleWindowNodesFinished);
+    connect(control, &ControlWorker::nodeGroupsFinished, this,
+            &TovraAppShell::handleWindowNodeGroupsFinished);
+    connect(control, &ControlWorker::connectFinished, this,
+            &TovraAppShell::handleWindowConnectFinished);
+    connect(control, &ControlWorker::disconnectFinished, this,
+            &TovraAppShell::handleWindowDisconnectFinished);
+    connect(control, &ControlWorker::modeFinished, this, &TovraAppShell::handleWindowModeFinished);
+    connect(control, &ControlWorker::versionFinished, this,
+            &TovraAppShell::handleWindowVersionFinished);
+    connect(control, &ControlWorker::apiURLFinished, this,
+            &TovraAppShell::handleWindowAPIURLFinished);
+    connect(control, &ControlWorker::autoConnectFinished, this,
+            &TovraAppShell::handleWindowAutoConnectFinished);
+    connect(control, &ControlWorker::languageFinished, this,
+            &TovraAppShell::handleWindowLanguageFinished);
+    connect(control, &ControlWorker::proxyListenFinished, this,
+            &TovraAppShell::handleWindowProxyListenFinished);
+    connect(control, &ControlWorker::splitDNSFinished, this,
+            &TovraAppShell::handleWindowSplitDNSFinished);
+    connect(control, &ControlWorker::splitRulesFinished, this,
+            &TovraAppShell::handleWindowSplitRulesFinished);
+    connect(control, &ControlWorker::splitRuleImportFinished, this,
+            &TovraAppShell::handleWindowSplitRuleImportFinished);
+    connect(control, &ControlWorker::repairFinished, this,
+            &TovraAppShell::handleWindowRepairFinished);
+    connect(control, &ControlWorker::configPathsFinished, this,
+            &TovraAppShell::handleWindowConfigPathsFinished);
+    connect(control, &ControlWorker::killSwitchFinished, this,
+            &TovraAppShell::handleWindowKillSwitchFinished);
+    connect(control, &ControlWorker::loginFinished, this,
+            &TovraAppShell::handleWindowLoginFinished);
+    connect(control, &ControlWorker::logoutFinished, this,
+            &TovraAppShell::handleWindowLogoutFinished);
+    connect(control, &ControlWorker::userFinished, this, &TovraAppShell::handleWindowUserFinished);
+    connect(control, &ControlWorker::purchaseURLFinished, this,
+            &TovraAppShell::handleWindowPurchaseURLFinished);
+    connect(m_context.workers->updateCheck(), &ControlWorker::updateFinished, this,
+            &TovraAppShell::handleWindowUpdateFinished);
+    connect(m_context.workers->download(), &ControlWorker::updateDownloadFinished, this,
+            &TovraAppShell::handleGUIUpdateDownloadFinished);
+}
+
+void TovraAppShell::connectTray()
+{
+    TovraTrayApp *tray = m_context.tray;
+    WindowController *window = m_context.window;
+    connect(tray, &TovraTrayApp::openTovraRequested, this, &TovraAppShell::activateFromApplication);
+    connect(tray, &TovraTrayApp::openLocationsRequested, window, &WindowController::showLocations);
+    connect(tray, &TovraTrayApp::accountRequested, window, &WindowController::showAccount);
+    connect(tray, &TovraTrayApp::logoutRequested, this, &TovraAppShell::logoutAccountFromTray);
+    connect(tray, &TovraTrayApp::connectRuntimeRequested, this,
+            &TovraAppShell::connectRuntimeFromTray);
+    connect(tray, &TovraTrayApp::cancelConnectRequested, this, &TovraAppShell::cancelConnect);
+    connect(tray, &TovraTrayApp::disconnectRuntimeRequested, this,
+            &TovraAppShell::disconnectRuntimeFromTray);
+    connect(tray, &TovraTrayApp::connectNodeRequested, this, &TovraAppShell::connectNodeFromTray);
+    connect(tray, &TovraTrayApp::switchToAutoAndEnableKillSwitchRequested, this,
+            &TovraAppShell::switchToAutoAndEnableKillSwitch);
+    connect(tray, &TovraTrayApp::chooseModeForKillSwitchRequested, this,
+            &TovraAppShell::chooseModeForKillSwitch);
+}
+
+void TovraAppShell::connectWindow()
+{
+    WindowController *w = m_context.window;
+    using W = WindowController;
+    using S = TovraAppShell;
+    connect(w, &W::connectRuntimeRequested, this, &S::connectRuntime);
+    connect(w, &W::cancelConnectRequested, this, &S::cancelConnect);
+    connect(w, &W::disconnectRuntimeRequested, this, &S::disconnectRuntime);
+    connect(w, &W::setModeRequested, this, &S::setModePreference);
+    connect(w, &W::splitRulesRequested, this, &S::refreshModeSplitRules);
+    connect(w, &W::importSplitRulesRequested, this, &S::importModeSplitRules);
+    connect(w, &W::setLocalNetworkRequested, this, &S::setLocalNetworkPreference);
+    connect(w, &W::refreshLocationsRequested, this, &S::refreshLocations);
+    connect(w, &W::connectNodeRequested, this, &S::connectNode);
+    connect(w, &W::connectSmartRequested, this, &S::connectSmart);
+    connect(w, &W::setNodeFavoriteRequested, this, &S::setLocationFavorite);
+    connect(w, &W::openLogsRequested, this, &S::openLogs);
+    connect(w, &W::settingsVisibleRequested, m_settings, &SettingsFlow::refreshSettingsPage);
+    connect(w, &W::setKillSwitchEnabledRequested, this, &S::setSettingsKillSwitchEnabled);
+    connect(w, &W::setKillSwitchModeRequested, this, &S::setSettingsKillSwitchMode);
+    connect(w, &W::switchToAutoAndEnableKillSwitchRequested, this,
+            &S::switchToAutoAndEnableKillSwitch);
+    connect(w, &W::chooseModeForKillSwitchRequested, this, &S::chooseModeForKillSwitch);
+    connect(w, &W::modePageLeft, this, &S::cancelPendingKillSwitchEnable);
+    connect(w, &W::setSystemProxyRequested, this, &S::setSettingsSystemProxyPreference);
+    connect(w, &W::setAPIURLRequested, this, &S::setSettingsAPIURL);
+    connect(w, &W::resetAPIURLRequested, this, &S::resetSettingsAPIURL);
+    connect(w, &W::setAutoConnectRequested, this, &S::setSettingsAutoConnect);
+    connect(w, &W::setLanguageRequested, this, &S::setSettingsLanguage);
+    connect(w, &W::checkUpdateRequested, this, &S::checkSettingsUpdate);
+    connect(w, &W::updateDownloadRequested, this, &S::startGUIUpdateDownload);
+    connect(w, &W::updateDownloadCancelRequested, this, &S::cancelGUIUpdateDownload);
+    connect(w, &W::setProxyListenersRequested, this, &S::setSettingsProxyListeners);
+    connect(w, &W::setSplitDNSLocalRequested, this, &S::setSettingsSplitDNSLocal);
+    connect(w, &W::setSplitDNSPolicyRequested, this, &S::setSettingsSplitDNSPolicy);
+    connect(w, &W::clearSplitDNSLocalRequested, this, &S::clearSettingsSplitDNSLocal);
+    connect(w, &W::resetSplitDNSRequested, this, &S::resetSettingsSplitDNS);
+    connect(w, &W::repairDiagnosticsRequested, this, &S::repairSettingsDiagnostics);
+    connect(w, &W::loginRequested, this, &S::loginAccount);
+    connect(w, &W::logoutRequested, this, &S::logoutAccount);
+    connect(w, &W::purchaseURLRequested, this, &S::requestPurchaseURL);
+    connect(w, &W::forceUpdateExitRequested, this, &S::exitRequested);
+}
+
+void TovraAppShell::setCurrentEffectiveLanguage(const QString &tag)
+{
+    m_language->setCurrentLanguage(tag);
+}
+
+void TovraAppShell::setLanguageRestartAllowed(bool allowed)
+{
+    m_language->setRestartAllowed(allowed);
+}
+
+void TovraAppShell::setLaunchedByAutostart(bool autostart)
+{
+    m_launchedByAutostart = autostart;
+}
+
+void TovraAppShell::setSystemTrayAvailable(bool available)
+{
+    m_trayAvailable = available ? 1 : 0;
+}
+
+void TovraAppShell::start()
+{
+    const bool trayAvailable =
+        m_trayAvailable >= 0 ? m_trayAvailable == 1 : QSystemTrayIcon::isSystemTrayAvailable();
+    const bool showOnLaunch = m_context.preferences->showOnLaunch();
+    if (m_launchedByAutostart && !trayAvailable && !showOnLaunch) {
+        // Nothing to show and no tray to live in: leave quietly.
+        QTimer::singleShot(0, this, &TovraAppShell::exitRequested);
+        return;
+    }
+    m_started = true;
+    setCompatibility(CompatibilityChecking);
+    requestVersion();
+
+    m_context.window->setSystemTrayAvailable(trayAvailable);
+    m_context.tray->start();
+    if (!trayAvailable || showOnLaunch)
+        m_context.window->showOrRaise();
+    m_update->schedule(m_update->forceUpgradePending() ? 0 : kFirstUpdateCheckDelayMs);
+}
+
+void TovraAppShell::setCompatibility(CompatibilityState state, const QString &text)
+{
+    m_compatibility = state;
+    QString reason = text;
+    if (reason.isEmpty() && state == CompatibilityChecking)
+        reason = shellText(
+            QT_TRANSLATE_NOOP("TovraAppShell", "Checking Tovra service compatibility..."));
+    else if (reason.isEmpty() && state == Incompatible)
+        reason = shellText(QT_TRANSLATE_NOOP(
+            "TovraAppShell",
+            "Tovra GUI and daemon are incompatible. Update Tovra before continuing."));
+    m_context.tray->setControlAvailable(state == CompatibilityUnknown || state == Compatible,
+                                        reason);
+}
+
+void TovraAppShell::requestVersion()
+{
+    if (m_context.ledger->inFlight(RequestLedger::Kind::Version))
+        return;
+    const quint64 id = m_context.ledger->issue(RequestLedger::Kind::Version);
+    QMetaObject::invokeMethod(m_context.workers->control(), "fetchVersion", Qt::QueuedConnection,
+                              Q_ARG(quint64, id), Q_ARG(int, kVersionTimeoutMs));
+}
+
+bool TovraAppShell::busy() const
+{
+    return m_connection->connectInProgress() || m_connection->disconnectInProgress() ||
+           m_settings->busy() || m_account->busy();
+}
+
+void TovraAppShell::handleRuntimeChanged(const RuntimeInfo &runtime)
+{
+    if (!runtime.valid)
+        return;
+    // The daemon was away when we asked; now that it answers, ask again.
+    if (m_started && m_compatibility == CompatibilityUnknown)
+        requestVersion();
+    m_language->checkSystemLanguage();
+    m_language->followEffectiveLanguage(runtime.effectiveLanguage);
+    m_account->followRuntime(runtime);
+}
+
+void TovraAppShell::activateFromSecondary()
+{
+    m_context.window->showOrRaise();
+    m_update->onActivation();
+}
+
+void TovraAppShell::activateFromApplication()
+{
+    m_context.window->showOrRaise();
+    m_update->onActivation();
+}
+
+void TovraAppShell::handleGUIRestartFailed()
+{
+    m_language->handleRestartFailed();
+}
+
+void TovraAppShell::refreshLocationsAfterGUIRestart()
+{
+    m_catalog->startCatalogRefreshPoll(60);
+}
+
+void TovraAppShell::connectRuntime()
+{
+    m_connection->connectRuntime();
+}
+
+void TovraAppShell::connectRuntimeFromTray()
+{
+    m_connection->connectRuntime();
+}
+
+void TovraAppShell::cancelConnect()
+{
+    m_connection->cancelConnect();
+}
+
+void TovraAppShell::disconnectRuntime()
+{
+    m_connection->disconnectRuntime();
+}
+
+void TovraAppShell::disconnectRuntimeFromTray()
+{
+    m_connection->disconnectRuntime();
+}
+
+void TovraAppShell::setModePreference(ModeInfo mode)
+{
+    m_settings->setMode(mode);
+}
+
+void TovraAppShell::setLocalNetworkPreference(QString mode)
+{
+    m_settings->setLocalNetwork(mode);
+}
+
+void TovraAppShell::refreshLocations()
+{
+    m_catalog->refreshLocations();
+}
+
+void TovraAppShell::connectNode(QString nodeID, QString label)
+{
+    m_connection->connectNode(nodeID, label);
+}
+
+void TovraAppShell::connectNodeFromTray(QString nodeID, QString label)
+{
+    m_connection->connectNode(nodeID, label);
+}
+
+void TovraAppShell::connectSmart(QString selector)
+{
+    m_connection->connectSmart(selector);
+}
+
+void TovraAppShell::setLocationFavorite(QString nodeID, bool favorite)
+{
+    m_catalog->setFavorite(nodeID, favorite);
+}
+
+void TovraAppShell::refreshModeSplitRules()
+{
+    m_settings->refreshSplitRules();
+}
+
+void TovraAppShell::importModeSplitRules(QString kind, QString content)
+{
+    m_settings->importSplitRules(kind, content);
+}
+
+void TovraAppShell::openLogs()
+{
+    m_settings->refreshConfigPaths(true);
+}
+
+void TovraAppShell::refreshConfigPaths()
+{
+    m_settings->refreshConfigPaths(false);
+}
+
+void TovraAppShell::setSettingsAPIURL(QString apiURL)
+{
+    m_settings->setAPIURL(apiURL);
+}
+
+void TovraAppShell::resetSettingsAPIURL()
+{
+    m_settings->resetAPIURL();
+}
+
+void TovraAppShell::setSettingsAutoConnect(QString value)
+{
+    m_settings->setAutoConnect(value);
+}
+
+void TovraAppShell::setSettingsLanguage(QString source, QString language)
+{
+    m_language->setLanguage(source, language);
+}
+
+void TovraAppShell::checkSettingsUpdate()
+{
+    m_update->check(true);
+}
+
+void TovraAppShell::startGUIUpdateDownload()
+{
+    m_update->startDownload();
+}
+
+void TovraAppShell::cancelGUIUpdateDownload()
+{
+    m_update->cancelDownload();
+}
+
+void TovraAppShell::pollGUIUpdateDownload()
+{
+    m_update->pollDownload();
+}
+
+void TovraAppShell::setSettingsKillSwitchEnabled(bool enabled)
+{
+    m_settings->setKillSwitchEnabled(enabled);
+}
+
+void TovraAppShell::setSettingsKillSwitchMode(QString mode)
+{
+    m_settings->setKillSwitchMode(mode);
+}
+
+void TovraAppShell::switchToAutoAndEnableKillSwitch()
+{
+    m_settings->switchToAutoAndEnableKillSwitch();
+}
+
+void TovraAppShell::chooseModeForKillSwitch()
+{
+    m_settings->chooseModeForKillSwitch();
+}
+
+void TovraAppShell::cancelPendingKillSwitchEnable()
+{
+    m_settings->cancelPendingKillSwitchEnable();
+}
+
+void TovraAppShell::setSettingsProxyListeners(QString socksAddress, QString httpAddress)
+{
+    m_settings->setProxyListeners(socksAddress, httpAddress);
+}
+
+void TovraAppShell::setSettingsSplitDNSLocal(QStringList servers)
+{
+    m_settings->setSplitDNSLocal(servers);
+}
+
+void TovraAppShell::setSettingsSplitDNSPolicy(QString policy)
+{
+    m_settings->setSplitDNSPolicy(policy);
+}
+
+void TovraAppShell::clearSettingsSplitDNSLocal()
+{
+    m_settings->clearSplitDNSLocal();
+}
+
+void TovraAppShell::resetSettingsSplitDNS()
+{
+    m_settings->resetSplitDNS();
+}
+
+void TovraAppShell::repairSettingsDiagnostics()
+{
+    m_settings->repairDiagnostics();
+}
+
+void TovraAppShell::setSettingsSystemProxyPreference(QString mode)
+{
+    m_settings->setSystemProxy(mode);
+}
+
+void TovraAppShell::loginAccount(QString username, QString password, bool rememberMe)
+{
+    m_account->login(username, password, rememberMe);
+}
+
+void TovraAppShell::logoutAccount()
+{
+    m_account->logout(false);
+}
+
+void TovraAppShell::logoutAccountFromTray()
+{
+    m_account->logout(true);
+}
+
+void TovraAppShell::requestPurchaseURL(QString lang)
+{
+    m_account->requestPurchaseURL(lang);
+}
+
+void TovraAppShell::pollWindowNodePing()
+{
+    m_catalog->pollNodePing();
+}
+
+void TovraAppShell::pollWindowCatalogRefresh()
+{
+    m_catalog->pollCatalogRefresh();
+}
+
+void TovraAppShell::handleWindowStatusFinished(quint64 requestId, RuntimeInfo info,
+                                               QString errorMessage)
+{
+    if (!m_connection->handleStatus(requestId, info, errorMessage))
+        m_catalog->handleStatus(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowNodesFinished(quint64 requestId, NodesInfo info,
+                                              QString errorMessage)
+{
+    m_catalog->handleNodes(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowNodeGroupsFinished(quint64 requestId, NodeGroupsInfo info,
+                                                   QString errorMessage)
+{
+    m_catalog->handleNodeGroups(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowConnectFinished(quint64 requestId, RuntimeInfo info,
+                                                QString errorMessage)
+{
+    m_connection->handleConnectFinished(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowDisconnectFinished(quint64 requestId, RuntimeInfo info,
+                                                   QString errorMessage)
+{
+    m_connection->handleDisconnectFinished(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowModeFinished(quint64 requestId, ModeInfo info, QString errorMessage)
+{
+    m_settings->handleMode(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowVersionFinished(quint64 requestId, VersionInfo info,
+                                                QString errorMessage)
+{
+    if (!m_context.ledger->accept(RequestLedger::Kind::Version, requestId))
+        return;
+    if (!errorMessage.isEmpty() && !(info.valid && !info.compatible)) {
+        setCompatibility(CompatibilityUnknown, errorMessage);
+        m_context.notifier->error(failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not load version")));
+        return;
+    }
+    m_context.state->setVersion(info);
+    if (info.compatible) {
+        setCompatibility(Compatible);
+        return;
+    }
+    setCompatibility(Incompatible);
+    m_context.window->showOrRaise();
+    m_context.notifier->error(shellText(QT_TRANSLATE_NOOP(
+        "TovraAppShell",
+        "Tovra GUI and daemon are incompatible. Update Tovra before continuing.")));
+}
+
+void TovraAppShell::handleWindowAPIURLFinished(quint64 requestId, APIURLConfigInfo info,
+                                               QString errorMessage)
+{
+    m_settings->handleAPIURL(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowAutoConnectFinished(quint64 requestId, AutoConnectConfigInfo info,
+                                                    QString errorMessage)
+{
+    m_settings->handleAutoConnect(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowLanguageFinished(quint64 requestId, LanguageConfigInfo info,
+                                                 QString errorMessage)
+{
+    m_language->handleLanguage(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowUpdateFinished(quint64 requestId, UpdateInfo info,
+                                               QString errorMessage)
+{
+    m_update->handleUpdateFinished(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleGUIUpdateDownloadFinished(quint64 requestId, GUIUpdateDownloadInfo info,
+                                                    QString errorMessage)
+{
+    m_update->handleDownloadFinished(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowProxyListenFinished(quint64 requestId, ProxyListenResultInfo info,
+                                                    QString errorMessage)
+{
+    m_settings->handleProxyListen(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowSplitDNSFinished(quint64 requestId, SplitDNSInfo info,
+                                                 QString errorMessage)
+{
+    m_settings->handleSplitDNS(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowSplitRulesFinished(quint64 requestId, SplitRulesInfo info,
+                                                   QString errorMessage)
+{
+    m_settings->handleSplitRules(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowSplitRuleImportFinished(quint64 requestId,
+                                                        SplitRuleMutationInfo info,
+                                                        QString errorMessage)
+{
+    m_settings->handleSplitRuleImport(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowRepairFinished(quint64 requestId, RepairResultInfo info,
+                                               QString errorMessage)
+{
+    m_settings->handleRepair(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowConfigPathsFinished(quint64 requestId, ConfigPaths paths,
+                                                    QString errorMessage)
+{
+    m_settings->handleConfigPaths(requestId, paths, errorMessage);
+}
+
+void TovraAppShell::handleWindowKillSwitchFinished(quint64 requestId, KillSwitchInfo info,
+                                                   QString errorMessage)
+{
+    m_settings->handleKillSwitch(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowLoginFinished(quint64 requestId, RuntimeInfo info,
+                                              QString errorMessage)
+{
+    m_account->handleLogin(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowLogoutFinished(quint64 requestId, RuntimeInfo info,
+                                               QString errorMessage)
+{
+    m_account->handleLogout(requestId, info, errorMessage);
+}
+
+void TovraAppShell::handleWindowUserFinished(quint64 requestId, UserInfo user, QString errorMessage)
+{
+    m_account->handleUser(requestId, user, errorMessage);
+}
+
+void TovraAppShell::handleWindowPurchaseURLFinished(quint64 requestId, PurchaseURLInfo info,
+                                                    QString errorMessage)
+{
+    m_account->handlePurchaseURL(requestId, info, errorMessage);
+}

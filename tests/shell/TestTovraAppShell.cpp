@@ -1,0 +1,117 @@
+#include "AppState.h"
+#include "ConnectionFlow.h"
+#include "ControlEndpoints.h"
+#include "DemoDaemon.h"
+#include "RequestLedger.h"
+#include "ShellNotifier.h"
+#include "TempXdgDirs.h"
+#include "TovraAppShell.h"
+#include "TovraTrayApp.h"
+
+#include <QSignalSpy>
+#include <QTest>
+
+// The shell against the real demo daemon: the flows that break in practice.
+class TestTovraAppShell : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void compatibleDaemon();
+    void incompatibleDaemonKeepsTrayDisabled();
+    void daemonAwayThenBack();
+    void newerDisconnectSupersedesConnect();
+
+private:
+    TempXdgDirs m_dirs;
+};
+
+void TestTovraAppShell::compatibleDaemon()
+{
+    DemoDaemon daemon;
+    QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+    TovraAppShell shell(nullptr, daemon.socketPath());
+    shell.setSystemTrayAvailable(false);
+    QCOMPARE(shell.ledger()->nextId(), Q_UINT64_C(4294967296));
+    shell.start();
+    QCOMPARE(shell.ledger()->latest(RequestLedger::Kind::Version), Q_UINT64_C(4294967296));
+    QCOMPARE(shell.compatibilityState(), TovraAppShell::CompatibilityChecking);
+    QVERIFY(!shell.tray()->isControlAvailable());
+    QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
+    QVERIFY(shell.tray()->isControlAvailable());
+    QVERIFY(shell.state()->version().compatible);
+    // The tray's own status poll fills the store.
+    QTRY_VERIFY(shell.state()->runtime().valid);
+}
+
+void TestTovraAppShell::incompatibleDaemonKeepsTrayDisabled()
+{
+    DemoDaemon daemon;
+    QVERIFY2(daemon.start({QStringLiteral("--incompatible")}), qPrintable(daemon.errorString()));
+    TovraAppShell shell(nullptr, daemon.socketPath());
+    shell.setSystemTrayAvailable(false);
+    shell.start();
+    QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Incompatible);
+    QVERIFY(!shell.tray()->isControlAvailable());
+    QVERIFY(shell.tray()->isBusy());
+    QCOMPARE(shell.notifier()->lastKind(), QStringLiteral("error"));
+    QCOMPARE(
+        shell.notifier()->lastText(),
+        QStringLiteral("Tovra GUI and daemon are incompatible. Update Tovra before continuing."));
+    QVERIFY(!shell.state()->version().compatible);
+    QVERIFY(!shell.state()->version().daemonVersion.isEmpty());
+
+    shell.connectNode(QStringLiteral("1"), QStringLiteral("Anywhere"));
+    QVERIFY(!shell.connectionFlow()->connectInProgress());
+}
+
+void TestTovraAppShell::daemonAwayThenBack()
+{
+    DemoDaemon daemon;
+    TovraAppShell shell(nullptr, daemon.socketPath());
+    shell.setSystemTrayAvailable(false);
+    shell.start();
+    // An unreachable daemon is never called incompatible: the tray stays usable for retries.
+    QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::CompatibilityUnknown);
+    QCOMPARE(shell.notifier()->lastText(), QStringLiteral("Tovra daemon is not running."));
+    QVERIFY(shell.tray()->isControlAvailable());
+
+    QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+    shell.tray()->refreshStatus();
+    QTRY_VERIFY(shell.state()->runtime().valid);
+    QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
+}
+
+void TestTovraAppShell::newerDisconnectSupersedesConnect()
+{
+    DemoDaemon daemon;
+    QVERIFY2(daemon.start({QStringLiteral("--connect-ms"), QStringLiteral("1500")}),
+             qPrintable(daemon.errorString()));
+    QString error;
+    ControlEndpoints::login(daemon.socketPath(), QStringLiteral("demo@tovra.invalid"),
+                            QStringLiteral("demo"), false, 3000, &error);
+    QCOMPARE(error, QString());
+    const NodesInfo nodes = ControlEndpoints::fetchNodes(daemon.socketPath(), false, 3000, &error);
+    QVERIFY(!nodes.nodes.isEmpty());
+
+    TovraAppShell shell(nullptr, daemon.socketPath());
+    shell.setSystemTrayAvailable(false);
+    shell.start();
+    QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
+    QTRY_VERIFY(!shell.tray()->isBusy());
+
+    QSignalSpy notices(shell.notifier(), &ShellNotifier::posted);
+    shell.connectNode(nodes.nodes.constFirst().id, nodes.nodes.constFirst().name);
+    QVERIFY(shell.connectionFlow()->connectInProgress());
+    shell.disconnectRuntime();
+    QVERIFY(!shell.connectionFlow()->connectInProgress());
+    QTRY_VERIFY(!shell.connectionFlow()->disconnectInProgress());
+    QTRY_COMPARE(shell.state()->runtime().tunnelState, QStringLiteral("disconnected"));
+    // The superseded connect ends without a word: no failure reaches the user.
+    for (const QList<QVariant> &notice : notices)
+        QVERIFY2(notice.at(1).toString() != QLatin1String("error"),
+                 qPrintable(notice.at(0).toString()));
+}
+
+QTEST_MAIN(TestTovraAppShell)
+#include "TestTovraAppShell.moc"

@@ -103,10 +103,13 @@ int main(int argc, char *argv[])
                 qWarning("failed to restart Tovra GUI");
                 shell.handleGUIRestartFailed();
             },
-            [] { QCoreApplication::quit(); });
+            [] { QCoreApplication::exit(0); });
     });
-    QObject::connect(&shell, &TovraAppShell::exitRequested, &app, &QCoreApplication::quit,
-                     Qt::QueuedConnection);
+    // exit(), not quit(): quit() asks the windows to close first, and one that hides to the tray
+    // refuses, which would keep the process alive.
+    QObject::connect(
+        &shell, &TovraAppShell::exitRequested, &app, [] { QCoreApplication::exit(0); },
+        Qt::QueuedConnection);
 
     shell.start();
 

@@ -140,8 +140,11 @@ void TovraTrayApp::connectMenu()
     connect(m_menu.openLogs, &QAction::triggered, this, &TovraTrayApp::openLogs);
     connect(m_menu.account, &QAction::triggered, this, &TovraTrayApp::accountRequested);
     connect(m_menu.logout, &QAction::triggered, this, &TovraTrayApp::logoutAccount);
-    connect(m_menu.quit, &QAction::triggered, QCoreApplication::instance(), &QCoreApplication::quit,
-            Qt::QueuedConnection);
+    // exit(), not quit(): quit() first asks every window to close, and a window that hides to
+    // the tray refuses, which would cancel the user's Quit.
+    connect(
+        m_menu.quit, &QAction::triggered, this, [] { QCoreApplication::exit(0); },
+        Qt::QueuedConnection);
 
     connect(m_modeActions, &TrayModeActions::modeRequested, this, &TovraTrayApp::setMode);
     connect(m_modeActions, &TrayModeActions::tovraSplitDefaultRouteRequested, this,

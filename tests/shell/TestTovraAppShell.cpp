@@ -7,6 +7,9 @@
 #include "TempXdgDirs.h"
 #include "TovraAppShell.h"
 #include "TovraTrayApp.h"
+#include "TrayMenu.h"
+
+#include <QAction>
 
 #include <QSignalSpy>
 #include <QTest>
@@ -21,6 +24,7 @@ private Q_SLOTS:
     void incompatibleDaemonKeepsTrayDisabled();
     void daemonAwayThenBack();
     void newerDisconnectSupersedesConnect();
+    void trayConnectEndsConnected();
 
 private:
     TempXdgDirs m_dirs;
@@ -111,6 +115,31 @@ void TestTovraAppShell::newerDisconnectSupersedesConnect()
     for (const QList<QVariant> &notice : notices)
         QVERIFY2(notice.at(1).toString() != QLatin1String("error"),
                  qPrintable(notice.at(0).toString()));
+}
+
+void TestTovraAppShell::trayConnectEndsConnected()
+{
+    DemoDaemon daemon;
+    QVERIFY2(daemon.start({QStringLiteral("--connect-ms"), QStringLiteral("1200")}),
+             qPrintable(daemon.errorString()));
+    QString error;
+    ControlEndpoints::login(daemon.socketPath(), QStringLiteral("demo@tovra.invalid"),
+                            QStringLiteral("demo"), false, 3000, &error);
+    QCOMPARE(error, QString());
+
+    TovraAppShell shell(nullptr, daemon.socketPath());
+    shell.setSystemTrayAvailable(false);
+    shell.start();
+    QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
+    QTRY_VERIFY(shell.tray()->menu().connect->isEnabled());
+    shell.tray()->menu().connect->trigger();
+    QTRY_VERIFY(shell.connectionFlow()->connectInProgress());
+    // The daemon reports connecting first; the views must not wait for the slow poll to learn
+    // that the tunnel is up.
+    QTRY_COMPARE_WITH_TIMEOUT(shell.state()->runtime().tunnelState, QStringLiteral("connected"),
+                              4000);
+    QTRY_COMPARE_WITH_TIMEOUT(shell.tray()->menu().statusLine->text(),
+                              QStringLiteral("Tovra: connected"), 4000);
 }
 
 QTEST_MAIN(TestTovraAppShell)

@@ -1,0 +1,60 @@
+// Pictures of the X screen for the end-to-end test: the whole screen as a PNG, or the average
+// colour of a rectangle (to tell the connected tray icon from the disconnected one).
+#include <QColor>
+#include <QGuiApplication>
+#include <QImage>
+#include <QPixmap>
+#include <QScreen>
+
+#include <cstdio>
+#include <cstring>
+
+namespace {
+
+QImage grabScreen()
+{
+    QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->grabWindow(0).toImage() : QImage();
+}
+
+int printAverage(const QImage &image, int x, int y, int width, int height)
+{
+    long red = 0, green = 0, blue = 0, count = 0;
+    for (int row = y; row < y + height && row < image.height(); ++row) {
+        for (int column = x; column < x + width && column < image.width(); ++column) {
+            const QColor colour = image.pixelColor(column, row);
+            red += colour.red();
+            green += colour.green();
+            blue += colour.blue();
+            ++count;
+        }
+    }
+    if (count == 0)
+        return 1;
+    std::printf("%ld %ld %ld\n", red / count, green / count, blue / count);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QGuiApplication app(argc, argv);
+    const QImage image = grabScreen();
+    if (image.isNull()) {
+        std::fprintf(stderr, "could not grab the screen\n");
+        return 1;
+    }
+    if (argc == 6 && std::strcmp(argv[1], "--average") == 0)
+        return printAverage(image, std::atoi(argv[2]), std::atoi(argv[3]), std::atoi(argv[4]),
+                            std::atoi(argv[5]));
+    if (argc != 2) {
+        std::fprintf(stderr, "usage: tovra-e2e-grab OUTPUT.png | --average X Y WIDTH HEIGHT\n");
+        return 2;
+    }
+    if (!image.save(QString::fromLocal8Bit(argv[1]), "PNG")) {
+        std::fprintf(stderr, "could not write %s\n", argv[1]);
+        return 1;
+    }
+    return 0;
+}

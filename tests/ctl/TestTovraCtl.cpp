@@ -1,3 +1,4 @@
+#include "DemoDaemon.h"
 #include "ScriptedPeer.h"
 
 #include <QJsonDocument>
@@ -40,6 +41,11 @@ private Q_SLOTS:
     void usageErrors_data();
     void usageErrors();
     void argumentsReachTheWire();
+    void everyOperationAgainstDemoDaemon_data();
+    void everyOperationAgainstDemoDaemon();
+
+private:
+    DemoDaemon m_daemon;
 };
 
 void TestTovraCtl::fetchStatusPrintsRecord()
@@ -175,6 +181,78 @@ void TestTovraCtl::argumentsReachTheWire()
                 QStringLiteral("1.1.1.1, 8.8.8.8,")});
     QCOMPARE(dns.exitCode, 0);
     QVERIFY(peer.lastRequest().endsWith(R"({"local_direct_dns":["1.1.1.1","8.8.8.8"]})"));
+}
+
+void TestTovraCtl::everyOperationAgainstDemoDaemon_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    // In this order: the daemon keeps its state from row to row.
+    const QList<QStringList> rows{
+        {QStringLiteral("fetchVersion")},
+        {QStringLiteral("fetchAPIURLConfig")},
+        {QStringLiteral("setAPIURL"), QStringLiteral("https://api.tovra.invalid/")},
+        {QStringLiteral("resetAPIURL")},
+        {QStringLiteral("setAutoConnectPreference"), QStringLiteral("last")},
+        {QStringLiteral("fetchLanguageConfig")},
+        {QStringLiteral("setLanguage"), QStringLiteral("user"), QStringLiteral("de-DE")},
+        {QStringLiteral("setLanguageIfSource"), QStringLiteral("system"), QStringLiteral("fr-FR"),
+         QStringLiteral("user")},
+        {QStringLiteral("checkUpdate"), QStringLiteral("0.1.0+1")},
+        {QStringLiteral("login"), QStringLiteral("demo@tovra.invalid"), QStringLiteral("demo"),
+         QStringLiteral("true")},
+        {QStringLiteral("fetchStatus")},
+        {QStringLiteral("fetchUser")},
+        {QStringLiteral("fetchPurchaseURL"), QStringLiteral("en")},
+        {QStringLiteral("fetchNodes"), QStringLiteral("false")},
+        {QStringLiteral("fetchNodes"), QStringLiteral("true")},
+        {QStringLiteral("setNodeFavorite"), QStringLiteral("1001"), QStringLiteral("true")},
+        {QStringLiteral("fetchNodeGroups")},
+        {QStringLiteral("fetchConfigPaths")},
+        {QStringLiteral("fetchKillSwitch")},
+        {QStringLiteral("setKillSwitchEnabled"), QStringLiteral("true")},
+        {QStringLiteral("setKillSwitchMode"), QStringLiteral("always")},
+        {QStringLiteral("setKillSwitchAllowLAN"), QStringLiteral("true")},
+        {QStringLiteral("setKillSwitchEnabled"), QStringLiteral("false")},
+        {QStringLiteral("setMode"), QStringLiteral(R"({"transport":"tovravpn","policy":"split"})")},
+        {QStringLiteral("setSystemProxyPreference"), QStringLiteral("on")},
+        {QStringLiteral("setLocalNetworkPreference"), QStringLiteral("protected")},
+        {QStringLiteral("setProxyLANPreference"), QStringLiteral("true")},
+        {QStringLiteral("setProxyListeners"), QStringLiteral("127.0.0.1:1080"),
+         QStringLiteral("127.0.0.1:8080")},
+        {QStringLiteral("fetchSplitDNS")},
+        {QStringLiteral("setSplitDNSLocal"), QStringLiteral("1.1.1.1,9.9.9.9")},
+        {QStringLiteral("setSplitDNSPolicy"), QStringLiteral("local")},
+        {QStringLiteral("clearSplitDNSLocal")},
+        {QStringLiteral("resetSplitDNS")},
+        {QStringLiteral("fetchSplitRules"), QStringLiteral("direct")},
+        {QStringLiteral("importSplitRules"), QStringLiteral("direct"),
+         QStringLiteral("a.example\nb.example")},
+        {QStringLiteral("repairDiagnostics")},
+        {QStringLiteral("connectRuntime")},
+        {QStringLiteral("connectNode"), QStringLiteral("1002")},
+        {QStringLiteral("connectSmart"), QStringLiteral("DE")},
+        {QStringLiteral("disconnectRuntime")},
+        {QStringLiteral("startGUIUpdateDownload"), QStringLiteral("0.3.0"), QStringLiteral("3000")},
+        {QStringLiteral("fetchGUIUpdateDownload")},
+        {QStringLiteral("cancelGUIUpdateDownload")},
+        {QStringLiteral("logout")},
+    };
+    for (const QStringList &row : rows) {
+        const QString tag = QString(row.constFirst() + u' ' + row.mid(1).join(u' ')).left(48);
+        QTest::newRow(qPrintable(tag)) << row;
+    }
+}
+
+void TestTovraCtl::everyOperationAgainstDemoDaemon()
+{
+    QFETCH(QStringList, arguments);
+    if (!m_daemon.running())
+        QVERIFY2(m_daemon.start(), qPrintable(m_daemon.errorString()));
+    const Run run =
+        runCtl(QStringList{QStringLiteral("--socket"), m_daemon.socketPath()} + arguments);
+    QVERIFY2(run.exitCode == 0, run.err.constData());
+    const QJsonObject record = QJsonDocument::fromJson(run.out).object();
+    QCOMPARE(record.value(QLatin1String("valid")).toBool(), true);
 }
 
 QTEST_GUILESS_MAIN(TestTovraCtl)

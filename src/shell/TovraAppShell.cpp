@@ -11,6 +11,7 @@
 #include "SettingsFlow.h"
 #include "ShellNotifier.h"
 #include "ShellText.h"
+#include "ShellWiring.h"
 #include "ShellWorkers.h"
 #include "TovraTrayApp.h"
 #include "UpdateFlow.h"
@@ -48,9 +49,9 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     m_account = new AccountFlow(m_context, this);
     m_language = new LanguageFlow(m_context, this);
 
-    connectWorkers();
-    connectTray();
-    connectWindow();
+    ShellWiring::connectWorkers(this, m_context);
+    ShellWiring::connectTray(this, m_context);
+    ShellWiring::connectWindow(this, m_context, m_settings);
     connect(m_context.state, &AppState::runtimeChanged, this, &TovraAppShell::handleRuntimeChanged);
     connect(m_language, &LanguageFlow::restartRequested, this, &TovraAppShell::restartRequested);
     connect(m_connection, &ConnectionFlow::runtimeAnswered, this, [this] {
@@ -81,119 +82,6 @@ void TovraAppShell::shutdown()
         return;
     m_shutDown = true;
     m_context.workers->shutdown();
-}
-
-void TovraAppShell::connectWorkers()
-{
-    ControlWorker *control = m_context.workers->control();
-    connect(control, &ControlWorker::statusFinished, this,
-            &TovraAppShell::handleWindowStatusFinished);
-    connect(control, &ControlWorker::nodesFinished, this,
-            &TovraAppShell::handleWindowNodesFinished);
-    connect(control, &ControlWorker::nodeGroupsFinished, this,
-            &TovraAppShell::handleWindowNodeGroupsFinished);
-    connect(control, &ControlWorker::connectFinished, this,
-            &TovraAppShell::handleWindowConnectFinished);
-    connect(control, &ControlWorker::disconnectFinished, this,
-            &TovraAppShell::handleWindowDisconnectFinished);
-    connect(control, &ControlWorker::modeFinished, this, &TovraAppShell::handleWindowModeFinished);
-    connect(control, &ControlWorker::versionFinished, this,
-            &TovraAppShell::handleWindowVersionFinished);
-    connect(control, &ControlWorker::apiURLFinished, this,
-            &TovraAppShell::handleWindowAPIURLFinished);
-    connect(control, &ControlWorker::autoConnectFinished, this,
-            &TovraAppShell::handleWindowAutoConnectFinished);
-    connect(control, &ControlWorker::languageFinished, this,
-            &TovraAppShell::handleWindowLanguageFinished);
-    connect(control, &ControlWorker::proxyListenFinished, this,
-            &TovraAppShell::handleWindowProxyListenFinished);
-    connect(control, &ControlWorker::splitDNSFinished, this,
-            &TovraAppShell::handleWindowSplitDNSFinished);
-    connect(control, &ControlWorker::splitRulesFinished, this,
-            &TovraAppShell::handleWindowSplitRulesFinished);
-    connect(control, &ControlWorker::splitRuleImportFinished, this,
-            &TovraAppShell::handleWindowSplitRuleImportFinished);
-    connect(control, &ControlWorker::repairFinished, this,
-            &TovraAppShell::handleWindowRepairFinished);
-    connect(control, &ControlWorker::configPathsFinished, this,
-            &TovraAppShell::handleWindowConfigPathsFinished);
-    connect(control, &ControlWorker::killSwitchFinished, this,
-            &TovraAppShell::handleWindowKillSwitchFinished);
-    connect(control, &ControlWorker::loginFinished, this,
-            &TovraAppShell::handleWindowLoginFinished);
-    connect(control, &ControlWorker::logoutFinished, this,
-            &TovraAppShell::handleWindowLogoutFinished);
-    connect(control, &ControlWorker::userFinished, this, &TovraAppShell::handleWindowUserFinished);
-    connect(control, &ControlWorker::purchaseURLFinished, this,
-            &TovraAppShell::handleWindowPurchaseURLFinished);
-    connect(m_context.workers->updateCheck(), &ControlWorker::updateFinished, this,
-            &TovraAppShell::handleWindowUpdateFinished);
-    connect(m_context.workers->download(), &ControlWorker::updateDownloadFinished, this,
-            &TovraAppShell::handleGUIUpdateDownloadFinished);
-}
-
-void TovraAppShell::connectTray()
-{
-    TovraTrayApp *tray = m_context.tray;
-    WindowController *window = m_context.window;
-    connect(tray, &TovraTrayApp::openTovraRequested, this, &TovraAppShell::activateFromApplication);
-    connect(tray, &TovraTrayApp::openLocationsRequested, window, &WindowController::showLocations);
-    connect(tray, &TovraTrayApp::accountRequested, window, &WindowController::showAccount);
-    connect(tray, &TovraTrayApp::logoutRequested, this, &TovraAppShell::logoutAccountFromTray);
-    connect(tray, &TovraTrayApp::connectRuntimeRequested, this,
-            &TovraAppShell::connectRuntimeFromTray);
-    connect(tray, &TovraTrayApp::cancelConnectRequested, this, &TovraAppShell::cancelConnect);
-    connect(tray, &TovraTrayApp::disconnectRuntimeRequested, this,
-            &TovraAppShell::disconnectRuntimeFromTray);
-    connect(tray, &TovraTrayApp::connectNodeRequested, this, &TovraAppShell::connectNodeFromTray);
-    connect(tray, &TovraTrayApp::switchToAutoAndEnableKillSwitchRequested, this,
-            &TovraAppShell::switchToAutoAndEnableKillSwitch);
-    connect(tray, &TovraTrayApp::chooseModeForKillSwitchRequested, this,
-            &TovraAppShell::chooseModeForKillSwitch);
-}
-
-void TovraAppShell::connectWindow()
-{
-    WindowController *w = m_context.window;
-    using W = WindowController;
-    using S = TovraAppShell;
-    connect(w, &W::connectRuntimeRequested, this, &S::connectRuntime);
-    connect(w, &W::cancelConnectRequested, this, &S::cancelConnect);
-    connect(w, &W::disconnectRuntimeRequested, this, &S::disconnectRuntime);
-    connect(w, &W::setModeRequested, this, &S::setModePreference);
-    connect(w, &W::splitRulesRequested, this, &S::refreshModeSplitRules);
-    connect(w, &W::importSplitRulesRequested, this, &S::importModeSplitRules);
-    connect(w, &W::setLocalNetworkRequested, this, &S::setLocalNetworkPreference);
-    connect(w, &W::refreshLocationsRequested, this, &S::refreshLocations);
-    connect(w, &W::connectNodeRequested, this, &S::connectNode);
-    connect(w, &W::connectSmartRequested, this, &S::connectSmart);
-    connect(w, &W::setNodeFavoriteRequested, this, &S::setLocationFavorite);
-    connect(w, &W::openLogsRequested, this, &S::openLogs);
-    connect(w, &W::settingsVisibleRequested, m_settings, &SettingsFlow::refreshSettingsPage);
-    connect(w, &W::setKillSwitchEnabledRequested, this, &S::setSettingsKillSwitchEnabled);
-    connect(w, &W::setKillSwitchModeRequested, this, &S::setSettingsKillSwitchMode);
-    connect(w, &W::switchToAutoAndEnableKillSwitchRequested, this,
-            &S::switchToAutoAndEnableKillSwitch);
-    connect(w, &W::chooseModeForKillSwitchRequested, this, &S::chooseModeForKillSwitch);
-    connect(w, &W::modePageLeft, this, &S::cancelPendingKillSwitchEnable);
-    connect(w, &W::setSystemProxyRequested, this, &S::setSettingsSystemProxyPreference);
-    connect(w, &W::setAPIURLRequested, this, &S::setSettingsAPIURL);
-    connect(w, &W::resetAPIURLRequested, this, &S::resetSettingsAPIURL);
-    connect(w, &W::setAutoConnectRequested, this, &S::setSettingsAutoConnect);
-    connect(w, &W::setLanguageRequested, this, &S::setSettingsLanguage);
-    connect(w, &W::checkUpdateRequested, this, &S::checkSettingsUpdate);
-    connect(w, &W::updateDownloadRequested, this, &S::startGUIUpdateDownload);
-    connect(w, &W::updateDownloadCancelRequested, this, &S::cancelGUIUpdateDownload);
-    connect(w, &W::setProxyListenersRequested, this, &S::setSettingsProxyListeners);
-    connect(w, &W::setSplitDNSLocalRequested, this, &S::setSettingsSplitDNSLocal);
-    connect(w, &W::setSplitDNSPolicyRequested, this, &S::setSettingsSplitDNSPolicy);
-    connect(w, &W::clearSplitDNSLocalRequested, this, &S::clearSettingsSplitDNSLocal);
-    connect(w, &W::resetSplitDNSRequested, this, &S::resetSettingsSplitDNS);
-    connect(w, &W::repairDiagnosticsRequested, this, &S::repairSettingsDiagnostics);
-    connect(w, &W::loginRequested, this, &S::loginAccount);
-    connect(w, &W::logoutRequested, this, &S::logoutAccount);
-    connect(w, &W::purchaseURLRequested, this, &S::requestPurchaseURL);
-    connect(w, &W::forceUpdateExitRequested, this, &S::exitRequested);
 }
 
 void TovraAppShell::setCurrentEffectiveLanguage(const QString &tag)

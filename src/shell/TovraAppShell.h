@@ -151,9 +151,6 @@ public Q_SLOTS:
                                          QString errorMessage);
 
 private:
-    void connectWorkers();
-    void connectTray();
-    void connectWindow();
     void setCompatibility(CompatibilityState state, const QString &text = QString());
     void requestVersion();
     void handleRuntimeChanged(const RuntimeInfo &runtime);

@@ -30,7 +30,9 @@ echo "sanitizer build took $((SECONDS - start)) s"
 
 section "tests under sanitizers"
 start=$SECONDS
-export ASAN_OPTIONS="detect_leaks=1:halt_on_error=1:abort_on_error=1:strict_string_checks=1"
+# No strict_string_checks: libxkbcommon-x11 hands strndup() X atom names that are not
+# NUL-terminated, which that check reports as an overflow in a system library.
+export ASAN_OPTIONS="detect_leaks=1:halt_on_error=1:abort_on_error=1"
 export LSAN_OPTIONS="suppressions=$PWD/tests/lsan.supp:print_suppressions=0"
 export UBSAN_OPTIONS="halt_on_error=1:print_stacktrace=1"
 ctest --test-dir build-asan --output-on-failure --parallel "$jobs"

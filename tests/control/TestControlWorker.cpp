@@ -2,6 +2,7 @@
 #include "ControlWorker.h"
 #include "ScriptedPeer.h"
 
+#include <QPointer>
 #include <QSignalSpy>
 #include <QTest>
 #include <QThread>
@@ -43,7 +44,8 @@ private:
 
     ScriptedPeer *m_peer = nullptr;
     QThread *m_thread = nullptr;
-    ControlWorker *m_worker = nullptr;
+    // Guarded: a test that ends the thread early has the worker deleted with it.
+    QPointer<ControlWorker> m_worker;
 };
 
 void TestControlWorker::initTestCase()
@@ -63,7 +65,8 @@ void TestControlWorker::init()
 
 void TestControlWorker::cleanup()
 {
-    m_worker->stop();
+    if (m_worker)
+        m_worker->stop();
     m_thread->quit();
     QVERIFY(m_thread->wait(5000));
     delete m_thread;

@@ -7,11 +7,12 @@
 #include "NodesInfo.h"
 #include "RuntimeInfo.h"
 #include "TrayMenu.h"
+#include "TrayMenuPainter.h"
+#include "TrayOperations.h"
 #include "TrayRequestIds.h"
-#include "TrayStatusFormatter.h"
+#include "TrayStatusPoller.h"
 #include "UserInfo.h"
 
-#include <QIcon>
 #include <QObject>
 #include <QString>
 #include <QSystemTrayIcon>
@@ -23,9 +24,11 @@
 class AppState;
 class ControlWorker;
 class GuiPreferences;
-class QTimer;
-class TrayMenuCloseWatcher;
+class TrayAccountLookup;
+class TrayLogOpener;
+class TrayMenuSession;
 class TrayModeActions;
+class TrayNodeLoader;
 class TrayNodeMenuModel;
 class TrayNotifier;
 
@@ -38,7 +41,7 @@ class TovraTrayApp : public QObject
 
 public:
     static constexpr int kFirstPollMs = 250;
-    static constexpr int kPollMs = 10000;
+    static constexpr int kPollMs = TrayStatusPoller::kIntervalMs;
     static constexpr int kAfterOperationMs = 250;
 
     TovraTrayApp(AppState *state, ControlWorker *controlWorker, GuiPreferences *preferences,
@@ -133,20 +136,16 @@ public Q_SLOTS:
     void handleNodesRefreshCooldownChanged(int secondsRemaining);
 
 private:
-    // Which operation a mode-kind answer belongs to, for its completion message.
-    enum class ModeOperation { Mode, SplitOption, SystemProxy, LocalNetwork };
-
     void connectWorker();
     void connectState();
     void connectMenu();
+    void connectCollaborators();
 
     bool operationInFlight() const;
-    void startModeOperation(ModeOperation operation, const QString &statusText);
-    void sendModeChange(const ModeInfo &mode, const QString &statusText, ModeOperation operation);
+    void sendModeChange(const ModeInfo &mode, const QString &statusText,
+                        TrayOperations::ModeChange change);
+    void handleOperationStarted(const QString &statusText);
     void finishOperation();
-    void loadNodes(bool refresh);
-    void loadNodeGroups();
-    void fetchUser();
 
     // Redraw from the records (nothing here sends a request).
     void redraw();
@@ -154,22 +153,13 @@ private:
     void redrawOrDefer();
     void applyStatus(const RuntimeInfo &info, const QString &errorMessage);
     void showDaemonUnavailable(const QString &errorMessage);
+    TrayMenuPainter::Situation situation() const;
     void updateEnabledStates();
-    void updateStatusLine();
-    void updateAccountLine();
-    void updateKillSwitchEntry();
-    void updateNodeEntries();
     void updateRefreshNodesEntry();
-    void updateConnectEntry();
-    void fillNodeActions();
-    void releaseMenuEntries();
     void handleMenuOpened();
     void handleMenuClosed();
-    void prewarmMenu();
 
-    const KillSwitchInfo &killSwitchRecord() const;
     ModeInfo currentMode() const;
-    QStringList catalogRegions() const;
 
     AppState *m_state;
     ControlWorker *m_worker;
@@ -178,49 +168,26 @@ private:
     TrayMenu m_menu;
     std::unique_ptr<QMenu> m_menuOwner;
     QSystemTrayIcon *m_icon;
-    QIcon m_iconOn;
-    QIcon m_iconOff;
     TrayModeActions *m_modeActions;
     TrayNodeMenuModel *m_nodeModel;
     std::unique_ptr<TrayNotifier> m_notifier;
-    TrayMenuCloseWatcher *m_closeWatcher;
-    QTimer *m_refreshTimer;
-
     TrayRequestIds m_ids;
+    TrayOperations *m_operations;
+    TrayStatusPoller *m_poller;
+    TrayNodeLoader *m_nodeLoader;
+    TrayMenuSession *m_menuSession;
+    std::unique_ptr<TrayMenuPainter> m_painter;
+    std::unique_ptr<TrayLogOpener> m_logOpener;
+    std::unique_ptr<TrayAccountLookup> m_accountLookup;
+
     bool m_started = false;
     bool m_daemonAvailable = true;
     QString m_unavailableReason;
     bool m_daemonUnreachable = false;
     bool m_statusApplied = false;
 
-    bool m_connectInFlight = false;
-    bool m_connectCancellable = false;
-    QString m_connectStatusText;
-    bool m_disconnectInFlight = false;
-    bool m_modeInFlight = false;
-    ModeOperation m_modeOperation = ModeOperation::Mode;
-    QString m_pendingSystemProxy;
-    bool m_killSwitchInFlight = false;
-    bool m_logoutInFlight = false;
-    bool m_statusInFlight = false;
-    bool m_nodesLoadInFlight = false;
-    bool m_nodesRefreshInFlight = false;
-    bool m_nodeGroupsInFlight = false;
-    bool m_nodeGroupsRefresh = false;
-    bool m_userInFlight = false;
-    TrayStatusFormatter::UserLookup m_userLookup = TrayStatusFormatter::UserLookup::Pending;
-    QString m_nodesError;
-
     bool m_menuOpen = false;
-    bool m_statusPendingWhileMenuOpen = false;
-    RuntimeInfo m_heldStatus;
-    QString m_heldStatusError;
     bool m_redrawPending = false;
-    bool m_nodesExpanded = false;
-    QString m_pendingStatusText;
-    QString m_connectTargetId;
-    QString m_connectTargetLabel;
 
     std::function<int()> m_killSwitchConfirm;
-    std::function<bool(const QUrl &)> m_urlOpener;
 };

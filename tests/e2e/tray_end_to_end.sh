@@ -22,6 +22,9 @@ wait_for() {
     until "$@"; do (( SECONDS < deadline )) || return 1; sleep 0.1; done
 }
 
+# xdotool, retried: under load it can fail to open the display once.
+xdo() { local attempt; for attempt in 1 2 3; do xdotool "$@" && return 0; sleep 0.2; done; return 1; }
+
 for tool in Xvfb trayer xdotool xwininfo; do
     command -v "$tool" >/dev/null || fail "$tool is not installed (scripts/install-deps.sh installs it)"
 done
@@ -79,11 +82,15 @@ window_visible() {
 window_visible && fail "the window showed although showOnLaunch is off"
 
 visible_count() { xdotool search --onlyvisible --class tovra 2>/dev/null | wc -l; }
+# Right-clicks the icon until a new popup shows; xdotool itself can fail to reach a busy server.
 open_menu() {
-    local before
+    local before attempt
     before=$(visible_count)
-    xdotool mousemove "$icon_x" "$icon_y" click 3
-    wait_for 5 test "$(visible_count)" -gt "$before"
+    for attempt in 1 2 3; do
+        xdo mousemove "$icon_x" "$icon_y" click 3 || continue
+        wait_for 3 test "$(visible_count)" -gt "$before" && return 0
+    done
+    return 1
 }
 tunnel_state() { "$ctl" --socket "$socket" fetchStatus | sed -n 's/.*"tunnel_state": "\(.*\)".*/\1/p'; }
 is_connected() { [[ $(tunnel_state) == connected ]]; }
@@ -96,9 +103,9 @@ if icon_is_on; then fail "the icon shows connected while the tunnel is down"; fi
 connected=0
 for attempt in 1 2 3 4 5 6 7 8 9 10; do
     open_menu || fail "tray menu did not open"
-    xdotool key Down Down Return
+    xdo key Down Down Return
     if wait_for 3 is_moving; then connected=1; break; fi
-    xdotool key Escape
+    xdo key Escape
 done
 (( connected )) || fail "Connect in the tray menu did not reach the daemon"
 wait_for 10 is_connected || fail "the tunnel did not reach connected (state: $(tunnel_state))"
@@ -106,10 +113,10 @@ wait_for 10 icon_is_on || fail "the tray icon did not turn to connected"
 
 open_menu || fail "tray menu did not open after connecting"
 "$grab" "$shots/tray-menu.png" || fail "could not take the menu picture"
-xdotool key Escape
+xdo key Escape
 
 # A plain click on the icon opens the window.
-xdotool mousemove "$icon_x" "$icon_y" click 1
+xdo mousemove "$icon_x" "$icon_y" click 1
 wait_for 10 window_visible || fail "a click on the tray icon did not open the window"
 "$grab" "$shots/window.png" || fail "could not take the window picture"
 
@@ -119,7 +126,7 @@ done
 
 # "Quit" is the last entry: Up from the top wraps to it.
 open_menu || fail "tray menu did not open for Quit"
-xdotool key Up Return
+xdo key Up Return
 client_exited() { ! kill -0 "$client_pid" 2>/dev/null; }
 wait_for 15 client_exited || fail "Quit did not end the client"
 status=0

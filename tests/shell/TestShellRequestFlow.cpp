@@ -161,8 +161,9 @@ void TestShellRequestFlow::forcedRefreshStopsNodePingPoll()
     QCOMPARE(catalog->nodePingBudget(), CatalogFlow::kNodePingBudget);
     m_shell->refreshLocations();
     QVERIFY(!catalog->nodePingPollActive());
-    QTRY_VERIFY(!m_peer->requests().isEmpty());
-    QVERIFY(m_peer->requests().constFirst().startsWith("POST /v1/nodes/refresh HTTP/1.1\r\n"));
+    // A connection is recorded before its bytes arrive: wait for the bytes themselves.
+    QTRY_VERIFY(!m_peer->requests().isEmpty() &&
+                m_peer->requests().constFirst().startsWith("POST /v1/nodes/refresh HTTP/1.1\r\n"));
     QCOMPARE(m_shell->state()->nodesRefreshCooldown(), 60);
 }
 

@@ -17,7 +17,7 @@ int main(int argc, char *argv[])
     QPainter(&pixmap).fillRect(4, 4, 14, 14, Qt::darkGreen);
     QMenu menu;
     menu.addAction(QStringLiteral("Quit"), &app, &QCoreApplication::quit);
-    QSystemTrayIcon icon(QIcon(pixmap));
+    QSystemTrayIcon icon{QIcon(pixmap)};
     icon.setContextMenu(&menu);
     icon.setToolTip(QStringLiteral("bare tray"));
     icon.show();

@@ -29,7 +29,7 @@ mkdir -p "$work/config/Tovra" "$work/runtime" && chmod 700 "$work/runtime"
 printf '[window]\nshowOnLaunch=false\n' >"$work/config/Tovra/TovraVPN.ini"
 
 # Milliseconds from exec to the icon embedded in the tray host (class given as "name" "Name").
-icon_embedded() { xwininfo -root -tree | grep -qE "\(\"$1\" \"[^\"]*\"\) +[0-9]{1,2}x[0-9]{1,2}\+"; }
+icon_embedded() { xwininfo -root -tree 2>/dev/null | grep -qE "\(\"$1\" \"[^\"]*\"\) +[0-9]{1,2}x[0-9]{1,2}\+"; }
 start_app() {
     XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime TMPDIR=$work \
         TOVRA_CONTROL_SOCKET=$work/control.sock "$1" >/dev/null 2>&1 &
@@ -42,7 +42,7 @@ measure_start() {
     until icon_embedded "$class"; do sleep 0.002; done
     echo $(( ($(date +%s%N) - start) / 1000000 ))
     kill "$pid"; wait "$pid" 2>/dev/null || true
-    wait_for 5 bash -c "! xwininfo -root -tree | grep -qE '\(\"$class\" '"
+    wait_for 5 bash -c "! xwininfo -root -tree 2>/dev/null | grep -qE '\(\"$class\" '"
 }
 ratio() { awk -v a="$1" -v b="$2" 'BEGIN {printf "%.2f", (b > 0) ? a / b : 0}'; }
 median() { sort -n | awk '{a[NR]=$1} END {print (NR % 2) ? a[(NR+1)/2] : int((a[NR/2]+a[NR/2+1])/2)}'; }

@@ -57,7 +57,7 @@ client_pid=$!
 pids+=("$client_pid")
 
 # The icon is the client's small window embedded in trayer's panel.
-icon_line() { xwininfo -root -tree | grep -E '\("tovra" "Tovra"\) +[0-9]{1,2}x[0-9]{1,2}\+' | head -n1; }
+icon_line() { xwininfo -root -tree 2>/dev/null | grep -E '\("tovra" "Tovra"\) +[0-9]{1,2}x[0-9]{1,2}\+' | head -n1; }
 wait_for 20 icon_line >/dev/null || fail "tray icon did not appear"
 echo "tray icon shown after $(( ($(date +%s%N) - start_ns) / 1000000 )) ms"
 read -r icon_left icon_top icon_width icon_height < <(icon_line \

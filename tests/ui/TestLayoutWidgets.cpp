@@ -2,9 +2,7 @@
 #include "ElidedLabel.h"
 #include "FlowLayout.h"
 
-#include <QAccessible>
 #include <QApplication>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -15,8 +13,6 @@ class TestLayoutWidgets : public QObject
 private Q_SLOTS:
     void flowWraps_data();
     void flowWraps();
-    void flowStartsAtLeadingEdge_data();
-    void flowStartsAtLeadingEdge();
     void elidedLabel_data();
     void elidedLabel();
     void chevronSide_data();
@@ -27,22 +23,31 @@ private Q_SLOTS:
 
 void TestLayoutWidgets::flowWraps_data()
 {
+    QTest::addColumn<Qt::LayoutDirection>("direction");
     QTest::addColumn<int>("width");
     QTest::addColumn<int>("rows");
-    // Four 50-pixel items with 10 pixels between them.
-    QTest::addRow("all on one row") << 500 << 1;
-    QTest::addRow("exactly fits") << 230 << 1;
-    QTest::addRow("one short") << 229 << 2;
-    QTest::addRow("two per row") << 110 << 2;
-    QTest::addRow("one per row") << 60 << 4;
-    QTest::addRow("narrower than an item") << 30 << 4;
+    QTest::addColumn<int>("firstX");
+    QTest::addColumn<int>("secondX");
+    const auto ltr = Qt::LeftToRight;
+    QTest::addRow("all on one row") << ltr << 500 << 1 << 0 << 60;
+    QTest::addRow("exactly fits") << ltr << 230 << 1 << 0 << 60;
+    QTest::addRow("one short") << ltr << 229 << 2 << 0 << 60;
+    QTest::addRow("two per row") << ltr << 110 << 2 << 0 << 60;
+    QTest::addRow("one per row") << ltr << 60 << 4 << 0 << 0;
+    QTest::addRow("narrower than an item") << ltr << 30 << 4 << 0 << 0;
+    QTest::addRow("rtl starts at the right") << Qt::RightToLeft << 200 << 2 << 150 << 90;
+    QTest::addRow("rtl two per row") << Qt::RightToLeft << 110 << 2 << 60 << 0;
 }
 
 void TestLayoutWidgets::flowWraps()
 {
+    QFETCH(Qt::LayoutDirection, direction);
     QFETCH(int, width);
     QFETCH(int, rows);
+    QFETCH(int, firstX);
+    QFETCH(int, secondX);
     QWidget host;
+    host.setLayoutDirection(direction);
     auto *flow = new FlowLayout(&host, 10, 5);
     for (int i = 0; i < 4; ++i) {
         auto *item = new QWidget;
@@ -53,31 +58,6 @@ void TestLayoutWidgets::flowWraps()
     QCOMPARE(flow->heightForWidth(width), rows * 20 + (rows - 1) * 5);
     flow->setGeometry(QRect(0, 0, width, 200));
     QCOMPARE(flow->itemAt(3)->geometry().top(), (rows - 1) * 25);
-}
-
-void TestLayoutWidgets::flowStartsAtLeadingEdge_data()
-{
-    QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addColumn<int>("firstX");
-    QTest::addColumn<int>("secondX");
-    QTest::addRow("ltr") << Qt::LeftToRight << 0 << 60;
-    QTest::addRow("rtl") << Qt::RightToLeft << 150 << 90;
-}
-
-void TestLayoutWidgets::flowStartsAtLeadingEdge()
-{
-    QFETCH(Qt::LayoutDirection, direction);
-    QFETCH(int, firstX);
-    QFETCH(int, secondX);
-    QWidget host;
-    host.setLayoutDirection(direction);
-    auto *flow = new FlowLayout(&host, 10, 5);
-    for (int i = 0; i < 2; ++i) {
-        auto *item = new QWidget;
-        item->setFixedSize(50, 20);
-        flow->addWidget(item);
-    }
-    flow->setGeometry(QRect(0, 0, 200, 100));
     QCOMPARE(flow->itemAt(0)->geometry().x(), firstX);
     QCOMPARE(flow->itemAt(1)->geometry().x(), secondX);
 }
@@ -103,17 +83,12 @@ void TestLayoutWidgets::elidedLabel()
     label.resize(width, label.sizeHint().height());
     QCOMPARE(label.isElided(), elided);
     QCOMPARE(label.text(), text);
-    if (elided) {
-        const QString shown = label.displayedText();
-        QVERIFY(shown.contains(QChar(0x2026)));
-        QCOMPARE(shown.endsWith(QChar(0x2026)), mode == Qt::ElideRight);
-        QVERIFY(label.fontMetrics().horizontalAdvance(shown) <= label.contentsRect().width());
-    } else {
-        QCOMPARE(label.displayedText(), text);
-    }
+    const QString shown = label.displayedText();
+    QCOMPARE(shown.contains(QChar(0x2026)), elided);
+    QCOMPARE(shown.endsWith(QChar(0x2026)), elided && mode == Qt::ElideRight);
+    QVERIFY(label.fontMetrics().horizontalAdvance(shown) <= label.contentsRect().width());
+    // The label may be squeezed below its text's width.
     QVERIFY(label.minimumSizeHint().width() < label.fontMetrics().horizontalAdvance(text));
-    QAccessibleInterface *iface = QAccessible::queryAccessibleInterface(&label);
-    QCOMPARE(iface->text(QAccessible::Name), text);
 }
 
 void TestLayoutWidgets::chevronSide_data()
@@ -159,14 +134,11 @@ void TestLayoutWidgets::chevronLabelIsAKeyboardButton()
     ChevronLabel label(QStringLiteral("Choose a region"));
     label.show();
     QVERIFY(QTest::qWaitForWindowExposed(&label));
+    QVERIFY(label.focusPolicy() & Qt::TabFocus);
     label.setFocus();
     QSignalSpy clicked(&label, &QAbstractButton::clicked);
     QTest::keyClick(&label, Qt::Key(key));
     QCOMPARE(clicked.count(), 1);
-    QAccessibleInterface *iface = QAccessible::queryAccessibleInterface(&label);
-    QCOMPARE(iface->role(), QAccessible::Button);
-    QCOMPARE(iface->text(QAccessible::Name), QStringLiteral("Choose a region"));
-    QVERIFY(iface->state().focusable);
 }
 
 QTEST_MAIN(TestLayoutWidgets)

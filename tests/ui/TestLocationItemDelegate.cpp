@@ -11,10 +11,9 @@
 
 namespace {
 
-QStandardItem *nodeItem(const QString &id, const QString &name, int ping, bool favorite,
-                        const QString &tier)
+QStandardItem *nodeItem(const QString &id, int ping, bool favorite, const QString &tier)
 {
-    auto *item = new QStandardItem(name);
+    auto *item = new QStandardItem(id.toUpper());
     item->setData(id, LocationNodeIdRole);
     item->setData(ping, LocationPingMsRole);
     item->setData(-1, LocationSignalLevelRole);
@@ -22,6 +21,15 @@ QStandardItem *nodeItem(const QString &id, const QString &name, int ping, bool f
     item->setData(tier, LocationTierRole);
     item->setEditable(false);
     return item;
+}
+
+QStyleOptionViewItem rowOption(const QRect &rect, Qt::LayoutDirection direction)
+{
+    QStyleOptionViewItem option;
+    option.rect = rect;
+    option.direction = direction;
+    option.font = QApplication::font();
+    return option;
 }
 
 } // namespace
@@ -74,14 +82,10 @@ void TestLocationItemDelegate::rowMirrors()
     QFETCH(Qt::LayoutDirection, direction);
     QStandardItemModel model;
     QAbstractItemModelTester tester(&model);
-    model.appendRow(nodeItem(QStringLiteral("de-1"), QStringLiteral("Germany"), 24, false,
-                             QStringLiteral("SVIP")));
+    model.appendRow(nodeItem(QStringLiteral("de-1"), 24, false, QStringLiteral("SVIP")));
     LocationItemDelegate delegate;
-    QStyleOptionViewItem option;
-    option.rect = QRect(0, 0, 400, 40);
-    option.direction = direction;
-    option.font = QApplication::font();
-    const LocationItemDelegate::RowLayout row = delegate.rowLayout(option, model.index(0, 0));
+    const LocationItemDelegate::RowLayout row =
+        delegate.rowLayout(rowOption(QRect(0, 0, 400, 40), direction), model.index(0, 0));
 
     // Leading to trailing: flag, name, badge, ping, bars, star; nothing overlaps.
     const QList<QRect> order = {row.flag, row.name, row.badge, row.ping, row.bars, row.star};
@@ -117,8 +121,7 @@ void TestLocationItemDelegate::starClickRequestsOpposite()
     QFETCH(bool, favorite);
     QStandardItemModel model;
     QAbstractItemModelTester tester(&model);
-    model.appendRow(nodeItem(QStringLiteral("nl-2"), QStringLiteral("Netherlands"), 96, favorite,
-                             QStringLiteral("FREE")));
+    model.appendRow(nodeItem(QStringLiteral("nl-2"), 96, favorite, QStringLiteral("FREE")));
     auto *group = new QStandardItem(QStringLiteral("Europe"));
     group->setData(true, LocationIsGroupRole);
     model.appendRow(group);
@@ -134,11 +137,8 @@ void TestLocationItemDelegate::starClickRequestsOpposite()
     QVERIFY(QTest::qWaitForWindowExposed(&view));
 
     QSignalSpy spy(delegate, &LocationItemDelegate::favoriteToggleRequested);
-    QStyleOptionViewItem option;
-    option.rect = view.visualRect(model.index(0, 0));
-    option.direction = direction;
-    option.font = view.font();
-    const QRect star = delegate->rowLayout(option, model.index(0, 0)).star;
+    const QRect row = view.visualRect(model.index(0, 0));
+    const QRect star = delegate->rowLayout(rowOption(row, direction), model.index(0, 0)).star;
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, star.center());
     QCOMPARE(spy.count(), 1);
     QCOMPARE(spy.first().at(0).toString(), QStringLiteral("nl-2"));
@@ -147,14 +147,10 @@ void TestLocationItemDelegate::starClickRequestsOpposite()
     QCOMPARE(model.index(0, 0).data(LocationFavoriteRole).toBool(), favorite);
 
     // Clicking the name selects the row and asks nothing; group rows have no star.
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, {}, row.center());
+    const QRect groupRow = view.visualRect(model.index(1, 0));
     QTest::mouseClick(view.viewport(), Qt::LeftButton, {},
-                      view.visualRect(model.index(0, 0)).center());
-    option.rect = view.visualRect(model.index(1, 0));
-    QTest::mouseClick(
-        view.viewport(), Qt::LeftButton, {},
-        QStyle::visualRect(direction, option.rect,
-                           QRect(option.rect.right() - 20, option.rect.top() + 10, 10, 10))
-            .center());
+                      QPoint(star.center().x(), groupRow.center().y()));
     QCOMPARE(spy.count(), 1);
 }
 

@@ -1,36 +1,12 @@
 #include "IconTinter.h"
 #include "ThemeEngine.h"
-#include "ThemedScrollBar.h"
-#include "ToggleSwitch.h"
 #include "TovraDialogTitleBarThemer.h"
 
 #include <QApplication>
 #include <QDialog>
-#include <QHBoxLayout>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QStyle>
 #include <QTest>
-
-namespace {
-
-QStringList g_styleWarnings;
-
-void collectStyleWarnings(QtMsgType, const QMessageLogContext &, const QString &message)
-{
-    if (message.contains(QLatin1String("style sheet"), Qt::CaseInsensitive) ||
-        message.contains(QLatin1String("stylesheet"), Qt::CaseInsensitive)) {
-        g_styleWarnings.append(message);
-    }
-}
-
-QColor centreColor(const QPixmap &pixmap)
-{
-    const QImage image = pixmap.toImage();
-    return image.pixelColor(image.width() / 2, image.height() / 2);
-}
-
-} // namespace
 
 class TestThemeEngine : public QObject
 {
@@ -39,17 +15,13 @@ class TestThemeEngine : public QObject
 private Q_SLOTS:
     void renderedSheetIsComplete_data();
     void renderedSheetIsComplete();
-    void rightToLeftResolvesDividerColour();
     void directionTokensPrecedeColours();
-    void intendedCoincidences_data();
-    void intendedCoincidences();
     void paletteRoles_data();
     void paletteRoles();
     void resolveAppearance_data();
     void resolveAppearance();
     void pendingPrimaryActionKeepsItsColour_data();
     void pendingPrimaryActionKeepsItsColour();
-    void switchAndScrollBarColours();
     void sidebarIconTints_data();
     void sidebarIconTints();
     void titleBarThemerFollowsPalette();
@@ -59,81 +31,61 @@ void TestThemeEngine::renderedSheetIsComplete_data()
 {
     QTest::addColumn<Appearance>("appearance");
     QTest::addColumn<Qt::LayoutDirection>("direction");
-    QTest::addRow("light ltr") << Appearance::Light << Qt::LeftToRight;
-    QTest::addRow("light rtl") << Appearance::Light << Qt::RightToLeft;
-    QTest::addRow("light auto") << Appearance::Light << Qt::LayoutDirectionAuto;
-    QTest::addRow("dark ltr") << Appearance::Dark << Qt::LeftToRight;
-    QTest::addRow("dark rtl") << Appearance::Dark << Qt::RightToLeft;
-    QTest::addRow("dark auto") << Appearance::Dark << Qt::LayoutDirectionAuto;
+    QTest::addColumn<QStringList>("fragments");
+    QTest::addRow("light ltr") << Appearance::Light << Qt::LeftToRight
+                               << QStringList({QStringLiteral("border-left: 1px solid #c2c9d6"),
+                                               QStringLiteral("padding-right: 28px")});
+    QTest::addRow("light rtl") << Appearance::Light << Qt::RightToLeft
+                               << QStringList({QStringLiteral("border-right: 1px solid #c2c9d6"),
+                                               QStringLiteral("padding-left: 28px")});
+    QTest::addRow("light auto") << Appearance::Light << Qt::LayoutDirectionAuto << QStringList();
+    QTest::addRow("dark ltr") << Appearance::Dark << Qt::LeftToRight << QStringList();
+    QTest::addRow("dark rtl") << Appearance::Dark << Qt::RightToLeft << QStringList();
+    QTest::addRow("dark auto") << Appearance::Dark << Qt::LayoutDirectionAuto << QStringList();
 }
 
 void TestThemeEngine::renderedSheetIsComplete()
 {
     QFETCH(Appearance, appearance);
     QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(QStringList, fragments);
     const ThemeColors colors = ThemeEngine::buildColors(appearance);
     const QString sheet = ThemeEngine::renderStyleSheet(colors, direction);
 
     const QRegularExpressionMatch leftover =
         QRegularExpression(QStringLiteral("@[A-Za-z]+@")).match(sheet);
     QVERIFY2(!leftover.hasMatch(), qPrintable(leftover.captured()));
+    for (const QString &fragment : fragments) {
+        QVERIFY2(sheet.contains(fragment), qPrintable(fragment));
+    }
     QVERIFY(sheet.contains(colors.value(ThemeColor::WindowBg)));
+    // The sidebar shares one colour for active and selected; the subtle fill is palette-only.
+    QCOMPARE(colors.value(ThemeColor::SidebarActive), colors.value(ThemeColor::SidebarSelectedBg));
+    QVERIFY(!sheet.contains(colors.value(ThemeColor::SubtleFill)));
 
     // The sheet must parse: Qt reports a broken one only as a warning when it is applied.
-    g_styleWarnings.clear();
-    const QtMessageHandler previous = qInstallMessageHandler(collectStyleWarnings);
+    QTest::failOnWarning(QRegularExpression(QStringLiteral("style ?sheet"),
+                                            QRegularExpression::CaseInsensitiveOption));
     QWidget root;
     root.setObjectName(QStringLiteral("TovraWindowRoot"));
     root.setLayoutDirection(direction == Qt::LayoutDirectionAuto ? Qt::LeftToRight : direction);
     auto *button = new QPushButton(QStringLiteral("x"), &root);
     root.setStyleSheet(sheet);
     button->ensurePolished();
-    qInstallMessageHandler(previous);
-    QVERIFY2(g_styleWarnings.isEmpty(), qPrintable(g_styleWarnings.join(QLatin1Char('\n'))));
-}
-
-void TestThemeEngine::rightToLeftResolvesDividerColour()
-{
-    const ThemeColors colors = ThemeEngine::buildColors(Appearance::Light);
-    const QString rtl = ThemeEngine::renderStyleSheet(colors, Qt::RightToLeft);
-    QVERIFY(rtl.contains(QStringLiteral("border-right: 1px solid #c2c9d6")));
-    QVERIFY(!rtl.contains(QStringLiteral("border-right: 1px solid @")));
-    const QString ltr = ThemeEngine::renderStyleSheet(colors, Qt::LeftToRight);
-    QVERIFY(ltr.contains(QStringLiteral("border-left: 1px solid #c2c9d6")));
-    QVERIFY(ltr.contains(QStringLiteral("padding-right: 28px")));
-    QVERIFY(rtl.contains(QStringLiteral("padding-left: 28px")));
 }
 
 void TestThemeEngine::directionTokensPrecedeColours()
 {
     const ThemeColors dark = ThemeEngine::buildColors(Appearance::Dark);
-    const QString rendered = ThemeEngine::renderStyleSheet(
-        QStringLiteral("a{@tabStartOuterBorder@;min-width:@sidebarMinWidth@px}"), dark,
-        Qt::LeftToRight);
-    QCOMPARE(rendered, QStringLiteral("a{border-left: 1px solid #3d4759;min-width:92px}"));
-    const QString automatic = ThemeEngine::renderStyleSheet(
-        QStringLiteral("a{@segmentDividerBorder@;color:@accent@}"), dark, Qt::LayoutDirectionAuto);
-    QCOMPARE(automatic, QStringLiteral("a{;color:#47B96D}"));
-}
-
-void TestThemeEngine::intendedCoincidences_data()
-{
-    QTest::addColumn<Appearance>("appearance");
-    QTest::addRow("light") << Appearance::Light;
-    QTest::addRow("dark") << Appearance::Dark;
-}
-
-void TestThemeEngine::intendedCoincidences()
-{
-    QFETCH(Appearance, appearance);
-    const ThemeColors colors = ThemeEngine::buildColors(appearance);
-    QCOMPARE(colors.value(ThemeColor::SidebarActive), colors.value(ThemeColor::SidebarSelectedBg));
-    if (appearance == Appearance::Dark) {
-        QCOMPARE(colors.value(ThemeColor::Accent), QStringLiteral("#47B96D"));
-        QCOMPARE(colors.value(ThemeColor::SidebarSelectedText), QStringLiteral("#47B96D"));
-    }
-    const QString sheet = ThemeEngine::renderStyleSheet(colors, Qt::LeftToRight);
-    QVERIFY(!sheet.contains(colors.value(ThemeColor::SubtleFill)));
+    QCOMPARE(ThemeEngine::renderStyleSheet(
+                 QStringLiteral("a{@tabStartOuterBorder@;min-width:@sidebarMinWidth@px}"), dark,
+                 Qt::LeftToRight),
+             QStringLiteral("a{border-left: 1px solid #3d4759;min-width:92px}"));
+    // Without a known direction the divider is left out.
+    QCOMPARE(
+        ThemeEngine::renderStyleSheet(QStringLiteral("a{@segmentDividerBorder@;color:@accent@}"),
+                                      dark, Qt::LayoutDirectionAuto),
+        QStringLiteral("a{;color:#47B96D}"));
 }
 
 void TestThemeEngine::paletteRoles_data()
@@ -141,37 +93,17 @@ void TestThemeEngine::paletteRoles_data()
     QTest::addColumn<Appearance>("appearance");
     QTest::addColumn<QPalette::ColorGroup>("group");
     QTest::addColumn<QPalette::ColorRole>("role");
-    QTest::addColumn<QColor>("expected");
-    const QColor lightBorder(QStringLiteral("#c2c9d6"));
-    QTest::addRow("window") << Appearance::Light << QPalette::Active << QPalette::Window
-                            << QColor(QStringLiteral("#f1f3f6"));
-    QTest::addRow("alternate base") << Appearance::Dark << QPalette::Inactive
-                                    << QPalette::AlternateBase << QColor(QStringLiteral("#10141c"));
-    QTest::addRow("tooltip text") << Appearance::Dark << QPalette::Active << QPalette::ToolTipText
-                                  << QColor(QStringLiteral("#eef3f8"));
-    QTest::addRow("midlight") << Appearance::Light << QPalette::Active << QPalette::Midlight
-                              << QColor(QStringLiteral("#ffffff"));
-    QTest::addRow("light") << Appearance::Dark << QPalette::Active << QPalette::Light
-                           << QColor(QStringLiteral("#181f2a")).lighter(115);
-    QTest::addRow("dark") << Appearance::Light << QPalette::Active << QPalette::Dark
-                          << lightBorder.darker(120);
-    QTest::addRow("shadow") << Appearance::Light << QPalette::Active << QPalette::Shadow
-                            << lightBorder.darker(140);
-    QTest::addRow("highlight") << Appearance::Light << QPalette::Active << QPalette::Highlight
-                               << QColor(QStringLiteral("#037A4B"));
-    QTest::addRow("highlighted text")
-        << Appearance::Dark << QPalette::Active << QPalette::HighlightedText << QColor(Qt::white);
-    QTest::addRow("placeholder") << Appearance::Dark << QPalette::Active
-                                 << QPalette::PlaceholderText << QColor(QStringLiteral("#a7b0bd"));
-    QTest::addRow("disabled text") << Appearance::Light << QPalette::Disabled << QPalette::Text
-                                   << QColor(QStringLiteral("#868d9a"));
+    QTest::addColumn<QString>("expected");
+    using P = QPalette;
+    const Appearance light = Appearance::Light, dark = Appearance::Dark;
+    QTest::addRow("window") << light << P::Active << P::Window << "#f1f3f6";
+    QTest::addRow("highlight") << light << P::Active << P::Highlight << "#037A4B";
+    QTest::addRow("placeholder") << dark << P::Active << P::PlaceholderText << "#a7b0bd";
+    QTest::addRow("disabled text") << light << P::Disabled << P::Text << "#868d9a";
     QTest::addRow("disabled highlighted text")
-        << Appearance::Dark << QPalette::Disabled << QPalette::HighlightedText
-        << QColor(QStringLiteral("#6f7886"));
-    QTest::addRow("disabled highlight")
-        << Appearance::Light << QPalette::Disabled << QPalette::Highlight << lightBorder;
-    QTest::addRow("disabled base keeps surface")
-        << Appearance::Light << QPalette::Disabled << QPalette::Base << QColor(Qt::white);
+        << dark << P::Disabled << P::HighlightedText << "#6f7886";
+    QTest::addRow("disabled highlight") << light << P::Disabled << P::Highlight << "#c2c9d6";
+    QTest::addRow("disabled base keeps surface") << light << P::Disabled << P::Base << "#ffffff";
 }
 
 void TestThemeEngine::paletteRoles()
@@ -179,9 +111,9 @@ void TestThemeEngine::paletteRoles()
     QFETCH(Appearance, appearance);
     QFETCH(QPalette::ColorGroup, group);
     QFETCH(QPalette::ColorRole, role);
-    QFETCH(QColor, expected);
+    QFETCH(QString, expected);
     const QPalette palette = ThemeEngine::buildPalette(ThemeEngine::buildColors(appearance));
-    QCOMPARE(palette.color(group, role), expected);
+    QCOMPARE(palette.color(group, role), QColor(expected));
 }
 
 void TestThemeEngine::resolveAppearance_data()
@@ -189,18 +121,14 @@ void TestThemeEngine::resolveAppearance_data()
     QTest::addColumn<QString>("preference");
     QTest::addColumn<DesktopScheme>("desktop");
     QTest::addColumn<Appearance>("expected");
-    QTest::addRow("light ignores dark desktop")
-        << QStringLiteral("light") << DesktopScheme::Dark << Appearance::Light;
-    QTest::addRow("dark ignores light desktop")
-        << QStringLiteral("dark") << DesktopScheme::Light << Appearance::Dark;
-    QTest::addRow("system dark") << QStringLiteral("system") << DesktopScheme::Dark
-                                 << Appearance::Dark;
-    QTest::addRow("system light") << QStringLiteral("system") << DesktopScheme::Light
-                                  << Appearance::Light;
-    QTest::addRow("system unknown is light")
-        << QStringLiteral("system") << DesktopScheme::Unknown << Appearance::Light;
-    QTest::addRow("unknown preference follows desktop")
-        << QStringLiteral("Dark ") << DesktopScheme::Dark << Appearance::Dark;
+    using D = DesktopScheme;
+    const Appearance light = Appearance::Light, dark = Appearance::Dark;
+    QTest::addRow("light over dark desktop") << "light" << D::Dark << light;
+    QTest::addRow("dark over light desktop") << "dark" << D::Light << dark;
+    QTest::addRow("system dark") << "system" << D::Dark << dark;
+    QTest::addRow("system light") << "system" << D::Light << light;
+    QTest::addRow("system unknown is light") << "system" << D::Unknown << light;
+    QTest::addRow("unknown preference follows desktop") << "Dark " << D::Dark << dark;
 }
 
 void TestThemeEngine::resolveAppearance()
@@ -216,13 +144,10 @@ void TestThemeEngine::pendingPrimaryActionKeepsItsColour_data()
     QTest::addColumn<QString>("role");
     QTest::addColumn<bool>("pending");
     QTest::addColumn<ThemeColor>("expected");
-    QTest::addRow("connect pending")
-        << QStringLiteral("connect") << true << ThemeColor::AccentStrong;
-    QTest::addRow("connect idle") << QStringLiteral("connect") << false << ThemeColor::Surface;
-    QTest::addRow("disconnect pending")
-        << QStringLiteral("disconnect") << true << ThemeColor::Danger;
-    QTest::addRow("disconnect idle")
-        << QStringLiteral("disconnect") << false << ThemeColor::Surface;
+    QTest::addRow("connect pending") << "connect" << true << ThemeColor::AccentStrong;
+    QTest::addRow("connect idle") << "connect" << false << ThemeColor::Surface;
+    QTest::addRow("disconnect pending") << "disconnect" << true << ThemeColor::Danger;
+    QTest::addRow("disconnect idle") << "disconnect" << false << ThemeColor::Surface;
 }
 
 void TestThemeEngine::pendingPrimaryActionKeepsItsColour()
@@ -232,42 +157,20 @@ void TestThemeEngine::pendingPrimaryActionKeepsItsColour()
     QFETCH(ThemeColor, expected);
     QWidget root;
     root.setObjectName(QStringLiteral("TovraWindowRoot"));
-    auto *layout = new QHBoxLayout(&root);
     // No text: the sampled centre pixel is the button's fill.
     auto *button = new QPushButton(&root);
     button->setObjectName(QStringLiteral("TovraVPNPrimaryAction"));
     button->setProperty("tovraPrimaryRole", role);
-    if (pending) {
-        button->setProperty("tovraPrimaryState", QStringLiteral("pending"));
-    }
+    button->setProperty("tovraPrimaryState", pending ? QStringLiteral("pending") : QString());
     button->setEnabled(false);
-    layout->addWidget(button);
+    button->setGeometry(10, 10, 180, 60);
     const ThemeColors colors = ThemeEngine::buildColors(Appearance::Light);
     ThemeEngine::applyToWindow(&root, colors);
     root.resize(200, 80);
     root.show();
     QVERIFY(QTest::qWaitForWindowExposed(&root));
-    QCOMPARE(centreColor(button->grab()), colors.color(expected));
-}
-
-void TestThemeEngine::switchAndScrollBarColours()
-{
-    QWidget root;
-    auto *toggle = new ToggleSwitch(&root);
-    auto *bar = new ThemedScrollBar(Qt::Vertical, new QWidget(&root));
-    const ThemeColors colors = ThemeEngine::buildColors(Appearance::Dark);
-    ThemeEngine::applySwitchColors(&root, colors);
-    ThemeEngine::applyScrollBarColors(&root, colors);
-    QCOMPARE(toggle->property("tovraSwitchCheckedTrack").value<QColor>(),
-             QColor(QStringLiteral("#47B96D")));
-    QCOMPARE(toggle->property("tovraSwitchUncheckedTrack").value<QColor>(),
-             QColor(QStringLiteral("#3d4759")));
-    QCOMPARE(toggle->property("tovraSwitchThumb").value<QColor>(), QColor(Qt::white));
-    QCOMPARE(toggle->property("tovraSwitchThumbBorder").value<QColor>(), QColor(0, 0, 0, 70));
-    QCOMPARE(toggle->property("tovraSwitchFocus").value<QColor>(),
-             QColor(QStringLiteral("#47B96D")));
-    QCOMPARE(bar->handleColor(), QColor(QStringLiteral("#a7b0bd")));
-    QCOMPARE(bar->pressedHandleColor(), QColor(QStringLiteral("#eef3f8")));
+    const QImage image = button->grab().toImage();
+    QCOMPARE(image.pixelColor(image.width() / 2, image.height() / 2), colors.color(expected));
 }
 
 void TestThemeEngine::sidebarIconTints_data()
@@ -296,13 +199,11 @@ void TestThemeEngine::sidebarIconTints()
     const QImage image = pixmap.toImage().convertToFormat(QImage::Format_ARGB32);
     // Every fully covered pixel carries the tint and nothing else.
     int opaque = 0;
-    for (int y = 0; y < image.height(); ++y) {
-        for (int x = 0; x < image.width(); ++x) {
-            const QColor pixel = image.pixelColor(x, y);
-            if (pixel.alpha() == 255) {
-                ++opaque;
-                QCOMPARE(pixel.rgb(), colors.color(expected).rgb());
-            }
+    for (int i = 0; i < image.width() * image.height(); ++i) {
+        const QColor pixel = image.pixelColor(i % image.width(), i / image.width());
+        if (pixel.alpha() == 255) {
+            ++opaque;
+            QCOMPARE(pixel.rgb(), colors.color(expected).rgb());
         }
     }
     QVERIFY(opaque > 20);
@@ -312,15 +213,10 @@ void TestThemeEngine::titleBarThemerFollowsPalette()
 {
     QDialog dialog;
     TovraDialogTitleBarThemer *themer = TovraDialogTitleBarThemer::attach(&dialog);
-    QCOMPARE(themer->parent(), &dialog);
     dialog.setPalette(ThemeEngine::buildPalette(ThemeEngine::buildColors(Appearance::Dark)));
     QVERIFY(themer->lastDark());
-    const int afterDark = themer->applyCount();
     dialog.setPalette(ThemeEngine::buildPalette(ThemeEngine::buildColors(Appearance::Light)));
     QVERIFY(!themer->lastDark());
-    QVERIFY(themer->applyCount() > afterDark);
-    dialog.show();
-    QVERIFY(dialog.isVisible());
 }
 
 QTEST_MAIN(TestThemeEngine)

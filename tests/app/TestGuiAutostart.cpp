@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 #include <QTest>
 
 #include <memory>
@@ -23,18 +24,12 @@ QStringList parseExec(const QString &value)
     bool haveArg = false;
     for (qsizetype i = 0; i < value.size(); ++i) {
         const QChar c = value.at(i);
-        if (inQuotes) {
-            if (c == u'\\' && i + 1 < value.size()) {
-                current.append(value.at(++i));
-            } else if (c == u'"') {
-                inQuotes = false;
-            } else {
-                current.append(c);
-            }
+        if (inQuotes && c == u'\\' && i + 1 < value.size()) {
+            current.append(value.at(++i));
         } else if (c == u'"') {
-            inQuotes = true;
+            inQuotes = !inQuotes;
             haveArg = true;
-        } else if (c == u' ') {
+        } else if (c == u' ' && !inQuotes) {
             if (haveArg)
                 args.append(current);
             current.clear();
@@ -49,14 +44,16 @@ QStringList parseExec(const QString &value)
     return args;
 }
 
+QByteArray readFile(const QString &path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
 QString entryValue(const QByteArray &contents, const QString &key)
 {
-    const QStringList lines = QString::fromUtf8(contents).split(u'\n');
-    for (const QString &line : lines) {
-        if (line.startsWith(key + u'='))
-            return line.mid(key.size() + 1);
-    }
-    return {};
+    const QRegularExpression line(u"^"_s + key + u"=(.*)$"_s, QRegularExpression::MultilineOption);
+    return line.match(QString::fromUtf8(contents)).captured(1);
 }
 
 } // namespace
@@ -66,201 +63,144 @@ class TestGuiAutostart : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void entryBytes();
-    void execRoundTrip_data();
-    void execRoundTrip();
-    void configDirectory_data();
-    void configDirectory();
-    void enableWritesPrivateFile();
-    void enableRewritesAnOlderEntry();
-    void disable_data();
-    void disable();
-    void failures_data();
-    void failures();
+    void init() { m_dirs = std::make_unique<TempXdgDirs>(); }
+    void cleanup() { m_dirs.reset(); }
+
+    void enableWritesPrivateEntry()
+    {
+        // An entry of an older install is replaced, through an atomic save that leaves no
+        // temporary file behind.
+        QVERIFY(GuiAutostart({}, u"/old/place/tovra"_s).reconcile(true, nullptr));
+        const GuiAutostart autostart({}, u"/opt/tovra/bin/tovra"_s);
+        QString error;
+        QVERIFY(autostart.reconcile(true, &error));
+        QCOMPARE(error, QString());
+        QCOMPARE(readFile(autostart.entryPath()),
+                 QByteArray("[Desktop Entry]\n"
+                            "Type=Application\n"
+                            "Name=Tovra VPN\n"
+                            "Comment=Start Tovra VPN in the desktop session\n"
+                            "Exec=\"/opt/tovra/bin/tovra\" --tovra-autostart\n"
+                            "TryExec=/opt/tovra/bin/tovra\n"
+                            "Icon=com.tovra.vpn\n"
+                            "Terminal=false\n"
+                            "NoDisplay=true\n"
+                            "X-GNOME-Autostart-enabled=true\n"
+                            "X-TovraVPN-Autostart=true\n"));
+        QCOMPARE(QDir(m_dirs->configHome() + u"/autostart"_s).entryList(QDir::Files | QDir::Hidden),
+                 QStringList{u"com.tovra.vpn.desktop"_s});
+        const QFileDevice::Permissions userBits(0x0700); // repeat the owner bits for its owner
+        QCOMPARE(QFileInfo(autostart.entryPath()).permissions() & ~userBits,
+                 QFileDevice::ReadOwner | QFileDevice::WriteOwner);
+    }
+
+    void execRoundTrip_data()
+    {
+        QTest::addColumn<QString>("path");
+        QTest::addRow("space") << u"/home/ann/My Apps/tovra"_s;
+        QTest::addRow("double quote") << u"/home/ann/\"quoted\"/tovra"_s;
+        QTest::addRow("dollar") << u"/home/ann/$HOME/tovra"_s;
+        QTest::addRow("backquote") << u"/home/ann/`id`/tovra"_s;
+        QTest::addRow("backslash") << u"/home/ann/back\\slash/tovra"_s;
+        QTest::addRow("all at once") << u"/tmp/a b/\"c\"/$d/`e`/f\\g"_s;
+        QTest::addRow("non-ascii") << u"/home/zoë/Programme/tovra"_s;
+    }
+
+    void execRoundTrip()
+    {
+        QFETCH(QString, path);
+        const GuiAutostart autostart({}, path);
+        QVERIFY(autostart.reconcile(true, nullptr));
+        const QByteArray contents = readFile(autostart.entryPath());
+        QCOMPARE(parseExec(entryValue(contents, u"Exec"_s)),
+                 (QStringList{path, u"--tovra-autostart"_s}));
+        QCOMPARE(entryValue(contents, u"TryExec"_s), path);
+    }
+
+    void configDirectory_data()
+    {
+        QTest::addColumn<QString>("explicitDir");
+        QTest::addColumn<QString>("xdgConfigHome");
+        QTest::addColumn<QString>("expectedDir"); // relative to the temporary root
+        QTest::addRow("XDG_CONFIG_HOME") << u""_s << u"xdg"_s << u"xdg"_s;
+        QTest::addRow("XDG_CONFIG_HOME blanks is unset") << u""_s << u"   "_s << u"home/.config"_s;
+        QTest::addRow("XDG_CONFIG_HOME cleaned") << u""_s << u" xdg//sub/../ "_s << u"xdg"_s;
+        QTest::addRow("explicit wins") << u" given/ "_s << u"xdg"_s << u"given"_s;
+    }
+
+    void configDirectory()
+    {
+        QFETCH(QString, explicitDir);
+        QFETCH(QString, xdgConfigHome);
+        QFETCH(QString, expectedDir);
+        const QString root = m_dirs->root() + u'/';
+        const auto absolute = [&root](const QString &text) {
+            return text.trimmed().isEmpty() ? text : root + text.trimmed() + u' ';
+        };
+        qputenv("XDG_CONFIG_HOME", absolute(xdgConfigHome).toLocal8Bit());
+        const GuiAutostart autostart(absolute(explicitDir), u"/usr/bin/tovra"_s);
+        QCOMPARE(autostart.entryPath(), root + expectedDir + u"/autostart/com.tovra.vpn.desktop"_s);
+    }
+
+    void disable_data()
+    {
+        QTest::addColumn<bool>("existing");
+        QTest::addRow("removes the entry") << true;
+        QTest::addRow("nothing to remove") << false;
+    }
+
+    void disable()
+    {
+        QFETCH(bool, existing);
+        const GuiAutostart autostart({}, u"/usr/bin/tovra"_s);
+        QVERIFY(!existing || autostart.reconcile(true, nullptr));
+        QString error;
+        QVERIFY(autostart.reconcile(false, &error));
+        QCOMPARE(error, QString());
+        QVERIFY(!QFileInfo::exists(autostart.entryPath()));
+        // Disabling never creates the directory it would have removed a file from.
+        QCOMPARE(QFileInfo::exists(m_dirs->configHome() + u"/autostart"_s), existing);
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<QString>("executable");
+        QTest::addColumn<QString>("obstacle"); // made a directory (or file) in the way
+        QTest::addColumn<bool>("enable");
+        QTest::addColumn<QString>("message");
+        const QString entryDir = u"dir:autostart/com.tovra.vpn.desktop/x"_s;
+        QTest::addRow("relative executable")
+            << u"bin/tovra"_s << QString() << true
+            << u"Could not resolve the Tovra executable for login startup."_s;
+        QTest::addRow("autostart is a file") << u"/usr/bin/tovra"_s << u"file:autostart"_s << true
+                                             << u"Could not prepare the login startup directory."_s;
+        QTest::addRow("entry is a directory") << u"/usr/bin/tovra"_s << entryDir << true
+                                              << u"Could not update Tovra login startup."_s;
+        QTest::addRow("entry cannot be removed") << u"/usr/bin/tovra"_s << entryDir << false
+                                                 << u"Could not remove Tovra from login startup."_s;
+    }
+
+    void failures()
+    {
+        QFETCH(QString, executable);
+        QFETCH(QString, obstacle);
+        QFETCH(bool, enable);
+        QFETCH(QString, message);
+        const QString target = m_dirs->configHome() + u'/' + obstacle.section(u':', 1);
+        if (obstacle.startsWith(u"dir:"))
+            QVERIFY(QDir().mkpath(target));
+        QFile file(target);
+        if (obstacle.startsWith(u"file:"))
+            QVERIFY(file.open(QIODevice::WriteOnly));
+        const GuiAutostart autostart({}, executable);
+        QString error;
+        QVERIFY(!autostart.reconcile(enable, &error));
+        QCOMPARE(error, message);
+    }
 
 private:
     std::unique_ptr<TempXdgDirs> m_dirs;
 };
-
-void TestGuiAutostart::init()
-{
-    m_dirs = std::make_unique<TempXdgDirs>();
-    QVERIFY(m_dirs->isValid());
-}
-
-void TestGuiAutostart::cleanup()
-{
-    m_dirs.reset();
-}
-
-void TestGuiAutostart::entryBytes()
-{
-    const GuiAutostart autostart({}, u"/opt/tovra/bin/tovra"_s);
-    QVERIFY(autostart.reconcile(true, nullptr));
-    QFile file(autostart.entryPath());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("[Desktop Entry]\n"
-                                        "Type=Application\n"
-                                        "Name=Tovra VPN\n"
-                                        "Comment=Start Tovra VPN in the desktop session\n"
-                                        "Exec=\"/opt/tovra/bin/tovra\" --tovra-autostart\n"
-                                        "TryExec=/opt/tovra/bin/tovra\n"
-                                        "Icon=com.tovra.vpn\n"
-                                        "Terminal=false\n"
-                                        "NoDisplay=true\n"
-                                        "X-GNOME-Autostart-enabled=true\n"
-                                        "X-TovraVPN-Autostart=true\n"));
-}
-
-void TestGuiAutostart::execRoundTrip_data()
-{
-    QTest::addColumn<QString>("path");
-    QTest::addRow("space") << "/home/ann/My Apps/tovra";
-    QTest::addRow("double quote") << "/home/ann/\"quoted\"/tovra";
-    QTest::addRow("dollar") << "/home/ann/$HOME/tovra";
-    QTest::addRow("backquote") << "/home/ann/`id`/tovra";
-    QTest::addRow("backslash") << "/home/ann/back\\slash/tovra";
-    QTest::addRow("all at once") << "/tmp/a b/\"c\"/$d/`e`/f\\g";
-    QTest::addRow("non-ascii") << QString::fromUtf8("/home/zoë/Programme/tovra");
-}
-
-void TestGuiAutostart::execRoundTrip()
-{
-    QFETCH(QString, path);
-    const GuiAutostart autostart({}, path);
-    QVERIFY(autostart.reconcile(true, nullptr));
-    QFile file(autostart.entryPath());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    const QByteArray contents = file.readAll();
-    QCOMPARE(parseExec(entryValue(contents, u"Exec"_s)),
-             (QStringList{path, u"--tovra-autostart"_s}));
-    QCOMPARE(entryValue(contents, u"TryExec"_s), path);
-}
-
-void TestGuiAutostart::configDirectory_data()
-{
-    QTest::addColumn<QString>("explicitDir");
-    QTest::addColumn<QString>("xdgConfigHome");
-    QTest::addColumn<QString>("expectedDir"); // relative to the temporary root
-    QTest::addRow("XDG_CONFIG_HOME") << ""
-                                     << "xdg"
-                                     << "xdg";
-    QTest::addRow("XDG_CONFIG_HOME blanks is unset") << ""
-                                                     << "   "
-                                                     << "home/.config";
-    QTest::addRow("XDG_CONFIG_HOME cleaned") << ""
-                                             << " xdg//sub/../ "
-                                             << "xdg";
-    QTest::addRow("explicit wins") << " given/ "
-                                   << "xdg"
-                                   << "given";
-}
-
-void TestGuiAutostart::configDirectory()
-{
-    QFETCH(QString, explicitDir);
-    QFETCH(QString, xdgConfigHome);
-    QFETCH(QString, expectedDir);
-
-    const QString root = m_dirs->root() + u'/';
-    const auto absolute = [&root](const QString &text) {
-        return text.trimmed().isEmpty() ? text : root + text.trimmed() + u' ';
-    };
-    qputenv("XDG_CONFIG_HOME", absolute(xdgConfigHome).toLocal8Bit());
-    const GuiAutostart autostart(absolute(explicitDir), u"/usr/bin/tovra"_s);
-    QCOMPARE(autostart.entryPath(), QString(root + expectedDir + u"/autostart/com.tovra.vpn.desktop"));
-}
-
-void TestGuiAutostart::enableWritesPrivateFile()
-{
-    const GuiAutostart autostart({}, u"/usr/bin/tovra"_s);
-    QCOMPARE(autostart.entryPath(), QString(m_dirs->configHome() + u"/autostart/com.tovra.vpn.desktop"));
-    QString error;
-    QVERIFY(autostart.reconcile(true, &error));
-    QCOMPARE(error, QString());
-    QCOMPARE(QFileInfo(autostart.entryPath()).permissions() &
-                 (QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner |
-                  QFileDevice::ReadGroup | QFileDevice::WriteGroup | QFileDevice::ExeGroup |
-                  QFileDevice::ReadOther | QFileDevice::WriteOther | QFileDevice::ExeOther),
-             QFileDevice::ReadOwner | QFileDevice::WriteOwner);
-    // No temporary file of the atomic save is left behind.
-    QCOMPARE(
-        QDir(QFileInfo(autostart.entryPath()).absolutePath()).entryList(QDir::Files | QDir::Hidden),
-        QStringList{u"com.tovra.vpn.desktop"_s});
-}
-
-void TestGuiAutostart::enableRewritesAnOlderEntry()
-{
-    QVERIFY(GuiAutostart({}, u"/old/place/tovra"_s).reconcile(true, nullptr));
-    const GuiAutostart moved({}, u"/new/place/tovra"_s);
-    QVERIFY(moved.reconcile(true, nullptr));
-    QFile file(moved.entryPath());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), moved.entryContents());
-}
-
-void TestGuiAutostart::disable_data()
-{
-    QTest::addColumn<bool>("existing");
-    QTest::addRow("removes the entry") << true;
-    QTest::addRow("nothing to remove") << false;
-}
-
-void TestGuiAutostart::disable()
-{
-    QFETCH(bool, existing);
-    const GuiAutostart autostart({}, u"/usr/bin/tovra"_s);
-    if (existing)
-        QVERIFY(autostart.reconcile(true, nullptr));
-    QString error;
-    QVERIFY(autostart.reconcile(false, &error));
-    QCOMPARE(error, QString());
-    QVERIFY(!QFileInfo::exists(autostart.entryPath()));
-    // Disabling never creates the directory it would have removed a file from.
-    QCOMPARE(QFileInfo::exists(m_dirs->configHome() + u"/autostart"_s), existing);
-}
-
-void TestGuiAutostart::failures_data()
-{
-    QTest::addColumn<QString>("executable");
-    QTest::addColumn<QString>("obstacle"); // made a directory (or file) in the way
-    QTest::addColumn<bool>("enable");
-    QTest::addColumn<QString>("message");
-    QTest::addRow("relative executable")
-        << "bin/tovra"
-        << "" << true << "Could not resolve the Tovra executable for login startup.";
-    QTest::addRow("autostart is a file")
-        << "/usr/bin/tovra"
-        << "file:autostart" << true << "Could not prepare the login startup directory.";
-    QTest::addRow("entry is a directory") << "/usr/bin/tovra"
-                                          << "dir:autostart/com.tovra.vpn.desktop/x" << true
-                                          << "Could not update Tovra login startup.";
-    QTest::addRow("entry cannot be removed") << "/usr/bin/tovra"
-                                             << "dir:autostart/com.tovra.vpn.desktop/x" << false
-                                             << "Could not remove Tovra from login startup.";
-}
-
-void TestGuiAutostart::failures()
-{
-    QFETCH(QString, executable);
-    QFETCH(QString, obstacle);
-    QFETCH(bool, enable);
-    QFETCH(QString, message);
-
-    const QString target = m_dirs->configHome() + u'/' + obstacle.section(u':', 1);
-    if (obstacle.startsWith(u"dir:")) {
-        QVERIFY(QDir().mkpath(target));
-    } else if (obstacle.startsWith(u"file:")) {
-        QFile file(target);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-    }
-    const GuiAutostart autostart({}, executable);
-    QString error;
-    QVERIFY(!autostart.reconcile(enable, &error));
-    QCOMPARE(error, message);
-}
 
 QTEST_GUILESS_MAIN(TestGuiAutostart)
 #include "TestGuiAutostart.moc"

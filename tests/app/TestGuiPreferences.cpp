@@ -3,231 +3,177 @@
 #include "TempXdgDirs.h"
 
 #include <QDir>
-#include <QFile>
 #include <QSettings>
 #include <QTest>
 
 #include <memory>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Writes the file the way a hand edit or an older version would.
+void writeRaw(const QString &key, const QVariant &value)
+{
+    QSettings raw(QSettings::IniFormat, QSettings::UserScope, u"Tovra"_s, u"TovraVPN"_s);
+    raw.setValue(key, value);
+    raw.sync();
+    QCOMPARE(raw.status(), QSettings::NoError);
+}
+
+} // namespace
 
 class TestGuiPreferences : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void cleanup();
-    void fileLocation();
-    void defaults();
-    void writesReachTheFileAtOnce();
-    void appearance_data();
-    void appearance();
-    void lastLanguage_data();
-    void lastLanguage();
-    void updateBookkeeping_data();
-    void updateBookkeeping();
-    void handEditedValues_data();
-    void handEditedValues();
-    void failedSyncWarnsAndKeepsValue();
+    void init() { m_dirs = std::make_unique<TempXdgDirs>(); }
+    void cleanup() { m_dirs.reset(); }
 
-private:
-    void writeRaw(const QString &key, const QVariant &value);
-
-    std::unique_ptr<TempXdgDirs> m_dirs;
-};
-
-void TestGuiPreferences::init()
-{
-    m_dirs = std::make_unique<TempXdgDirs>();
-    QVERIFY(m_dirs->isValid());
-}
-
-void TestGuiPreferences::cleanup()
-{
-    m_dirs.reset();
-}
-
-void TestGuiPreferences::writeRaw(const QString &key, const QVariant &value)
-{
-    QSettings raw(QSettings::IniFormat, QSettings::UserScope, QStringLiteral("Tovra"),
-                  QStringLiteral("TovraVPN"));
-    raw.setValue(key, value);
-    raw.sync();
-    QCOMPARE(raw.status(), QSettings::NoError);
-}
-
-void TestGuiPreferences::fileLocation()
-{
-    GuiPreferences preferences;
-    QCOMPARE(preferences.fileName(), m_dirs->configHome() + QStringLiteral("/Tovra/TovraVPN.ini"));
-}
-
-void TestGuiPreferences::defaults()
-{
-    GuiPreferences preferences;
-    QCOMPARE(preferences.showOnLaunch(), true);
-    QCOMPARE(preferences.launchAtLogin(), false);
-    QCOMPARE(preferences.appearance(), QStringLiteral("system"));
-    QCOMPARE(preferences.lastEffectiveLanguage(), QString());
-    QCOMPARE(preferences.recentNodes(20), QList<RecentLocation>());
-    QCOMPARE(preferences.recentSearches(), QStringList());
-    QCOMPARE(preferences.recentNodesCleared(), false);
-    QCOMPARE(preferences.updateBookkeeping(QStringLiteral(TOVRA_VERSION)), GuiUpdateBookkeeping());
-}
-
-void TestGuiPreferences::writesReachTheFileAtOnce()
-{
-    GuiPreferences preferences;
-    preferences.setShowOnLaunch(false);
-    preferences.setLaunchAtLogin(true);
-    preferences.setAppearance(QStringLiteral("Dark"));
-    preferences.setRecentNodes(
-        {{QStringLiteral("n1"), QStringLiteral("Tokyo 1"), QStringLiteral("jp")}});
-
-    // A second reader sees the values without any further sync from the writer.
-    QSettings raw(preferences.fileName(), QSettings::IniFormat);
-    QCOMPARE(raw.value(QStringLiteral("window/showOnLaunch")).toString(), QStringLiteral("false"));
-    QCOMPARE(raw.value(QStringLiteral("window/launchAtLogin")).toString(), QStringLiteral("true"));
-    QCOMPARE(raw.value(QStringLiteral("appearance")).toString(), QStringLiteral("dark"));
-    QCOMPARE(raw.beginReadArray(QStringLiteral("vpn/recentNodes")), 1);
-    raw.setArrayIndex(0);
-    QCOMPARE(raw.value(QStringLiteral("id")).toString(), QStringLiteral("n1"));
-    QCOMPARE(raw.value(QStringLiteral("label")).toString(), QStringLiteral("Tokyo 1"));
-    QCOMPARE(raw.value(QStringLiteral("flagCode")).toString(), QStringLiteral("jp"));
-    raw.endArray();
-
-    GuiPreferences reopened;
-    QCOMPARE(reopened.showOnLaunch(), false);
-    QCOMPARE(reopened.launchAtLogin(), true);
-}
-
-void TestGuiPreferences::appearance_data()
-{
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<QString>("expected");
-    QTest::addRow("Dark with blanks") << "  Dark "
-                                      << "dark";
-    QTest::addRow("LIGHT") << "LIGHT"
-                           << "light";
-    QTest::addRow("system") << "system"
-                            << "system";
-    QTest::addRow("blue") << "blue"
-                          << "system";
-    QTest::addRow("empty") << ""
-                           << "system";
-}
-
-void TestGuiPreferences::appearance()
-{
-    QFETCH(QString, stored);
-    QFETCH(QString, expected);
-    writeRaw(QStringLiteral("appearance"), stored);
-    GuiPreferences preferences;
-    QCOMPARE(preferences.appearance(), expected);
-}
-
-void TestGuiPreferences::lastLanguage_data()
-{
-    QTest::addColumn<QString>("written");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<bool>("keyPresent");
-    QTest::addRow("normalised") << " zh_CN "
-                                << "zh-Hans" << true;
-    QTest::addRow("regional") << "pt_br"
-                              << "pt-BR" << true;
-    QTest::addRow("empty removes") << ""
-                                   << "" << false;
-    QTest::addRow("blank removes") << "   "
-                                   << "" << false;
-}
-
-void TestGuiPreferences::lastLanguage()
-{
-    QFETCH(QString, written);
-    QFETCH(QString, stored);
-    QFETCH(bool, keyPresent);
-
-    GuiPreferences preferences;
-    preferences.setLastEffectiveLanguage(QStringLiteral("de"));
-    preferences.setLastEffectiveLanguage(written);
-    QCOMPARE(preferences.lastEffectiveLanguage(), stored);
-    QSettings raw(preferences.fileName(), QSettings::IniFormat);
-    QCOMPARE(raw.contains(QStringLiteral("language/lastEffective")), keyPresent);
-}
-
-void TestGuiPreferences::updateBookkeeping_data()
-{
-    QTest::addColumn<QString>("writtenFor");
-    QTest::addColumn<QString>("readFor");
-    QTest::addColumn<bool>("kept");
-    QTest::addRow("same version") << "1.2.3+4"
-                                  << "1.2.3+4" << true;
-    QTest::addRow("same version, blanks") << " 1.2.3+4 "
-                                          << "1.2.3+4" << true;
-    QTest::addRow("after an upgrade") << "1.2.3+4"
-                                      << "1.2.4+1" << false;
-    QTest::addRow("new build number") << "1.2.3+4"
-                                      << "1.2.3+5" << false;
-}
-
-void TestGuiPreferences::updateBookkeeping()
-{
-    QFETCH(QString, writtenFor);
-    QFETCH(QString, readFor);
-    QFETCH(bool, kept);
-
-    const GuiUpdateBookkeeping written{1700000000, 1700000100, 1700000200, 10203, true};
+    void defaults()
     {
         GuiPreferences preferences;
-        preferences.setUpdateBookkeeping(writtenFor, written);
+        QCOMPARE(preferences.showOnLaunch(), true);
+        QCOMPARE(preferences.launchAtLogin(), false);
+        QCOMPARE(preferences.appearance(), u"system"_s);
+        QCOMPARE(preferences.lastEffectiveLanguage(), QString());
+        QCOMPARE(preferences.recentNodes(20), QList<RecentLocation>());
+        QCOMPARE(preferences.recentSearches(), QStringList());
+        QCOMPARE(preferences.recentNodesCleared(), false);
+        QCOMPARE(preferences.updateBookkeeping(QStringLiteral(TOVRA_VERSION)),
+                 GuiUpdateBookkeeping());
     }
-    GuiPreferences preferences;
-    QCOMPARE(preferences.updateBookkeeping(readFor), kept ? written : GuiUpdateBookkeeping());
 
-    QSettings raw(preferences.fileName(), QSettings::IniFormat);
-    QCOMPARE(raw.value(QStringLiteral("update/currentVersion")).toString(), writtenFor.trimmed());
-    QCOMPARE(raw.value(QStringLiteral("update/lastNotifiedVersionNum")).toLongLong(), 10203);
-}
+    void writesReachTheFileAtOnce()
+    {
+        GuiPreferences preferences;
+        QCOMPARE(preferences.fileName(), m_dirs->configHome() + u"/Tovra/TovraVPN.ini"_s);
+        preferences.setShowOnLaunch(false);
+        preferences.setLaunchAtLogin(true);
+        preferences.setAppearance(u"Dark"_s);
+        preferences.setRecentNodes({{u"n1"_s, u"Tokyo 1"_s, u"jp"_s}});
 
-void TestGuiPreferences::handEditedValues_data()
-{
-    QTest::addColumn<QString>("key");
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<bool>("showOnLaunch");
-    QTest::addColumn<qint64>("lastAttemptAt");
-    QTest::addRow("typo keeps the default") << "window/showOnLaunch"
-                                            << "ture" << true << qint64(0);
-    QTest::addRow("zero is false") << "window/showOnLaunch"
-                                   << "0" << false << qint64(0);
-    QTest::addRow("number as text") << "update/lastAttemptAt"
-                                    << "42" << true << qint64(42);
-    QTest::addRow("garbage number") << "update/lastAttemptAt"
-                                    << "soon" << true << qint64(0);
-}
+        // A second reader sees the values without any further sync from the writer.
+        QSettings raw(preferences.fileName(), QSettings::IniFormat);
+        QCOMPARE(raw.value(u"window/showOnLaunch"_s).toString(), u"false"_s);
+        QCOMPARE(raw.value(u"window/launchAtLogin"_s).toString(), u"true"_s);
+        QCOMPARE(raw.value(u"appearance"_s).toString(), u"dark"_s);
+        QCOMPARE(raw.beginReadArray(u"vpn/recentNodes"_s), 1);
+        raw.setArrayIndex(0);
+        QCOMPARE(raw.value(u"id"_s).toString(), u"n1"_s);
+        QCOMPARE(raw.value(u"label"_s).toString(), u"Tokyo 1"_s);
+        QCOMPARE(raw.value(u"flagCode"_s).toString(), u"jp"_s);
+        QCOMPARE(GuiPreferences().showOnLaunch(), false);
+    }
 
-void TestGuiPreferences::handEditedValues()
-{
-    QFETCH(QString, key);
-    QFETCH(QString, text);
-    QFETCH(bool, showOnLaunch);
-    QFETCH(qint64, lastAttemptAt);
+    void appearance_data()
+    {
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<QString>("expected");
+        QTest::addRow("Dark with blanks") << u"  Dark "_s << u"dark"_s;
+        QTest::addRow("LIGHT") << u"LIGHT"_s << u"light"_s;
+        QTest::addRow("system") << u"system"_s << u"system"_s;
+        QTest::addRow("blue") << u"blue"_s << u"system"_s;
+        QTest::addRow("empty") << u""_s << u"system"_s;
+    }
 
-    writeRaw(QStringLiteral("update/currentVersion"), QStringLiteral("9.9.9+9"));
-    writeRaw(key, text);
-    GuiPreferences preferences;
-    QCOMPARE(preferences.showOnLaunch(), showOnLaunch);
-    QCOMPARE(preferences.updateBookkeeping(QStringLiteral("9.9.9+9")).lastAttemptAt, lastAttemptAt);
-}
+    void appearance()
+    {
+        QFETCH(QString, stored);
+        QFETCH(QString, expected);
+        writeRaw(u"appearance"_s, stored);
+        QCOMPARE(GuiPreferences().appearance(), expected);
+    }
 
-void TestGuiPreferences::failedSyncWarnsAndKeepsValue()
-{
-    GuiPreferences preferences;
-    // A directory where the file belongs makes every save fail, even for root.
-    QVERIFY(QDir().mkpath(preferences.fileName()));
-    QTest::ignoreMessage(QtWarningMsg,
-                         "GuiPreferences: failed to persist settings, status AccessError");
-    preferences.setLaunchAtLogin(true);
-    QCOMPARE(preferences.launchAtLogin(), true);
-}
+    void lastLanguage_data()
+    {
+        QTest::addColumn<QString>("written");
+        QTest::addColumn<QString>("stored"); // empty: the key is removed
+        QTest::addRow("normalised") << u" zh_CN "_s << u"zh-Hans"_s;
+        QTest::addRow("regional") << u"pt_br"_s << u"pt-BR"_s;
+        QTest::addRow("empty removes") << u""_s << u""_s;
+        QTest::addRow("blank removes") << u"   "_s << u""_s;
+    }
+
+    void lastLanguage()
+    {
+        QFETCH(QString, written);
+        QFETCH(QString, stored);
+        GuiPreferences preferences;
+        preferences.setLastEffectiveLanguage(u"de"_s);
+        preferences.setLastEffectiveLanguage(written);
+        QCOMPARE(preferences.lastEffectiveLanguage(), stored);
+        QSettings raw(preferences.fileName(), QSettings::IniFormat);
+        QCOMPARE(raw.contains(u"language/lastEffective"_s), !stored.isEmpty());
+    }
+
+    void updateBookkeeping_data()
+    {
+        QTest::addColumn<QString>("writtenFor");
+        QTest::addColumn<QString>("readFor");
+        QTest::addColumn<bool>("kept");
+        QTest::addRow("same version") << u"1.2.3+4"_s << u"1.2.3+4"_s << true;
+        QTest::addRow("same version, blanks") << u" 1.2.3+4 "_s << u"1.2.3+4"_s << true;
+        QTest::addRow("after an upgrade") << u"1.2.3+4"_s << u"1.2.4+1"_s << false;
+        QTest::addRow("new build number") << u"1.2.3+4"_s << u"1.2.3+5"_s << false;
+    }
+
+    void updateBookkeeping()
+    {
+        QFETCH(QString, writtenFor);
+        QFETCH(QString, readFor);
+        QFETCH(bool, kept);
+        const GuiUpdateBookkeeping written{1700000000, 1700000100, 1700000200, 10203, true};
+        GuiPreferences().setUpdateBookkeeping(writtenFor, written);
+        GuiPreferences preferences;
+        QCOMPARE(preferences.updateBookkeeping(readFor), kept ? written : GuiUpdateBookkeeping());
+        QSettings raw(preferences.fileName(), QSettings::IniFormat);
+        QCOMPARE(raw.value(u"update/currentVersion"_s).toString(), writtenFor.trimmed());
+        QCOMPARE(raw.value(u"update/lastNotifiedVersionNum"_s).toLongLong(), 10203);
+    }
+
+    void handEditedValues_data()
+    {
+        QTest::addColumn<QString>("key");
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<bool>("showOnLaunch");
+        QTest::addColumn<qint64>("lastAttemptAt");
+        const QString show = u"window/showOnLaunch"_s;
+        const QString attempt = u"update/lastAttemptAt"_s;
+        QTest::addRow("typo keeps the default") << show << u"ture"_s << true << qint64(0);
+        QTest::addRow("zero is false") << show << u"0"_s << false << qint64(0);
+        QTest::addRow("number as text") << attempt << u"42"_s << true << qint64(42);
+        QTest::addRow("garbage number") << attempt << u"soon"_s << true << qint64(0);
+    }
+
+    void handEditedValues()
+    {
+        QFETCH(QString, key);
+        QFETCH(QString, text);
+        QFETCH(bool, showOnLaunch);
+        QFETCH(qint64, lastAttemptAt);
+        writeRaw(u"update/currentVersion"_s, u"9.9.9+9"_s);
+        writeRaw(key, text);
+        GuiPreferences preferences;
+        QCOMPARE(preferences.showOnLaunch(), showOnLaunch);
+        QCOMPARE(preferences.updateBookkeeping(u"9.9.9+9"_s).lastAttemptAt, lastAttemptAt);
+    }
+
+    void failedSyncWarnsAndKeepsValue()
+    {
+        GuiPreferences preferences;
+        // A directory where the file belongs makes every save fail, even for root.
+        QVERIFY(QDir().mkpath(preferences.fileName()));
+        QTest::ignoreMessage(QtWarningMsg,
+                             "GuiPreferences: failed to persist settings, status AccessError");
+        preferences.setLaunchAtLogin(true);
+        QCOMPARE(preferences.launchAtLogin(), true);
+    }
+
+private:
+    std::unique_ptr<TempXdgDirs> m_dirs;
+};
 
 QTEST_GUILESS_MAIN(TestGuiPreferences)
 #include "TestGuiPreferences.moc"

@@ -6,78 +6,64 @@
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+KillSwitchInfo record(bool known, bool enabled, const QString &mode = {}, const QString &guard = {})
+{
+    KillSwitchInfo result;
+    result.valid = known;
+    result.enabled = enabled;
+    result.mode = mode;
+    result.guard = guard;
+    return result;
+}
+
+} // namespace
+
 class TestKillSwitchState : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void word_data();
-    void word();
-    void translatedWithFallbackContext();
+    void word_data()
+    {
+        QTest::addColumn<KillSwitchInfo>("record");
+        QTest::addColumn<QString>("word");
+        const QString lockdown = u"lockdown"_s;
+        const QString active = u"active"_s;
+        QTest::addRow("no record") << record(false, true, lockdown, active) << u"Unavailable"_s;
+        QTest::addRow("lockdown active, disabled")
+            << record(true, false, lockdown, active) << u"Lockdown"_s;
+        QTest::addRow("lockdown active, enabled")
+            << record(true, true, lockdown, active) << u"Lockdown"_s;
+        QTest::addRow("lockdown, empty state")
+            << record(true, true, lockdown) << u"Lockdown unavailable"_s;
+        QTest::addRow("lockdown, Active capital")
+            << record(true, true, lockdown, u"Active"_s) << u"Lockdown unavailable"_s;
+        QTest::addRow("Lockdown capital is ordinary")
+            << record(true, true, u"Lockdown"_s, active) << u"On"_s;
+        QTest::addRow("lockdown with blank")
+            << record(true, false, u"lockdown "_s, active) << u"Off"_s;
+        QTest::addRow("on") << record(true, true, u"auto"_s) << u"On"_s;
+        QTest::addRow("off") << record(true, false, {}, active) << u"Off"_s;
+    }
+
+    void word()
+    {
+        QFETCH(KillSwitchInfo, record);
+        QFETCH(QString, word);
+        QCOMPARE(killSwitchStateText(record, "TrayMenuText"), word);
+    }
+
+    void translatedWithFallbackContext()
+    {
+        TranslationManager translations;
+        QVERIFY(translations.apply(u"de"_s));
+        // The caller's context has no entry of its own: the shared wording is used.
+        QCOMPARE(killSwitchStateText(record(true, true), "TrayMenuText"), u"Ein"_s);
+        QCOMPARE(killSwitchStateText(KillSwitchInfo(), nullptr), u"Nicht verfügbar"_s);
+    }
 };
-
-void TestKillSwitchState::word_data()
-{
-    QTest::addColumn<bool>("known");
-    QTest::addColumn<bool>("enabled");
-    QTest::addColumn<QString>("mode");
-    QTest::addColumn<QString>("guard");
-    QTest::addColumn<QString>("word");
-    QTest::addRow("no record") << false << true << "lockdown"
-                               << "active"
-                               << "Unavailable";
-    QTest::addRow("lockdown active, disabled") << true << false << "lockdown"
-                                               << "active"
-                                               << "Lockdown";
-    QTest::addRow("lockdown active, enabled") << true << true << "lockdown"
-                                              << "active"
-                                              << "Lockdown";
-    QTest::addRow("lockdown, empty state") << true << true << "lockdown"
-                                           << ""
-                                           << "Lockdown unavailable";
-    QTest::addRow("lockdown, Active capital") << true << true << "lockdown"
-                                              << "Active"
-                                              << "Lockdown unavailable";
-    QTest::addRow("Lockdown capital is ordinary") << true << true << "Lockdown"
-                                                  << "active"
-                                                  << "On";
-    QTest::addRow("lockdown with blank") << true << false << "lockdown "
-                                         << "active"
-                                         << "Off";
-    QTest::addRow("on") << true << true << "auto"
-                        << ""
-                        << "On";
-    QTest::addRow("off") << true << false << ""
-                         << "active"
-                         << "Off";
-}
-
-void TestKillSwitchState::word()
-{
-    QFETCH(bool, known);
-    QFETCH(bool, enabled);
-    QFETCH(QString, mode);
-    QFETCH(QString, guard);
-    QFETCH(QString, word);
-    KillSwitchInfo record;
-    record.valid = known;
-    record.enabled = enabled;
-    record.mode = mode;
-    record.guard = guard;
-    QCOMPARE(killSwitchStateText(record, "TrayMenuText"), word);
-}
-
-void TestKillSwitchState::translatedWithFallbackContext()
-{
-    TranslationManager translations;
-    QVERIFY(translations.apply(u"de"_s));
-    KillSwitchInfo record;
-    record.valid = true;
-    record.enabled = true;
-    // The caller's context has no entry of its own: the shared wording is used.
-    QCOMPARE(killSwitchStateText(record, "TrayMenuText"), u"Ein"_s);
-    QCOMPARE(killSwitchStateText(KillSwitchInfo(), nullptr), QString::fromUtf8("Nicht verfügbar"));
-}
 
 QTEST_GUILESS_MAIN(TestKillSwitchState)
 #include "TestKillSwitchState.moc"

@@ -46,7 +46,7 @@ if command -v clang++ >/dev/null 2>&1; then
         -DTOVRA_SUBSYSTEMS=control >/dev/null
     cmake --build build-fuzz --parallel "$jobs" --target tovra_fuzz_targets
     for target in build-fuzz/fuzz/fuzz_*; do
-        [[ -x $target ]] || continue
+        [[ -f $target && -x $target ]] || continue # not the *_autogen folders beside them
         name=$(basename "$target")
         corpus=$(mktemp -d)
         cp fuzz/corpus/"${name#fuzz_}"/* "$corpus"/ 2>/dev/null || true

@@ -2,12 +2,14 @@
 #include "ConnectionFlow.h"
 #include "ControlEndpoints.h"
 #include "DemoDaemon.h"
+#include "MainWindow.h"
 #include "RequestLedger.h"
 #include "ShellNotifier.h"
 #include "TempXdgDirs.h"
 #include "TovraAppShell.h"
 #include "TovraTrayApp.h"
 #include "TrayMenu.h"
+#include "WindowController.h"
 
 #include <QAction>
 
@@ -43,6 +45,9 @@ void TestTovraAppShell::compatibleDaemon()
     QVERIFY(!shell.tray()->isControlAvailable());
     QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
     QVERIFY(shell.tray()->isControlAvailable());
+    // Without a tray the window is the way in: shown at start, and closing it quits.
+    QVERIFY(shell.windowController()->window() && shell.windowController()->window()->isVisible());
+    QVERIFY(!shell.windowController()->systemTrayAvailable());
     QVERIFY(shell.state()->version().compatible);
     // The tray's own status poll fills the store.
     QTRY_VERIFY(shell.state()->runtime().valid);

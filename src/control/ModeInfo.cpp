@@ -2,6 +2,8 @@
 
 #include "JsonRead.h"
 
+#include <QStringList>
+
 ModeInfo ModeInfo::fromJson(const QJsonObject &object)
 {
     ModeInfo info;
@@ -40,4 +42,16 @@ ModeInfo ModeInfo::parse(const QByteArray &body, QString *errorOut)
         return ModeInfo();
     }
     return fromJson(*object);
+}
+
+QString ModeInfo::summary() const
+{
+    if (transport.isEmpty())
+        return QString();
+    QStringList parts{transport};
+    if (!policy.isEmpty() && policy != QLatin1String("global"))
+        parts.append(policy);
+    if (!region.isEmpty())
+        parts.append(region);
+    return parts.join(QLatin1Char(' '));
 }

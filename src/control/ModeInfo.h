@@ -27,6 +27,8 @@ struct ModeInfo
     SplitProfileInfo lastProxySplitProfile;
 
     static ModeInfo fromJson(const QJsonObject &object);
+    // "transport [policy] [region]" for display; a global policy is never named.
+    QString summary() const;
     static ModeInfo parse(const QByteArray &body, QString *errorOut);
 
     friend bool operator==(const ModeInfo &, const ModeInfo &) = default;

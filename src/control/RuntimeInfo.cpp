@@ -4,25 +4,6 @@
 
 #include <QStringList>
 
-namespace {
-
-QString summarizeMode(const QJsonObject &mode)
-{
-    const QString transport = JsonRead::text(mode, QLatin1String("transport"));
-    if (transport.isEmpty())
-        return QString();
-    QStringList parts{transport};
-    const QString policy = JsonRead::text(mode, QLatin1String("policy"));
-    if (!policy.isEmpty() && policy != QLatin1String("global"))
-        parts.append(policy);
-    const QString region = JsonRead::text(mode, QLatin1String("region"));
-    if (!region.isEmpty())
-        parts.append(region);
-    return parts.join(QLatin1Char(' '));
-}
-
-} // namespace
-
 QString RuntimeInfo::nodeReferenceText(const QJsonObject &node)
 {
     if (node.isEmpty())
@@ -71,9 +52,8 @@ RuntimeInfo RuntimeInfo::parse(const QByteArray &body, QString *errorOut)
     info.tunnelKind = text("tunnel_kind");
     info.tunnelReason = text("tunnel_reason");
     info.lastError = text("last_error");
-    const QJsonObject mode = JsonRead::object(object, QLatin1String("mode"));
-    info.modeSummary = summarizeMode(mode);
-    info.mode = ModeInfo::fromJson(mode);
+    info.mode = ModeInfo::fromJson(JsonRead::object(object, QLatin1String("mode")));
+    info.modeSummary = info.mode.summary();
     info.connectedSource = text("connected_source");
     info.connectedTarget = text("connected_target");
     info.connectedSince = text("connected_since");

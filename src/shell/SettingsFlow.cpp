@@ -18,18 +18,6 @@ constexpr int kModeTimeoutMs = 20000;
 constexpr int kSettingsTimeoutMs = 10000;
 constexpr int kRepairTimeoutMs = 30000;
 
-QString summaryOf(const ModeInfo &mode)
-{
-    if (mode.transport.isEmpty())
-        return QString();
-    QStringList parts{mode.transport};
-    if (!mode.policy.isEmpty() && mode.policy != QLatin1String("global"))
-        parts.append(mode.policy);
-    if (!mode.region.isEmpty())
-        parts.append(mode.region);
-    return parts.join(QLatin1Char(' '));
-}
-
 } // namespace
 
 SettingsFlow::SettingsFlow(const ShellContext &context, QObject *parent)
@@ -95,7 +83,7 @@ void SettingsFlow::applyMode(const ModeInfo &mode)
 {
     RuntimeInfo runtime = m_context.state->runtime();
     runtime.mode = mode;
-    runtime.modeSummary = summaryOf(mode);
+    runtime.modeSummary = mode.summary();
     m_context.state->setRuntime(runtime);
 }
 

@@ -7,6 +7,7 @@
 #include "ShellText.h"
 #include "ShellWorkers.h"
 #include "TovraTrayApp.h"
+#include "TrayStatusFormatter.h"
 #include "WindowController.h"
 
 #include <QUrl>
@@ -18,13 +19,6 @@ namespace {
 // Signing in talks to the service behind the daemon, which can be slow.
 constexpr int kLoginTimeoutMs = 30000;
 constexpr int kAccountTimeoutMs = 10000;
-
-bool signedIn(const QString &authState)
-{
-    const QString state = authState.trimmed().toLower();
-    return state == QLatin1String("logged_in") || state == QLatin1String("signed_in") ||
-           state == QLatin1String("authenticated");
-}
 
 } // namespace
 
@@ -120,7 +114,8 @@ void AccountFlow::followRuntime(const RuntimeInfo &runtime)
     if (!runtime.valid || runtime.authState == m_lastAuthState)
         return;
     m_lastAuthState = runtime.authState;
-    if (signedIn(runtime.authState))
+    // The tray's rule, so that the menu and the account record never disagree.
+    if (TrayStatusFormatter::isSignedIn(runtime))
         fetchUser(false);
     else
         m_context.state->clearUser();

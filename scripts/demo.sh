@@ -61,8 +61,12 @@ export TOVRA_CONTROL_SOCKET="$socket"
 echo "demo daemon listening on $socket (sign in with demo@tovra.invalid / demo)"
 
 if [ -x "$client" ]; then
-    "$client" "$@"
-    exit $?
+    if [ -n "${DISPLAY:-}" ] || [ -n "${WAYLAND_DISPLAY:-}" ]; then
+        "$client" "$@"
+        exit $?
+    fi
+    echo "no graphical session here (DISPLAY and WAYLAND_DISPLAY are unset), so the client cannot"
+    echo "show its tray; from a desktop session 'make demo' runs it. Meanwhile, through tovra-ctl:"
 fi
 
 if [ -x "$ctl" ]; then
@@ -82,7 +86,7 @@ if [ -x "$ctl" ]; then
         fi
     }
     status_keys='"(daemon_version|auth_state|tunnel_state|mode_summary|selected_node|connected_node|connected_since)"'
-    echo "no client at $client yet; the daemon at work through tovra-ctl:"
+    [ -x "$client" ] || echo "no client at $client yet; the daemon at work through tovra-ctl:"
     step "$status_keys" fetchStatus
     step "$status_keys" login demo@tovra.invalid demo true
     step '"(email|role|left_days|max_device_count)"' fetchUser

@@ -1,12 +1,12 @@
 #include "TrayAccountLookup.h"
 
+#include "TrayLog.h"
+
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "TrayRequestIds.h"
 
 namespace {
-
-constexpr int kFetchMs = 1500;
 
 using Kind = TrayRequestIds::Kind;
 
@@ -34,7 +34,7 @@ void TrayAccountLookup::fetch()
     m_lookup = TrayStatusFormatter::UserLookup::Pending;
     const quint64 id = m_ids->take(Kind::User);
     QMetaObject::invokeMethod(m_worker, "fetchUser", Qt::QueuedConnection, Q_ARG(quint64, id),
-                              Q_ARG(int, kFetchMs));
+                              Q_ARG(int, kTrayFetchTimeoutMs));
 }
 
 bool TrayAccountLookup::handleUserFinished(quint64 requestId, const UserInfo &user,

@@ -1,5 +1,7 @@
 #include "TrayLogOpener.h"
 
+#include "TrayLog.h"
+
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "TrayNotifier.h"
@@ -10,8 +12,6 @@
 #include <QDir>
 
 namespace {
-
-constexpr int kFetchMs = 1500;
 
 using Kind = TrayRequestIds::Kind;
 
@@ -40,7 +40,7 @@ void TrayLogOpener::open()
 {
     const quint64 id = m_ids->take(Kind::ConfigPaths);
     QMetaObject::invokeMethod(m_worker, "fetchConfigPaths", Qt::QueuedConnection,
-                              Q_ARG(quint64, id), Q_ARG(int, kFetchMs));
+                              Q_ARG(quint64, id), Q_ARG(int, kTrayFetchTimeoutMs));
 }
 
 void TrayLogOpener::handleConfigPathsFinished(quint64 requestId, const ConfigPaths &paths,

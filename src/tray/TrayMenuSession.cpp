@@ -1,5 +1,7 @@
 #include "TrayMenuSession.h"
 
+#include "TrayLog.h"
+
 #include "AppState.h"
 #include "RoutingMode.h"
 #include "TrayMenuCloseWatcher.h"
@@ -15,8 +17,6 @@
 #include <QTimer>
 
 namespace {
-
-Q_LOGGING_CATEGORY(lcTray, "tovra.tray")
 
 constexpr int kPrewarmMajorVersion = 26;
 const QPoint kOffScreen(-32000, -32000);

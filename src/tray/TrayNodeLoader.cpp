@@ -1,5 +1,7 @@
 #include "TrayNodeLoader.h"
 
+#include "TrayLog.h"
+
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "GuiPreferences.h"
@@ -15,9 +17,6 @@
 
 namespace {
 
-Q_LOGGING_CATEGORY(lcTray, "tovra.tray")
-
-constexpr int kFetchMs = 1500;
 constexpr int kRefreshMs = 30000;
 
 using Kind = TrayRequestIds::Kind;
@@ -49,7 +48,8 @@ void TrayNodeLoader::load(bool refresh)
     (refresh ? m_refreshInFlight : m_loadInFlight) = true;
     const quint64 id = m_ids->take(Kind::Nodes);
     QMetaObject::invokeMethod(m_worker, "fetchNodes", Qt::QueuedConnection, Q_ARG(quint64, id),
-                              Q_ARG(bool, refresh), Q_ARG(int, refresh ? kRefreshMs : kFetchMs));
+                              Q_ARG(bool, refresh),
+                              Q_ARG(int, refresh ? kRefreshMs : kTrayFetchTimeoutMs));
     updateEntries();
     Q_EMIT loadStarted();
 }
@@ -92,7 +92,7 @@ void TrayNodeLoader::loadGroups()
     m_groupsInFlight = true;
     const quint64 id = m_ids->take(Kind::NodeGroups);
     QMetaObject::invokeMethod(m_worker, "fetchNodeGroups", Qt::QueuedConnection, Q_ARG(quint64, id),
-                              Q_ARG(int, kFetchMs));
+                              Q_ARG(int, kTrayFetchTimeoutMs));
 }
 
 void TrayNodeLoader::handleNodeGroupsFinished(quint64 requestId, const NodeGroupsInfo &groups,

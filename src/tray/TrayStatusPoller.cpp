@@ -1,5 +1,7 @@
 #include "TrayStatusPoller.h"
 
+#include "TrayLog.h"
+
 #include "ControlWorker.h"
 #include "TrayOperations.h"
 #include "TrayRequestIds.h"
@@ -7,8 +9,6 @@
 #include <QTimer>
 
 namespace {
-
-constexpr int kFetchMs = 1500;
 
 using Kind = TrayRequestIds::Kind;
 
@@ -40,7 +40,7 @@ void TrayStatusPoller::fetch()
     m_inFlight = true;
     const quint64 id = m_ids->take(Kind::Status);
     QMetaObject::invokeMethod(m_worker, "fetchStatus", Qt::QueuedConnection, Q_ARG(quint64, id),
-                              Q_ARG(int, kFetchMs));
+                              Q_ARG(int, kTrayFetchTimeoutMs));
 }
 
 void TrayStatusPoller::schedule(int delayMs)

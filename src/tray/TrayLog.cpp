@@ -1,0 +1,3 @@
+#include "TrayLog.h"
+
+Q_LOGGING_CATEGORY(lcTray, "tovra.tray")

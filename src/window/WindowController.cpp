@@ -56,10 +56,7 @@ MainWindow *WindowController::ensureWindow()
     ++m_windowsCreated;
     window->setHideOnClose(effectiveHideOnClose());
     window->setDeleteOnClose(m_releaseOnHide);
-    window->setModeOperationBusy(m_modeBusy);
-    window->setSettingsOperationBusy(m_settingsBusy);
-    window->setSplitRulesFetchInProgress(m_splitRulesFetch);
-    window->setSplitRulesImportInProgress(m_splitRulesImport);
+    replayTo(window);
     // Only the current window stays connected here (a released one is cut off first), so a
     // destroyed window is always the one to forget.
     connect(window, &QObject::destroyed, this, [this] { m_window.clear(); });
@@ -70,6 +67,14 @@ MainWindow *WindowController::ensureWindow()
     connect(window, &MainWindow::appearancePreferenceChanged, this,
             &WindowController::applyUpdateDialogTheme);
     return window;
+}
+
+void WindowController::replayTo(MainWindow *window) const
+{
+    window->setModeOperationBusy(m_replay.modeBusy);
+    window->setSettingsOperationBusy(m_replay.settingsBusy);
+    window->setSplitRulesFetchInProgress(m_replay.splitRulesFetch);
+    window->setSplitRulesImportInProgress(m_replay.splitRulesImport);
 }
 
 void WindowController::forwardIntents(MainWindow *window)
@@ -223,7 +228,7 @@ void WindowController::handleHiddenToTray()
 
 void WindowController::setModeOperationBusy(bool busy)
 {
-    m_modeBusy = busy;
+    m_replay.modeBusy = busy;
     if (m_window) {
         m_window->setModeOperationBusy(busy);
     }
@@ -231,7 +236,7 @@ void WindowController::setModeOperationBusy(bool busy)
 
 void WindowController::setSettingsOperationBusy(bool busy)
 {
-    m_settingsBusy = busy;
+    m_replay.settingsBusy = busy;
     if (m_window) {
         m_window->setSettingsOperationBusy(busy);
     }
@@ -239,7 +244,7 @@ void WindowController::setSettingsOperationBusy(bool busy)
 
 void WindowController::setSplitRulesFetchInProgress(bool inProgress)
 {
-    m_splitRulesFetch = inProgress;
+    m_replay.splitRulesFetch = inProgress;
     if (m_window) {
         m_window->setSplitRulesFetchInProgress(inProgress);
     }
@@ -247,7 +252,7 @@ void WindowController::setSplitRulesFetchInProgress(bool inProgress)
 
 void WindowController::setSplitRulesImportInProgress(bool inProgress)
 {
-    m_splitRulesImport = inProgress;
+    m_replay.splitRulesImport = inProgress;
     if (m_window) {
         m_window->setSplitRulesImportInProgress(inProgress);
     }

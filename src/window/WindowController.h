@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ModeInfo.h"
+#include "WindowReplayState.h"
 
 #include <QObject>
 #include <QPointer>
@@ -43,6 +44,8 @@ public:
     bool releaseOnHide() const { return m_releaseOnHide; }
     // An empty opener restores QDesktopServices::openUrl.
     void setUrlOpener(UrlOpener opener);
+
+    const WindowReplayState &replayState() const { return m_replay; }
 
     void setModeOperationBusy(bool busy);
     void setSettingsOperationBusy(bool busy);
@@ -113,6 +116,7 @@ Q_SIGNALS:
 
 private:
     MainWindow *ensureWindow();
+    void replayTo(MainWindow *window) const;
     void forwardIntents(MainWindow *window);
     void showPageOfWindow(int index);
     bool effectiveHideOnClose() const;
@@ -133,8 +137,5 @@ private:
     bool m_releaseOnHide = false;
 
     // Replayed to every new window.
-    bool m_modeBusy = false;
-    bool m_settingsBusy = false;
-    bool m_splitRulesFetch = false;
-    bool m_splitRulesImport = false;
+    WindowReplayState m_replay;
 };

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPixmap>
+#include <QString>
+#include <QStringList>
+
+// One shared lookup from a two-letter country code to its translated name and its flag.
+// Codes are trimmed and lower-cased first; both caches are process-wide and built on first use.
+
+// The translated name ("Countries" context); an unknown code shows upper-cased, a blank one as
+// the trimmed input.
+QString countryName(const QString &code);
+// The flag for 24 logical pixels wide, or the "unknown" flag; null for a blank code.
+QPixmap countryFlag(const QString &code);
+// Forgets every flag this loader put into the pixmap cache.
+void clearFlagCache();
+// Every known code, in the table's order (by English name).
+QStringList countryCodes();

@@ -1,6 +1,7 @@
 #include "NavigationSidebar.h"
 
 #include "IconTinter.h"
+#include "SidebarEntryAccessible.h"
 #include "ThemeColors.h"
 
 #include <QButtonGroup>
@@ -20,6 +21,7 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
     : QWidget(parent)
     , m_group(new QButtonGroup(this))
 {
+    SidebarEntryAccessible::installFactory();
     setObjectName(QStringLiteral("TovraSidebar"));
     setAttribute(Qt::WA_StyledBackground, true);
     setMinimumWidth(kMinimumWidth);
@@ -49,6 +51,8 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
             layout->addStretch(1);
         }
         auto *button = new QToolButton(this);
+        // Before anything else: the first change event already settles the accessible role.
+        button->setProperty("tovraSidebarEntry", true);
         button->setObjectName(QString::fromLatin1(entry.objectName));
         button->setText(entry.text);
         button->setAccessibleName(entry.text);
@@ -65,6 +69,8 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
         m_buttons.append(button);
         connect(button, &QToolButton::clicked, this,
                 [this, index] { Q_EMIT pageRequested(index); });
+        connect(button, &QToolButton::toggled, this,
+                [button] { SidebarEntryAccessible::notifySelectionChanged(button); });
     }
 }
 

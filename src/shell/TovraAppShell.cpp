@@ -54,10 +54,11 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     ShellWiring::connectWindow(this, m_context, m_settings);
     connect(m_context.state, &AppState::runtimeChanged, this, &TovraAppShell::handleRuntimeChanged);
     connect(m_language, &LanguageFlow::restartRequested, this, &TovraAppShell::restartRequested);
-    connect(m_connection, &ConnectionFlow::runtimeAnswered, this, [this] {
-        m_catalog->fetchNodes(false);
-        m_language->checkSystemLanguage();
-    });
+    connect(m_connection, &ConnectionFlow::runtimeAnswered, this,
+            [this] { m_catalog->fetchNodes(false); });
+    // Failed connect answers count as well as successful ones.
+    connect(m_context.workers->control(), &ControlWorker::connectFinished, this,
+            [this] { m_language->checkSystemLanguage(); });
     connect(m_update, &UpdateFlow::updateDialogRequested, this, [this](bool forced) {
         if (forced)
             m_context.notifier->warning(shellText(
@@ -404,6 +405,9 @@ void TovraAppShell::handleWindowStatusFinished(quint64 requestId, RuntimeInfo in
 {
     if (!m_connection->handleStatus(requestId, info, errorMessage))
         m_catalog->handleStatus(requestId, info, errorMessage);
+    // Every status answer, the tray's polls included, failed or not: while the daemon is away
+    // this keeps the language sync retrying with its back-off.
+    m_language->checkSystemLanguage();
 }
 
 void TovraAppShell::handleWindowNodesFinished(quint64 requestId, NodesInfo info,

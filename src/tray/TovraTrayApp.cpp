@@ -175,6 +175,7 @@ void TovraTrayApp::start()
     m_icon->show();
     redraw();
     m_poller->schedule(kFirstPollMs);
+    m_operations->fetchKillSwitch();
     m_menuSession->prewarm();
 }
 

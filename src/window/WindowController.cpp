@@ -9,8 +9,12 @@
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QTimer>
 
 namespace {
+
+// How long a first show waits for the desktop portal before showing in the light theme.
+constexpr int kSchemeWaitMs = 250;
 
 bool openWithDesktop(const QUrl &url)
 {
@@ -32,6 +36,11 @@ WindowController::WindowController(AppState *state, GuiPreferences *preferences,
     connect(m_desktopScheme, &DesktopColorScheme::changed, this, [this] {
         if (appearancePreference() == QLatin1String("system")) {
             applyUpdateDialogTheme();
+        }
+    });
+    connect(m_desktopScheme, &DesktopColorScheme::settled, this, [this] {
+        if (m_showPending) {
+            finishShow();
         }
     });
 }
@@ -144,7 +153,29 @@ void WindowController::forwardIntents(MainWindow *window)
 
 void WindowController::showOrRaise()
 {
-    MainWindow *window = ensureWindow();
+    ensureWindow();
+    if (!m_desktopScheme->isSettled() && appearancePreference() == QLatin1String("system")) {
+        // The window re-themes itself when the answer arrives, before it is first painted.
+        if (!m_showPending) {
+            m_showPending = true;
+            QTimer::singleShot(kSchemeWaitMs, this, [this] {
+                if (m_showPending) {
+                    finishShow();
+                }
+            });
+        }
+        return;
+    }
+    finishShow();
+}
+
+void WindowController::finishShow()
+{
+    m_showPending = false;
+    MainWindow *window = m_window;
+    if (!window) {
+        return;
+    }
     if (window->isMinimized()) {
         window->showNormal();
     } else {

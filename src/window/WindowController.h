@@ -116,6 +116,8 @@ Q_SIGNALS:
 
 private:
     MainWindow *ensureWindow();
+    // Shows and raises the current window; the second half of showOrRaise.
+    void finishShow();
     void replayTo(MainWindow *window) const;
     void forwardIntents(MainWindow *window);
     void showPageOfWindow(int index);
@@ -135,6 +137,8 @@ private:
     bool m_hideOnClose = true;
     bool m_systemTrayAvailable = true;
     bool m_releaseOnHide = false;
+    // A show waits for the desktop's light or dark answer, so the window never flashes light.
+    bool m_showPending = false;
 
     // Replayed to every new window.
     WindowReplayState m_replay;

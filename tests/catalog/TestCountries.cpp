@@ -1,6 +1,8 @@
 #include "Countries.h"
 
 #include <QGuiApplication>
+#include <QPixmap>
+#include <QPixmapCache>
 #include <QTest>
 
 class TestCountries : public QObject
@@ -11,6 +13,9 @@ private Q_SLOTS:
     void names_data();
     void names();
     void tableOrder();
+    void flags_data();
+    void flags();
+    void flagCacheClears();
 };
 
 void TestCountries::names_data()
@@ -49,6 +54,53 @@ void TestCountries::tableOrder()
     for (const char *absent : {"uk", "cw", "bl", "xk"})
         QVERIFY2(!codes.contains(QLatin1String(absent)), absent);
     QCOMPARE(QSet<QString>(codes.begin(), codes.end()).size(), 233);
+}
+
+void TestCountries::flags_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("sameAs"); // a code whose flag is the same picture, or empty
+    QTest::addColumn<qreal>("ratio");
+    QTest::addColumn<QSize>("logical");
+    QTest::addRow("48 pixels for dense screens")
+        << QStringLiteral("de") << QString() << 2.0 << QSize(24, 16);
+    QTest::addRow("trimmed and lower-cased")
+        << QStringLiteral(" DE ") << QStringLiteral("de") << 2.0 << QSize(24, 16);
+    QTest::addRow("24 pixels stay at 1.0")
+        << QStringLiteral("qq") << QString() << 1.0 << QSize(24, 16);
+    QTest::addRow("unknown code falls back")
+        << QStringLiteral("zz") << QStringLiteral("unknown") << 2.0 << QSize(24, 16);
+    QTest::addRow("no code, no flag") << QStringLiteral("  ") << QString() << 0.0 << QSize();
+}
+
+void TestCountries::flags()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, sameAs);
+    QFETCH(qreal, ratio);
+    QFETCH(QSize, logical);
+    const QPixmap flag = countryFlag(code);
+    if (logical.isEmpty()) {
+        QVERIFY(flag.isNull());
+        return;
+    }
+    QCOMPARE(flag.devicePixelRatio(), ratio);
+    QCOMPARE(flag.deviceIndependentSize().toSize(), logical);
+    if (!sameAs.isEmpty())
+        QCOMPARE(flag.cacheKey(), countryFlag(sameAs).cacheKey());
+}
+
+void TestCountries::flagCacheClears()
+{
+    const qint64 first = countryFlag(QStringLiteral("jp")).cacheKey();
+    QCOMPARE(countryFlag(QStringLiteral("jp")).cacheKey(), first);
+    QPixmap cached;
+    QVERIFY(QPixmapCache::find(QStringLiteral("tovra-flag:jp"), &cached));
+    clearFlagCache();
+    QVERIFY(!QPixmapCache::find(QStringLiteral("tovra-flag:jp"), &cached));
+    const QPixmap again = countryFlag(QStringLiteral("jp"));
+    QVERIFY(!again.isNull());
+    QVERIFY(again.cacheKey() != first);
 }
 
 QTEST_MAIN(TestCountries)

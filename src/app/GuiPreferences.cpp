@@ -14,6 +14,7 @@ const QString kLastLanguage = QStringLiteral("language/lastEffective");
 const QString kRecentNodes = QStringLiteral("vpn/recentNodes");
 const QString kRecentSearches = QStringLiteral("vpn/recentSearches");
 const QString kRecentNodesCleared = QStringLiteral("vpn/recentNodesCleared");
+const QString kLocationsSort = QStringLiteral("locations/sort");
 const QString kUpdateVersion = QStringLiteral("update/currentVersion");
 const QString kLastAttemptAt = QStringLiteral("update/lastAttemptAt");
 const QString kLastSuccessfulCheckAt = QStringLiteral("update/lastSuccessfulCheckAt");
@@ -139,6 +140,16 @@ bool GuiPreferences::recentNodesCleared() const
 void GuiPreferences::setRecentNodesCleared(bool cleared)
 {
     write(kRecentNodesCleared, cleared);
+}
+
+QString GuiPreferences::locationsSort() const
+{
+    return m_settings->value(kLocationsSort).toString().trimmed().toLower();
+}
+
+void GuiPreferences::setLocationsSort(const QString &sort)
+{
+    write(kLocationsSort, sort.trimmed().toLower());
 }
 
 GuiUpdateBookkeeping GuiPreferences::updateBookkeeping(const QString &runningVersion) const

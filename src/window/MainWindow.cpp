@@ -121,6 +121,7 @@ QWidget *MainWindow::buildContentColumn(QWidget *root)
     // The order is the meaning of the page index everywhere.
     m_vpnPage = new VpnPage(m_stack);
     m_locationsPage = new LocationsPage(m_stack);
+    m_locationsPage->setPreferences(m_preferences);
     m_modePage = new ModePage(m_stack);
     m_settingsPage = new SettingsPage(m_stack);
     m_accountPage = new AccountPage(m_stack);
@@ -158,6 +159,8 @@ void MainWindow::connectPages()
             &MainWindow::setNodeFavoriteRequested);
     connect(m_locationsPage, &LocationsPage::pendingConnectTargetChanged, this,
             &MainWindow::pendingConnectTargetChanged);
+    connect(m_locationsPage, &LocationsPage::loadLocationsRequested, this,
+            &MainWindow::loadLocationsRequested);
 
     connect(m_modePage, &ModePage::setModeRequested, this, &MainWindow::setModeRequested);
     connect(m_modePage, &ModePage::splitRulesRequested, this, &MainWindow::splitRulesRequested);

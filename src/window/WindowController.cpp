@@ -1,5 +1,6 @@
 #include "WindowController.h"
 
+#include "Countries.h"
 #include "DesktopColorScheme.h"
 #include "GuiMemLog.h"
 #include "GuiPreferences.h"
@@ -48,6 +49,8 @@ WindowController::WindowController(AppState *state, GuiPreferences *preferences,
 WindowController::~WindowController()
 {
     delete m_window.data();
+    // The flags were drawn for the window; the tray shows none.
+    clearFlagCache();
 }
 
 MainWindow *WindowController::window() const
@@ -102,6 +105,8 @@ void WindowController::forwardIntents(MainWindow *window)
             &WindowController::setLocalNetworkRequested);
     connect(window, &MainWindow::refreshLocationsRequested, this,
             &WindowController::refreshLocationsRequested);
+    connect(window, &MainWindow::loadLocationsRequested, this,
+            &WindowController::loadLocationsRequested);
     connect(window, &MainWindow::connectNodeRequested, this,
             &WindowController::connectNodeRequested);
     connect(window, &MainWindow::recentConnectionsCleared, this,

@@ -113,6 +113,7 @@ Q_SIGNALS:
     void logoutRequested();
     void purchaseURLRequested(QString lang);
     void forceUpdateExitRequested();
+    void loadLocationsRequested();
 
 private:
     MainWindow *ensureWindow();

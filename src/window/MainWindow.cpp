@@ -375,6 +375,38 @@ void MainWindow::showNotification(const QString &text, const QString &kind, int 
     placeNotificationHost();
 }
 
+void MainWindow::setAccountOperationInProgress(bool inProgress)
+{
+    m_accountPage->setAccountOperationInProgress(inProgress);
+}
+
+void MainWindow::setRenewalOpening(bool opening)
+{
+    m_accountPage->setRenewalOpening(opening);
+}
+
+void MainWindow::showAccountError(const QString &message)
+{
+    m_accountPage->showError(message);
+}
+
+void MainWindow::clearAccountMessage()
+{
+    m_accountPage->clearMessage();
+}
+
+void MainWindow::setDaemonUnavailableReason(const QString &reason)
+{
+    m_accountPage->setDaemonUnavailableReason(reason);
+    m_vpnPage->setDaemonUnavailableReason(reason);
+}
+
+void MainWindow::setConnectInProgress(bool inProgress, const QString &targetId,
+                                      const QString &label)
+{
+    m_vpnPage->setConnectInProgress(inProgress, targetId, label);
+}
+
 void MainWindow::placeNotificationHost()
 {
     if (!m_notifications->isVisible()) {

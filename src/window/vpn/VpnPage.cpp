@@ -31,3 +31,15 @@ bool VpnPage::isQuickEntryPopupOpen() const
 {
     return m_quickEntryPopup->isVisible();
 }
+
+void VpnPage::setDaemonUnavailableReason(const QString &reason)
+{
+    Q_UNUSED(reason)
+}
+
+void VpnPage::setConnectInProgress(bool inProgress, const QString &targetId, const QString &label)
+{
+    Q_UNUSED(inProgress)
+    Q_UNUSED(targetId)
+    Q_UNUSED(label)
+}

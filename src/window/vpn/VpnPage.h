@@ -17,6 +17,9 @@ public:
     void closeQuickEntryPopup();
     bool isQuickEntryPopupOpen() const;
 
+    void setDaemonUnavailableReason(const QString &reason);
+    void setConnectInProgress(bool inProgress, const QString &targetId, const QString &label);
+
 Q_SIGNALS:
     void connectRuntimeRequested();
     void cancelConnectRequested();

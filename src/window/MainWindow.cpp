@@ -119,7 +119,7 @@ QWidget *MainWindow::buildContentColumn(QWidget *root)
 
     m_stack = new QStackedWidget(m_content);
     // The order is the meaning of the page index everywhere.
-    m_vpnPage = new VpnPage(m_stack);
+    m_vpnPage = new VpnPage(m_preferences, m_stack);
     m_locationsPage = new LocationsPage(m_stack);
     m_modePage = new ModePage(m_stack);
     m_settingsPage = new SettingsPage(m_stack);
@@ -147,6 +147,14 @@ void MainWindow::connectPages()
     connect(m_vpnPage, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmartRequested);
     connect(m_vpnPage, &VpnPage::pendingConnectTargetChanged, this,
             &MainWindow::pendingConnectTargetChanged);
+    connect(m_vpnPage, &VpnPage::setKillSwitchEnabledRequested, this,
+            &MainWindow::setKillSwitchEnabledRequested);
+    connect(m_vpnPage, &VpnPage::switchToAutoAndEnableKillSwitchRequested, this,
+            &MainWindow::switchToAutoAndEnableKillSwitchRequested);
+    connect(m_vpnPage, &VpnPage::chooseModeForKillSwitchRequested, this,
+            &MainWindow::chooseModeForKillSwitchRequested);
+    connect(m_vpnPage, &VpnPage::accountPageRequested, this,
+            [this] { showPage(AccountPageIndex); });
 
     connect(m_locationsPage, &LocationsPage::refreshLocationsRequested, this,
             &MainWindow::refreshLocationsRequested);

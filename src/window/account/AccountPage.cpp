@@ -26,6 +26,8 @@ AccountPage::AccountPage(QWidget *parent)
     m_message->setWordWrap(true);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_message->hide();
+    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     m_summaryCard->hide();
     addContent(m_message);
     addContent(m_signInCard);
@@ -73,6 +75,14 @@ void AccountPage::refresh(const QString &sessionState, const UserInfo &user)
     updateButtons();
 }
 
+void AccountPage::showEvent(QShowEvent *event)
+{
+    WindowPage::showEvent(event);
+    // Coming here signed out means coming to sign in: the cursor waits in the form.
+    if (!isSignedInShown())
+        m_signInCard->focusFirstEmptyField();
+}
+
 bool AccountPage::isSignedInShown() const
 {
     return !m_summaryCard->isHidden();
@@ -109,6 +119,8 @@ void AccountPage::clearMessage()
 {
     m_message->clear();
     m_message->hide();
+    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 void AccountPage::updateButtons()

@@ -36,6 +36,9 @@ Q_SIGNALS:
     void signUpRequested();
     void forgotPasswordRequested();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void signIn();
     void updateButtons();

@@ -7,6 +7,17 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+namespace {
+
+// Text follows the layout's direction even when its words are in a left-to-right script.
+void alignToLayout(QLabel *label)
+{
+    label->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                        (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+}
+
+} // namespace
+
 AccountSignInCard::AccountSignInCard(QWidget *parent)
     : QFrame(parent)
     , m_username(new QLineEdit(this))
@@ -68,6 +79,8 @@ AccountSignInCard::AccountSignInCard(QWidget *parent)
     layout->addWidget(m_unavailable);
     layout->addLayout(buttons);
 
+    for (QLabel *label : {title, intro, m_unavailable})
+        alignToLayout(label);
     connect(m_username, &QLineEdit::returnPressed, this, &AccountSignInCard::signInRequested);
     connect(m_password, &QLineEdit::returnPressed, this, &AccountSignInCard::signInRequested);
     connect(m_signIn, &QPushButton::clicked, this, &AccountSignInCard::signInRequested);
@@ -100,6 +113,11 @@ void AccountSignInCard::clearPassword()
 {
     // setText, not clear(): it also drops the undo history.
     m_password->setText(QString());
+}
+
+void AccountSignInCard::focusFirstEmptyField()
+{
+    (m_username->text().isEmpty() ? m_username : m_password)->setFocus(Qt::OtherFocusReason);
 }
 
 void AccountSignInCard::setSignInState(bool inProgress, const QString &unavailableReason)

@@ -22,6 +22,7 @@ public:
     // Empties the fields and their undo history, so no typed password can be brought back.
     void clearFields();
     void clearPassword();
+    void focusFirstEmptyField();
 
     // Busy: "Signing in..." and disabled. A non-empty reason disables signing in and says why.
     void setSignInState(bool inProgress, const QString &unavailableReason);

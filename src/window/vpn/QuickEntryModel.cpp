@@ -5,6 +5,7 @@
 #include "LocationRoles.h"
 
 #include <QFont>
+#include <QIcon>
 #include <QPixmap>
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>
@@ -153,7 +154,13 @@ QVariant QuickEntryModel::data(const QModelIndex &index, int role) const
                                       : tr("%1  \u00b7  %2").arg(entry.text, entry.detail);
     case Qt::DecorationRole: {
         const QPixmap flag = countryFlag(entry.flagCode);
-        return flag.isNull() ? QVariant() : QVariant(flag);
+        if (flag.isNull())
+            return {};
+        // The same picture when selected: a flag tinted by the selection reads as another flag.
+        QIcon icon;
+        icon.addPixmap(flag, QIcon::Normal);
+        icon.addPixmap(flag, QIcon::Selected);
+        return icon;
     }
     case Qt::ForegroundRole:
         if ((entry.kind == Kind::Heading || entry.kind == Kind::Notice || !entry.enabled) &&

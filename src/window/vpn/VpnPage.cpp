@@ -11,6 +11,7 @@
 #include "VpnRecentLocations.h"
 #include "VpnStatusCard.h"
 
+#include <QAction>
 #include <QPushButton>
 
 using Phase = VpnStatusSummary::Phase;
@@ -28,6 +29,16 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     addContent(m_status);
     addContent(m_search);
     addContent(m_recentCard);
+    // Ctrl+F anywhere in the window, while this page shows, goes to the search.
+    auto *find = new QAction(this);
+    find->setShortcut(QKeySequence::Find);
+    find->setShortcutContext(Qt::WindowShortcut);
+    addAction(find);
+    connect(find, &QAction::triggered, this, [this] {
+        m_search->setFocus(Qt::ShortcutFocusReason);
+        m_search->selectAll();
+        m_search->openPopup();
+    });
     setTabOrder(m_status->primaryAction(), m_status->killSwitchRow()->toggle());
     setTabOrder(m_status->killSwitchRow()->toggle(), m_search);
 

@@ -32,6 +32,8 @@ VpnRecentLocations::VpnRecentLocations(QWidget *parent)
 
     m_empty->setProperty("tovraRole", QStringLiteral("muted"));
     m_empty->setWordWrap(true);
+    m_empty->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                          (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     m_list->setSpacing(6);
     m_list->setContentsMargins(0, 0, 0, 0);
     // Twenty rows do not fit beside the status card: the list scrolls, the card stays.

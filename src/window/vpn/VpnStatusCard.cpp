@@ -14,6 +14,13 @@
 
 namespace {
 
+// Text follows the layout's direction even when its words are in a left-to-right script.
+void alignToLayout(QLabel *label)
+{
+    label->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                        (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+}
+
 void setStyleProperty(QWidget *widget, const char *name, const QString &value)
 {
     if (widget->property(name).toString() == value)
@@ -89,6 +96,8 @@ VpnStatusCard::VpnStatusCard(QWidget *parent)
     layout->addSpacing(4);
     layout->addWidget(m_killSwitch);
 
+    for (QLabel *label : {m_title, m_detail, m_locationCaption, m_location, m_facts})
+        alignToLayout(label);
     m_tick->setInterval(1000);
     connect(m_tick, &QTimer::timeout, this, &VpnStatusCard::updateFacts);
     connect(m_primary, &QPushButton::clicked, this, &VpnStatusCard::primaryActionTriggered);

@@ -58,10 +58,11 @@ window_id() {
 }
 wait_for 20 window_id >/dev/null || fail "the window did not show"
 window=$(window_id)
+# "X Y WIDTH HEIGHT" on one line.
 geometry() {
-    xdotool getwindowgeometry "$window" | sed -n \
-        -e 's/.*Position: \([0-9-]*\),\([0-9-]*\).*/\1 \2/p' -e 's/.*Geometry: \([0-9]*\)x\([0-9]*\).*/\1 \2/p' \
-        | tr '\n' ' '
+    echo $(xdotool getwindowgeometry "$window" | sed -n \
+        -e 's/.*Position: \([0-9-]*\),\([0-9-]*\).*/\1 \2/p' \
+        -e 's/.*Geometry: \([0-9]*\)x\([0-9]*\).*/\1 \2/p')
 }
 read -r win_x win_y win_w win_h < <(geometry)
 status_field() { "$ctl" --socket "$socket" fetchStatus | sed -n "s/.*\"$1\": \"\\([^\"]*\\)\".*/\\1/p"; }
@@ -123,7 +124,8 @@ for picture in account-form account-signed-in quick-entry vpn-connected; do
 done
 
 # Without a tray, closing the window ends the client.
-xdo key --window "$window" ctrl+w
+xdo mousemove $(( win_x + win_w / 2 )) $(( win_y + win_h - 20 ))
+xdo key ctrl+w
 client_exited() { ! kill -0 "$client_pid" 2>/dev/null; }
 wait_for 15 client_exited || fail "closing the window did not end the client"
 status=0

@@ -81,6 +81,9 @@ void ShellWiring::connectTray(TovraAppShell *shell, const ShellContext &context)
                      &TovraAppShell::switchToAutoAndEnableKillSwitch);
     QObject::connect(tray, &TovraTrayApp::chooseModeForKillSwitchRequested, shell,
                      &TovraAppShell::chooseModeForKillSwitch);
+    // The tray polls the status; the window shows the same verdict on its pages.
+    QObject::connect(tray, &TovraTrayApp::daemonReachabilityChanged, window,
+                     &WindowController::setDaemonUnavailableReason);
 }
 
 void ShellWiring::connectWindow(TovraAppShell *shell, const ShellContext &context,

@@ -119,7 +119,7 @@ QWidget *MainWindow::buildContentColumn(QWidget *root)
 
     m_stack = new QStackedWidget(m_content);
     // The order is the meaning of the page index everywhere.
-    m_vpnPage = new VpnPage(m_stack);
+    m_vpnPage = new VpnPage(m_preferences, m_stack);
     m_locationsPage = new LocationsPage(m_stack);
     m_locationsPage->setPreferences(m_preferences);
     m_modePage = new ModePage(m_stack);
@@ -148,6 +148,14 @@ void MainWindow::connectPages()
     connect(m_vpnPage, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmartRequested);
     connect(m_vpnPage, &VpnPage::pendingConnectTargetChanged, this,
             &MainWindow::pendingConnectTargetChanged);
+    connect(m_vpnPage, &VpnPage::setKillSwitchEnabledRequested, this,
+            &MainWindow::setKillSwitchEnabledRequested);
+    connect(m_vpnPage, &VpnPage::switchToAutoAndEnableKillSwitchRequested, this,
+            &MainWindow::switchToAutoAndEnableKillSwitchRequested);
+    connect(m_vpnPage, &VpnPage::chooseModeForKillSwitchRequested, this,
+            &MainWindow::chooseModeForKillSwitchRequested);
+    connect(m_vpnPage, &VpnPage::accountPageRequested, this,
+            [this] { showPage(AccountPageIndex); });
 
     connect(m_locationsPage, &LocationsPage::refreshLocationsRequested, this,
             &MainWindow::refreshLocationsRequested);
@@ -376,6 +384,38 @@ void MainWindow::showNotification(const QString &text, const QString &kind, int 
 {
     m_notifications->showMessage(text, kind, durationMs);
     placeNotificationHost();
+}
+
+void MainWindow::setAccountOperationInProgress(bool inProgress)
+{
+    m_accountPage->setAccountOperationInProgress(inProgress);
+}
+
+void MainWindow::setRenewalOpening(bool opening)
+{
+    m_accountPage->setRenewalOpening(opening);
+}
+
+void MainWindow::showAccountError(const QString &message)
+{
+    m_accountPage->showError(message);
+}
+
+void MainWindow::clearAccountMessage()
+{
+    m_accountPage->clearMessage();
+}
+
+void MainWindow::setDaemonUnavailableReason(const QString &reason)
+{
+    m_accountPage->setDaemonUnavailableReason(reason);
+    m_vpnPage->setDaemonUnavailableReason(reason);
+}
+
+void MainWindow::setConnectInProgress(bool inProgress, const QString &targetId,
+                                      const QString &label)
+{
+    m_vpnPage->setConnectInProgress(inProgress, targetId, label);
 }
 
 void MainWindow::placeNotificationHost()

@@ -60,6 +60,16 @@ public:
     void showSettingsOperationError(const QString &message);
     void showNotification(const QString &text, const QString &kind, int durationMs);
 
+    // The account page's sign-in/out and renewal state and its message line.
+    void setAccountOperationInProgress(bool inProgress);
+    void setRenewalOpening(bool opening);
+    void showAccountError(const QString &message);
+    void clearAccountMessage();
+    // Empty while the daemon answers; else its words, shown where an action needs it.
+    void setDaemonUnavailableReason(const QString &reason);
+    // A connect the shell accepted, with its target (both may be empty), until its answer.
+    void setConnectInProgress(bool inProgress, const QString &targetId, const QString &label);
+
     // "light" and "dark" are kept, anything else means "system".
     static QString normalizedAppearance(const QString &preference);
     void setAppearancePreference(const QString &preference);

@@ -78,6 +78,8 @@ MainWindow *WindowController::ensureWindow()
             &WindowController::openExternalURL);
     connect(window, &MainWindow::appearancePreferenceChanged, this,
             &WindowController::applyUpdateDialogTheme);
+    connect(window, &MainWindow::pendingConnectTargetChanged, this,
+            &WindowController::rememberAnnouncedTarget);
     return window;
 }
 
@@ -87,6 +89,13 @@ void WindowController::replayTo(MainWindow *window) const
     window->setSettingsOperationBusy(m_replay.settingsBusy);
     window->setSplitRulesFetchInProgress(m_replay.splitRulesFetch);
     window->setSplitRulesImportInProgress(m_replay.splitRulesImport);
+    window->setAccountOperationInProgress(m_replay.accountBusy);
+    window->setRenewalOpening(m_replay.renewalOpening);
+    if (!m_replay.accountError.isEmpty())
+        window->showAccountError(m_replay.accountError);
+    window->setDaemonUnavailableReason(m_replay.daemonUnavailableReason);
+    window->setConnectInProgress(m_replay.connecting, m_replay.connectTargetId,
+                                 m_replay.connectTargetLabel);
 }
 
 void WindowController::forwardIntents(MainWindow *window)
@@ -292,6 +301,69 @@ void WindowController::setSplitRulesImportInProgress(bool inProgress)
     if (m_window) {
         m_window->setSplitRulesImportInProgress(inProgress);
     }
+}
+
+void WindowController::setAccountOperationInProgress(bool inProgress)
+{
+    m_replay.accountBusy = inProgress;
+    if (m_window)
+        m_window->setAccountOperationInProgress(inProgress);
+}
+
+void WindowController::setRenewalOpening(bool opening)
+{
+    m_replay.renewalOpening = opening;
+    if (m_window)
+        m_window->setRenewalOpening(opening);
+}
+
+void WindowController::showAccountError(const QString &message)
+{
+    m_replay.accountError =
+        message.trimmed().isEmpty() ? tr("Account operation failed") : message.trimmed();
+    if (m_window)
+        m_window->showAccountError(m_replay.accountError);
+}
+
+void WindowController::clearAccountMessage()
+{
+    m_replay.accountError.clear();
+    if (m_window)
+        m_window->clearAccountMessage();
+}
+
+void WindowController::setDaemonUnavailableReason(const QString &reason)
+{
+    m_replay.daemonUnavailableReason = reason.trimmed();
+    if (m_window)
+        m_window->setDaemonUnavailableReason(m_replay.daemonUnavailableReason);
+}
+
+void WindowController::setConnectInProgress(bool inProgress, const QString &targetId,
+                                            const QString &label)
+{
+    m_replay.connecting = inProgress;
+    m_replay.connectTargetId = inProgress ? targetId : QString();
+    m_replay.connectTargetLabel = inProgress ? label : QString();
+    if (!inProgress) {
+        m_announcedTargetId.clear();
+        m_announcedTargetLabel.clear();
+    }
+    if (m_window)
+        m_window->setConnectInProgress(inProgress, m_replay.connectTargetId,
+                                       m_replay.connectTargetLabel);
+}
+
+void WindowController::rememberAnnouncedTarget(const QString &targetId, const QString &label)
+{
+    m_announcedTargetId = targetId.trimmed();
+    m_announcedTargetLabel = label.trimmed();
+}
+
+QString WindowController::announcedTargetLabel(const QString &targetId) const
+{
+    const QString id = targetId.trimmed();
+    return !id.isEmpty() && id == m_announcedTargetId ? m_announcedTargetLabel : QString();
 }
 
 void WindowController::showOperationError(const QString &message)

@@ -51,6 +51,17 @@ public:
     void setSettingsOperationBusy(bool busy);
     void setSplitRulesFetchInProgress(bool inProgress);
     void setSplitRulesImportInProgress(bool inProgress);
+    void setAccountOperationInProgress(bool inProgress);
+    void setRenewalOpening(bool opening);
+    // The account page's message line; kept so that a new window shows it too.
+    void showAccountError(const QString &message);
+    void clearAccountMessage();
+    void setDaemonUnavailableReason(const QString &reason);
+    // Marks the window as connecting (to the target, when there is one); false clears it.
+    void setConnectInProgress(bool inProgress, const QString &targetId = QString(),
+                              const QString &label = QString());
+    // The label a page gave the target it is about to connect to, or empty for another one.
+    QString announcedTargetLabel(const QString &targetId) const;
 
     // Shown in the window when one exists; without a window there is nowhere to show them.
     void showOperationError(const QString &message);
@@ -124,6 +135,7 @@ private:
     void showPageOfWindow(int index);
     bool effectiveHideOnClose() const;
     void handleHiddenToTray();
+    void rememberAnnouncedTarget(const QString &targetId, const QString &label);
     void applyUpdateDialogTheme();
     void showErrorNotification(const QString &text);
 
@@ -143,4 +155,7 @@ private:
 
     // Replayed to every new window.
     WindowReplayState m_replay;
+    // What a page named the target it was about to connect to; only the shell reads it.
+    QString m_announcedTargetId;
+    QString m_announcedTargetLabel;
 };

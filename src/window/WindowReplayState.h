@@ -1,5 +1,7 @@
 #pragma once
 
+#include <QString>
+
 // What the shell passed down that a window created later must start with. The controller keeps
 // one of these and replays it whole to each new window; add a field here, not a loose member.
 struct WindowReplayState
@@ -8,4 +10,12 @@ struct WindowReplayState
     bool settingsBusy = false;
     bool splitRulesFetch = false;
     bool splitRulesImport = false;
+    bool accountBusy = false;
+    bool renewalOpening = false;
+    // The account page's message line; empty when cleared.
+    QString accountError;
+    QString daemonUnavailableReason;
+    bool connecting = false;
+    QString connectTargetId;
+    QString connectTargetLabel;
 };

@@ -167,6 +167,8 @@ void MainWindow::connectPages()
             &MainWindow::setLocalNetworkRequested);
     connect(m_modePage, &ModePage::setSystemProxyRequested, this,
             &MainWindow::setSystemProxyRequested);
+    connect(m_modePage, &ModePage::settingsPageRequested, this,
+            [this] { showPage(SettingsPageIndex); });
 
     connect(m_settingsPage, &SettingsPage::openLogsRequested, this, &MainWindow::openLogsRequested);
     connect(m_settingsPage, &SettingsPage::openExternalURLRequested, this,
@@ -373,6 +375,16 @@ void MainWindow::showNotification(const QString &text, const QString &kind, int 
 {
     m_notifications->showMessage(text, kind, durationMs);
     placeNotificationHost();
+}
+
+void MainWindow::showSplitRulesResult(const QString &text, const QString &kind)
+{
+    m_modePage->showSplitRulesResult(text, kind);
+}
+
+void MainWindow::highlightKillSwitchModes()
+{
+    m_modePage->highlightKillSwitchModes();
 }
 
 void MainWindow::placeNotificationHost()

@@ -33,7 +33,8 @@ ModePage::ModePage(QWidget *parent)
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *content = new QWidget(m_scroll);
     auto *cards = new QVBoxLayout(content);
-    cards->setContentsMargins(0, 0, 4, 0);
+    // Room on the trailing side for the scroll bar.
+    cards->setContentsMargins(0, 0, 12, 0);
     cards->setSpacing(14);
     m_choices = new ModeChoiceCard(content);
     m_split = new SplitOptionsCard(content);

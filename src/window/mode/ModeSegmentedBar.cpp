@@ -1,6 +1,7 @@
 #include "ModeSegmentedBar.h"
 
 #include <QButtonGroup>
+#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QStyle>
@@ -26,7 +27,8 @@ ModeSegmentedBar::ModeSegmentedBar(const QString &accessibleName, QWidget *paren
     setAccessibleName(accessibleName);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
     auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins(0, 0, 0, 0);
+    // Inside the frame's border, so a checked segment's fill never covers it.
+    layout->setContentsMargins(1, 1, 1, 1);
     layout->setSpacing(0);
     m_group->setExclusive(false);
     connect(m_group, &QButtonGroup::buttonClicked, this, [this](QAbstractButton *button) {
@@ -48,6 +50,7 @@ QPushButton *ModeSegmentedBar::addSegment(const QString &value, const QString &t
         button->setToolTip(description);
         button->setAccessibleDescription(description);
     }
+    fitText(button);
     m_group->addButton(button);
     m_buttons.append(button);
     layout()->addWidget(button);
@@ -63,6 +66,24 @@ void ModeSegmentedBar::clearSegments()
         delete button;
     }
     m_buttons.clear();
+}
+
+void ModeSegmentedBar::setSegmentText(const QString &value, const QString &text)
+{
+    if (QPushButton *button = segment(value)) {
+        button->setText(text);
+        button->setAccessibleName(text);
+        fitText(button);
+    }
+}
+
+void ModeSegmentedBar::fitText(QPushButton *button)
+{
+    QFont bold = button->font();
+    bold.setWeight(QFont::DemiBold);
+    // The template's horizontal padding is 14px a side, plus the divider.
+    constexpr int kPadding = 2 * 14 + 2;
+    button->setMinimumWidth(QFontMetrics(bold).horizontalAdvance(button->text()) + kPadding);
 }
 
 void ModeSegmentedBar::setCurrentValue(const QString &value)

@@ -20,6 +20,7 @@ public:
     QPushButton *addSegment(const QString &value, const QString &text,
                             const QString &description = QString());
     void clearSegments();
+    void setSegmentText(const QString &value, const QString &text);
 
     // Checks the segment of this value; an unknown value checks none.
     void setCurrentValue(const QString &value);
@@ -35,6 +36,8 @@ Q_SIGNALS:
 
 private:
     void updatePositions();
+    // The checked segment's text is bold: room for that, so it never clips.
+    static void fitText(QPushButton *button);
 
     QButtonGroup *m_group;
     QList<QPushButton *> m_buttons;

@@ -53,14 +53,14 @@ NetworkOptionsCard::NetworkOptionsCard(QWidget *parent)
                                   "Tovra routes your traffic."),
                                this),
                     1, 0);
-    grid->addWidget(m_localNetwork, 0, 1, 2, 1, Qt::AlignVCenter);
+    grid->addWidget(m_localNetwork, 0, 1, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
     grid->setRowMinimumHeight(2, 10);
     grid->addWidget(new QLabel(tr("System proxy"), this), 3, 0);
     grid->addWidget(mutedLabel(tr("Point the desktop's proxy settings at Tovra, or also keep "
                                   "other programs from changing them."),
                                this),
                     4, 0);
-    grid->addWidget(m_systemProxy, 3, 1, 2, 1, Qt::AlignVCenter);
+    grid->addWidget(m_systemProxy, 3, 1, 2, 1, Qt::AlignRight | Qt::AlignVCenter);
     grid->setColumnStretch(0, 1);
     layout->addLayout(grid);
     layout->addWidget(m_error);

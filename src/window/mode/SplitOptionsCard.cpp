@@ -140,10 +140,8 @@ void SplitOptionsCard::refresh(const ModeInfo &mode, int ruleCount)
     const bool tunnel = m_family == SplitFamily::Tunnel;
     const SplitProfileInfo current = profile();
     const QString through = tunnel ? tr("Tunnel") : tr("Proxy");
-    QPushButton *throughSegment = m_route->segment(kThrough);
-    throughSegment->setText(through);
-    throughSegment->setAccessibleName(through);
-    throughSegment->setToolTip(tunnel ? tr("Everything not chosen below goes through the tunnel")
+    m_route->setSegmentText(kThrough, through);
+    m_route->segment(kThrough)->setToolTip(tunnel ? tr("Everything not chosen below goes through the tunnel")
                                       : tr("Everything not chosen below goes through the proxy"));
     // "direct" picks Direct; any other route is the family's way through.
     m_route->setCurrentValue(current.defaultRoute == kDirect ? kDirect : kThrough);

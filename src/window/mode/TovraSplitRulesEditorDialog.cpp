@@ -273,6 +273,7 @@ void TovraSplitRulesEditorDialog::importCurrent()
         return;
     const QString content = m_editor->toPlainText();
     const SplitRuleValidator::Result check = SplitRuleValidator::validate(content, ProblemLimit);
+    updateStatus();
     m_result->hide();
     if (check.badLines > 0) {
         QStringList lines;

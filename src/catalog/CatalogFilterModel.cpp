@@ -61,7 +61,10 @@ void CatalogFilterModel::setFilterText(const QString &text)
         Token token{word, {}, isPlainWord(word)};
         if (token.byWord) {
             // Compiled once per search, not per row.
-            token.wordStart.setPattern(QStringLiteral("\\b%1").arg(QRegularExpression::escape(word)));
+            token.wordStart.setPattern(
+                QStringLiteral("\\b%1").arg(QRegularExpression::escape(word)));
+            // Unicode word characters, so that "rich" does not start a word inside "zürich".
+            token.wordStart.setPatternOptions(QRegularExpression::UseUnicodePropertiesOption);
             token.wordStart.optimize();
         }
         m_tokens.append(token);
@@ -81,8 +84,8 @@ bool CatalogFilterModel::matches(const QModelIndex &sourceIndex) const
     }
     const QString joined = texts.join(QLatin1Char(' '));
     for (const Token &token : m_tokens) {
-        const bool found = token.byWord ? token.wordStart.match(joined).hasMatch()
-                                        : joined.contains(token.text);
+        const bool found =
+            token.byWord ? token.wordStart.match(joined).hasMatch() : joined.contains(token.text);
         if (!found) {
             return false;
         }

@@ -1,9 +1,14 @@
 #pragma once
 
+#include "CatalogTreeBuilder.h"
 #include "NodeGroupsInfo.h"
 #include "NodesInfo.h"
 
 #include <QAbstractItemModel>
+#include <QHash>
+
+#include <memory>
+#include <vector>
 
 // The catalogue as a tree: the daemon's groups (continent > country > city in practice) with
 // the nodes as leaves; nodes no group lists still appear. Updates are incremental: new pings,
@@ -23,10 +28,18 @@ public:
     QString tab() const { return m_tab; }
     // Tiers the account may use ("FREE", "SVIP"); rows of other tiers read as locked.
     void setAvailableTiers(const QStringList &tiers);
+    QStringList availableTiers() const { return m_tiers; }
+    // The order of the rows within each level.
+    void setSortOrder(CatalogSort sort);
+    CatalogSort sortOrder() const { return m_sort; }
 
     QModelIndex indexForNode(const QString &nodeId) const;
+    // A group's selector or code, or a node id.
     QModelIndex indexForSelector(const QString &selector) const;
+    // Distinct nodes in the tree (after the tab).
     int nodeCount() const;
+    const NodesInfo &nodes() const { return m_nodes; }
+    const NodeGroupsInfo &nodeGroups() const { return m_groups; }
 
     QModelIndex index(int row, int column, const QModelIndex &parent = {}) const override;
     QModelIndex parent(const QModelIndex &child) const override;
@@ -34,9 +47,33 @@ public:
     int columnCount(const QModelIndex &parent = {}) const override;
     QVariant data(const QModelIndex &index, int role = Qt::DisplayRole) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
+    bool hasChildren(const QModelIndex &parent = {}) const override;
 
 private:
     struct Item;
+    enum Change : int { NoChange = 0, StateChange = 1, TextChange = 2 };
+
+    void rebuild();
+    void sync(Item *parent, std::vector<CatalogBlueprint> &rows);
+    bool sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const;
+    void removeMissing(Item *parent, const std::vector<CatalogBlueprint> &rows);
+    void reorder(Item *parent, const std::vector<CatalogBlueprint> &rows);
+    void insertNew(Item *parent, std::vector<CatalogBlueprint> &rows);
+    void updateRows(Item *parent, std::vector<CatalogBlueprint> &rows);
+    std::unique_ptr<Item> makeItem(Item *parent, int row, CatalogBlueprint &blueprint) const;
+    int apply(Item *item, const CatalogBlueprint &blueprint) const;
+    QModelIndex indexOf(const Item *item) const;
+    Item *itemAt(const QModelIndex &index) const;
+    void buildLookup() const;
+    QString accessibleText(const Item *item) const;
+
+    NodeGroupsInfo m_groups;
+    NodesInfo m_nodes;
     QString m_tab;
-    Item *m_root = nullptr;
+    QStringList m_tiers;
+    CatalogSort m_sort = CatalogSort::Daemon;
+    std::unique_ptr<Item> m_root;
+    mutable QHash<QString, const Item *> m_byNode;
+    mutable QHash<QString, const Item *> m_bySelector;
+    mutable bool m_lookupValid = false;
 };

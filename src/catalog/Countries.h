@@ -10,6 +10,8 @@
 // The translated name ("Countries" context); an unknown code shows upper-cased, a blank one as
 // the trimmed input.
 QString countryName(const QString &code);
+// The untranslated table name (the translation key), or an empty text for an unknown code.
+QString countryEnglishName(const QString &code);
 // The flag for 24 logical pixels wide, or the "unknown" flag; null for a blank code.
 QPixmap countryFlag(const QString &code);
 // Forgets every flag this loader put into the pixmap cache.

@@ -1,0 +1,537 @@
+#include "CatalogTreeModel.h"
+
+#include "Countries.h"
+#include "LocationRoles.h"
+
+#include <QCoreApplication>
+#include <QSet>
+
+#include <algorithm>
+
+namespace {
+
+// Roles that change when only pings, favourites or the connection move.
+const QList<int> kStateRoles = {
+    LocationPingMsRole,    LocationSignalLevelRole, LocationFavoriteRole,
+    LocationConnectedRole, LocationSelectedRole,    LocationStaleRole,
+    LocationLockedRole,    Qt::AccessibleTextRole,  Qt::ToolTipRole};
+
+} // namespace
+
+struct CatalogTreeModel::Item
+{
+    Item *parent = nullptr;
+    int row = 0;
+    bool group = false;
+    QString id;
+    NodeEntry node;    // nodes: the entry the texts were made from
+    QString groupName; // groups: the daemon's name and code the texts were made from
+    QString groupCode;
+    QString label;
+    QString searchText;
+    QString region;
+    QString tier;
+    bool country = false;
+    int pingMs = -1;
+    int signalLevel = -1;
+    int nodeCount = 0;
+    bool favorite = false;
+    bool connected = false;
+    bool selected = false;
+    bool locked = false;
+    bool stale = false;
+    std::vector<std::unique_ptr<Item>> children;
+
+    QString key() const { return group ? QLatin1String("g:") + id : QLatin1String("n:") + id; }
+};
+
+namespace {
+
+QString blueprintKey(const CatalogBlueprint &row)
+{
+    return row.group ? QLatin1String("g:") + row.id : QLatin1String("n:") + row.id;
+}
+
+QString searchTextFor(const CatalogBlueprint &row, const QString &tier)
+{
+    QStringList words{row.label};
+    if (row.group && row.entry) {
+        words << row.entry->name << row.entry->code;
+    } else if (row.node) {
+        words << row.node->name;
+        for (const QString &tag : row.node->tags) {
+            if (tag.compare(QLatin1String("FAVORITE"), Qt::CaseInsensitive) != 0)
+                words << tag;
+        }
+        words << tier;
+        if (tier == QLatin1String("SVIP"))
+            words << QCoreApplication::translate("CatalogTreeModel", "Premium");
+    }
+    if (!row.region.isEmpty() && (!row.group || row.country)) {
+        words << row.region << countryEnglishName(row.region) << countryName(row.region);
+    }
+    for (QString &word : words)
+        word = word.trimmed().toLower();
+    words.removeAll(QString());
+    words.removeDuplicates();
+    return words.join(QLatin1Char(' '));
+}
+
+} // namespace
+
+CatalogTreeModel::CatalogTreeModel(QObject *parent)
+    : QAbstractItemModel(parent)
+    , m_root(std::make_unique<Item>())
+{
+    m_root->group = true;
+}
+
+CatalogTreeModel::~CatalogTreeModel() = default;
+
+void CatalogTreeModel::setCatalog(const NodeGroupsInfo &groups, const NodesInfo &nodes)
+{
+    m_groups = groups;
+    m_nodes = nodes;
+    rebuild();
+}
+
+void CatalogTreeModel::setTab(const QString &tab)
+{
+    const QString next = tab.trimmed().toLower();
+    if (next == m_tab)
+        return;
+    m_tab = next;
+    rebuild();
+}
+
+void CatalogTreeModel::setAvailableTiers(const QStringList &tiers)
+{
+    if (tiers == m_tiers)
+        return;
+    m_tiers = tiers;
+    rebuild();
+}
+
+void CatalogTreeModel::setSortOrder(CatalogSort sort)
+{
+    if (sort == m_sort)
+        return;
+    m_sort = sort;
+    rebuild();
+}
+
+void CatalogTreeModel::rebuild()
+{
+    CatalogTreeBuilder builder(m_groups, m_nodes, {m_tab, m_tiers, m_sort});
+    std::vector<CatalogBlueprint> rows = builder.build();
+    if (m_root->children.empty() || rows.empty()) {
+        // Filling an empty tree or emptying a full one: nothing to keep, so one reset is cheaper.
+        if (m_root->children.empty() && rows.empty())
+            return;
+        beginResetModel();
+        m_root->children.clear();
+        m_root->children.reserve(rows.size());
+        for (size_t i = 0; i < rows.size(); ++i)
+            m_root->children.push_back(makeItem(m_root.get(), int(i), rows[i]));
+        m_lookupValid = false;
+        endResetModel();
+        return;
+    }
+    sync(m_root.get(), rows);
+}
+
+bool CatalogTreeModel::sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const
+{
+    if (parent->children.size() != rows.size())
+        return false;
+    for (size_t i = 0; i < rows.size(); ++i) {
+        const Item *item = parent->children[i].get();
+        if (item->group != rows[i].group || item->id != rows[i].id)
+            return false;
+    }
+    return true;
+}
+
+void CatalogTreeModel::sync(Item *parent, std::vector<CatalogBlueprint> &rows)
+{
+    if (!sameKeys(parent, rows)) {
+        removeMissing(parent, rows);
+        reorder(parent, rows);
+        insertNew(parent, rows);
+        m_lookupValid = false;
+    }
+    updateRows(parent, rows);
+}
+
+void CatalogTreeModel::removeMissing(Item *parent, const std::vector<CatalogBlueprint> &rows)
+{
+    QSet<QString> wanted;
+    wanted.reserve(qsizetype(rows.size()));
+    for (const CatalogBlueprint &row : rows)
+        wanted.insert(blueprintKey(row));
+    auto &children = parent->children;
+    const QModelIndex parentIndex = indexOf(parent);
+    // From the end, one signal per run of neighbours that go.
+    int last = int(children.size()) - 1;
+    while (last >= 0) {
+        if (wanted.contains(children[size_t(last)]->key())) {
+            --last;
+            continue;
+        }
+        int first = last;
+        while (first > 0 && !wanted.contains(children[size_t(first - 1)]->key()))
+            --first;
+        beginRemoveRows(parentIndex, first, last);
+        children.erase(children.begin() + first, children.begin() + last + 1);
+        for (size_t i = size_t(first); i < children.size(); ++i)
+            children[i]->row = int(i);
+        endRemoveRows();
+        last = first - 1;
+    }
+}
+
+void CatalogTreeModel::reorder(Item *parent, const std::vector<CatalogBlueprint> &rows)
+{
+    QHash<QString, int> position;
+    position.reserve(qsizetype(rows.size()));
+    for (size_t i = 0; i < rows.size(); ++i)
+        position.insert(blueprintKey(rows[i]), int(i));
+    auto &children = parent->children;
+    const auto before = [&position](const std::unique_ptr<Item> &a,
+                                    const std::unique_ptr<Item> &b) {
+        return position.value(a->key()) < position.value(b->key());
+    };
+    if (std::is_sorted(children.begin(), children.end(), before))
+        return;
+    const QModelIndex parentIndex = indexOf(parent);
+    Q_EMIT layoutAboutToBeChanged({QPersistentModelIndex(parentIndex)},
+                                  QAbstractItemModel::VerticalSortHint);
+    QModelIndexList from;
+    from.reserve(qsizetype(children.size()));
+    for (const auto &child : children)
+        from.append(createIndex(child->row, 0, child.get()));
+    std::stable_sort(children.begin(), children.end(), before);
+    QModelIndexList to;
+    to.reserve(from.size());
+    for (const QModelIndex &old : from) {
+        const auto *item = static_cast<const Item *>(old.internalPointer());
+        const auto found = std::find_if(
+            children.begin(), children.end(),
+            [item](const std::unique_ptr<Item> &child) { return child.get() == item; });
+        to.append(createIndex(int(found - children.begin()), 0, old.internalPointer()));
+    }
+    for (size_t i = 0; i < children.size(); ++i)
+        children[i]->row = int(i);
+    changePersistentIndexList(from, to);
+    Q_EMIT layoutChanged({QPersistentModelIndex(parentIndex)},
+                         QAbstractItemModel::VerticalSortHint);
+}
+
+void CatalogTreeModel::insertNew(Item *parent, std::vector<CatalogBlueprint> &rows)
+{
+    // The survivors already stand in the blueprint's order; what is missing goes in between.
+    auto &children = parent->children;
+    const QModelIndex parentIndex = indexOf(parent);
+    size_t i = 0;
+    while (i < rows.size()) {
+        if (i < children.size() && children[i]->group == rows[i].group &&
+            children[i]->id == rows[i].id) {
+            ++i;
+            continue;
+        }
+        size_t end = i + 1;
+        const Item *next = i < children.size() ? children[i].get() : nullptr;
+        while (end < rows.size() &&
+               !(next && next->group == rows[end].group && next->id == rows[end].id))
+            ++end;
+        beginInsertRows(parentIndex, int(i), int(end - 1));
+        std::vector<std::unique_ptr<Item>> fresh;
+        fresh.reserve(end - i);
+        for (size_t k = i; k < end; ++k)
+            fresh.push_back(makeItem(parent, int(k), rows[k]));
+        children.insert(children.begin() + qptrdiff(i), std::make_move_iterator(fresh.begin()),
+                        std::make_move_iterator(fresh.end()));
+        for (size_t k = end; k < children.size(); ++k)
+            children[k]->row = int(k);
+        endInsertRows();
+        i = end;
+    }
+}
+
+void CatalogTreeModel::updateRows(Item *parent, std::vector<CatalogBlueprint> &rows)
+{
+    auto &children = parent->children;
+    const QModelIndex parentIndex = indexOf(parent);
+    int runStart = -1;
+    int runChange = NoChange;
+    const auto flush = [&](int end) {
+        if (runStart < 0)
+            return;
+        const QModelIndex first = createIndex(runStart, 0, children[size_t(runStart)].get());
+        const QModelIndex last = createIndex(end, 0, children[size_t(end)].get());
+        Q_EMIT dataChanged(first, last, runChange & TextChange ? QList<int>() : kStateRoles);
+        runStart = -1;
+        runChange = NoChange;
+    };
+    for (size_t i = 0; i < rows.size(); ++i) {
+        Item *item = children[i].get();
+        if (item->group)
+            sync(item, rows[i].children);
+        const int change = apply(item, rows[i]);
+        if (change == NoChange) {
+            flush(int(i) - 1);
+            continue;
+        }
+        if (runStart < 0)
+            runStart = int(i);
+        runChange |= change;
+    }
+    flush(int(rows.size()) - 1);
+    Q_UNUSED(parentIndex);
+}
+
+std::unique_ptr<CatalogTreeModel::Item>
+CatalogTreeModel::makeItem(Item *parent, int row, CatalogBlueprint &blueprint) const
+{
+    auto item = std::make_unique<Item>();
+    item->parent = parent;
+    item->row = row;
+    item->group = blueprint.group;
+    item->id = blueprint.id;
+    apply(item.get(), blueprint);
+    item->children.reserve(blueprint.children.size());
+    for (size_t i = 0; i < blueprint.children.size(); ++i)
+        item->children.push_back(makeItem(item.get(), int(i), blueprint.children[i]));
+    return item;
+}
+
+int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
+{
+    int change = NoChange;
+    const auto set = [&change](auto &field, const auto &value, Change kind) {
+        if (field != value) {
+            field = value;
+            change |= kind;
+        }
+    };
+    if (blueprint.node) {
+        const NodeEntry &node = *blueprint.node;
+        const bool textsStale = item->searchText.isEmpty() || item->node.name != node.name ||
+                                item->node.region != node.region || item->node.tags != node.tags ||
+                                item->node.type != node.type;
+        if (textsStale) {
+            item->node = node;
+            item->tier = CatalogTreeBuilder::tierOf(node);
+            item->label = blueprint.label;
+            item->region = blueprint.region;
+            item->searchText = searchTextFor(blueprint, item->tier);
+            change |= TextChange;
+        }
+        set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1, StateChange);
+        set(item->signalLevel, node.signalLevel >= 0 ? node.signalLevel : -1, StateChange);
+        set(item->favorite, CatalogTreeBuilder::isFavorite(node), StateChange);
+        set(item->connected, m_nodes.connected.valid && m_nodes.connected.id == node.id,
+            StateChange);
+        set(item->selected, m_nodes.selected.valid && m_nodes.selected.id == node.id, StateChange);
+        set(item->locked, blueprint.lockedCount > 0, StateChange);
+    } else {
+        const QString name = blueprint.entry ? blueprint.entry->name : QString();
+        const QString code = blueprint.entry ? blueprint.entry->code : QString();
+        if (item->searchText.isEmpty() || item->label != blueprint.label ||
+            item->region != blueprint.region || item->groupName != name ||
+            item->groupCode != code || item->country != blueprint.country) {
+            item->label = blueprint.label;
+            item->region = blueprint.region;
+            item->groupName = name;
+            item->groupCode = code;
+            item->country = blueprint.country;
+            item->searchText = searchTextFor(blueprint, QString());
+            change |= TextChange;
+        }
+        set(item->pingMs, blueprint.bestPingMs, StateChange);
+        set(item->nodeCount, blueprint.nodeCount, StateChange);
+        set(item->locked, blueprint.nodeCount > 0 && blueprint.lockedCount == blueprint.nodeCount,
+            StateChange);
+    }
+    set(item->stale, m_nodes.stale || m_groups.stale, StateChange);
+    return change;
+}
+
+QModelIndex CatalogTreeModel::indexOf(const Item *item) const
+{
+    if (!item || item == m_root.get())
+        return {};
+    return createIndex(item->row, 0, const_cast<Item *>(item));
+}
+
+CatalogTreeModel::Item *CatalogTreeModel::itemAt(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return m_root.get();
+    return static_cast<Item *>(index.internalPointer());
+}
+
+QModelIndex CatalogTreeModel::index(int row, int column, const QModelIndex &parent) const
+{
+    if (column != 0 || row < 0 || (parent.isValid() && parent.column() != 0))
+        return {};
+    const Item *owner = itemAt(parent);
+    if (size_t(row) >= owner->children.size())
+        return {};
+    return createIndex(row, 0, owner->children[size_t(row)].get());
+}
+
+QModelIndex CatalogTreeModel::parent(const QModelIndex &child) const
+{
+    if (!child.isValid())
+        return {};
+    return indexOf(itemAt(child)->parent);
+}
+
+int CatalogTreeModel::rowCount(const QModelIndex &parent) const
+{
+    if (parent.isValid() && parent.column() != 0)
+        return 0;
+    return int(itemAt(parent)->children.size());
+}
+
+int CatalogTreeModel::columnCount(const QModelIndex &) const
+{
+    return 1;
+}
+
+bool CatalogTreeModel::hasChildren(const QModelIndex &parent) const
+{
+    return rowCount(parent) > 0;
+}
+
+Qt::ItemFlags CatalogTreeModel::flags(const QModelIndex &index) const
+{
+    if (!index.isValid())
+        return Qt::NoItemFlags;
+    Qt::ItemFlags result = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
+    if (!itemAt(index)->group)
+        result |= Qt::ItemNeverHasChildren;
+    return result;
+}
+
+QString CatalogTreeModel::accessibleText(const Item *item) const
+{
+    QStringList parts{item->label};
+    if (item->group) {
+        parts << tr("%n location(s)", nullptr, item->nodeCount);
+    } else {
+        if (!item->region.isEmpty())
+            parts << countryName(item->region);
+        parts << (item->pingMs >= 0 ? tr("%1 ms").arg(item->pingMs) : tr("latency not measured"));
+        if (!item->tier.isEmpty())
+            parts << item->tier;
+        if (item->favorite)
+            parts << tr("favourite");
+        if (item->connected)
+            parts << tr("connected");
+    }
+    if (item->locked)
+        parts << tr("not in your plan");
+    return parts.join(QLatin1String(", "));
+}
+
+QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
+{
+    if (!index.isValid() || index.column() != 0)
+        return {};
+    const Item *item = itemAt(index);
+    switch (role) {
+    case Qt::DisplayRole:
+        return item->label;
+    case Qt::DecorationRole:
+        return item->region.isEmpty() ? QVariant() : QVariant(countryFlag(item->region));
+    case Qt::AccessibleTextRole:
+        return accessibleText(item);
+    case Qt::ToolTipRole:
+        if (item->locked)
+            return tr("Your plan does not include this location. Upgrade to use it.");
+        return item->stale ? tr("This list may be out of date.") : QVariant();
+    case LocationSearchTextRole:
+        return item->searchText;
+    case LocationNodeIdRole:
+        return item->group ? QString() : item->id;
+    case LocationPingMsRole:
+        return item->pingMs;
+    case LocationSignalLevelRole:
+        return item->group ? -1 : item->signalLevel;
+    case LocationFavoriteRole:
+        return item->favorite;
+    case LocationTierRole:
+        return item->tier;
+    case LocationIsGroupRole:
+        return item->group;
+    case LocationConnectedRole:
+        return item->connected;
+    case LocationSelectorRole:
+        if (!item->group)
+            return item->id;
+        // Our own region groups are reached by their country code.
+        return item->id.startsWith(QLatin1String("region:")) ? item->region : item->id;
+    case LocationRegionRole:
+        return item->region;
+    case LocationSelectedRole:
+        return item->selected;
+    case LocationStaleRole:
+        return item->stale;
+    case LocationLockedRole:
+        return item->locked;
+    default:
+        return {};
+    }
+}
+
+void CatalogTreeModel::buildLookup() const
+{
+    if (m_lookupValid)
+        return;
+    m_byNode.clear();
+    m_bySelector.clear();
+    std::vector<const Item *> stack{m_root.get()};
+    // Pre-order, so the first row of a node listed twice wins.
+    while (!stack.empty()) {
+        const Item *item = stack.back();
+        stack.pop_back();
+        if (item != m_root.get()) {
+            if (item->group) {
+                const QString selector = data(indexOf(item), LocationSelectorRole).toString();
+                if (!m_bySelector.contains(selector.toLower()))
+                    m_bySelector.insert(selector.toLower(), item);
+                const QString code = item->groupCode.trimmed().toLower();
+                if (!code.isEmpty() && !m_bySelector.contains(code))
+                    m_bySelector.insert(code, item);
+            } else if (!m_byNode.contains(item->id)) {
+                m_byNode.insert(item->id, item);
+            }
+        }
+        for (auto it = item->children.rbegin(); it != item->children.rend(); ++it)
+            stack.push_back(it->get());
+    }
+    m_lookupValid = true;
+}
+
+QModelIndex CatalogTreeModel::indexForNode(const QString &nodeId) const
+{
+    buildLookup();
+    return indexOf(m_byNode.value(nodeId.trimmed()));
+}
+
+QModelIndex CatalogTreeModel::indexForSelector(const QString &selector) const
+{
+    buildLookup();
+    const QString key = selector.trimmed();
+    if (const Item *group = m_bySelector.value(key.toLower()))
+        return indexOf(group);
+    return indexOf(m_byNode.value(key));
+}
+
+int CatalogTreeModel::nodeCount() const
+{
+    buildLookup();
+    return int(m_byNode.size());
+}

@@ -1,0 +1,107 @@
+#include "Countries.h"
+
+#include <QGuiApplication>
+#include <QPixmap>
+#include <QPixmapCache>
+#include <QTest>
+
+class TestCountries : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void names_data();
+    void names();
+    void tableOrder();
+    void flags_data();
+    void flags();
+    void flagCacheClears();
+};
+
+void TestCountries::names_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("name");
+    QTest::addRow("plain") << QStringLiteral("us") << QStringLiteral("United States");
+    QTest::addRow("blanks and capitals")
+        << QStringLiteral("  US\t") << QStringLiteral("United States");
+    QTest::addRow("kept one letter short")
+        << QStringLiteral("ax") << QStringLiteral("Land Islands");
+    QTest::addRow("odd capital") << QStringLiteral("kp")
+                                 << QStringLiteral("Korea, Democratic People'S Republic of");
+    QTest::addRow("gb is the kingdom") << QStringLiteral("GB") << QStringLiteral("United Kingdom");
+    QTest::addRow("uk is no code") << QStringLiteral("uk") << QStringLiteral("UK");
+    QTest::addRow("unknown shows upper-cased") << QStringLiteral(" zz ") << QStringLiteral("ZZ");
+    QTest::addRow("blank gives the trimmed input") << QStringLiteral("   ") << QString();
+    QTest::addRow("empty") << QString() << QString();
+}
+
+void TestCountries::names()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, name);
+    QCOMPARE(countryName(code), name);
+}
+
+void TestCountries::tableOrder()
+{
+    const QStringList codes = countryCodes();
+    QCOMPARE(codes.size(), 233);
+    QCOMPARE(codes.mid(0, 4), QStringList({QStringLiteral("af"), QStringLiteral("ax"),
+                                           QStringLiteral("al"), QStringLiteral("dz")}));
+    QCOMPARE(codes.mid(230),
+             QStringList({QStringLiteral("ye"), QStringLiteral("zm"), QStringLiteral("zw")}));
+    for (const char *absent : {"uk", "cw", "bl", "xk"})
+        QVERIFY2(!codes.contains(QLatin1String(absent)), absent);
+    QCOMPARE(QSet<QString>(codes.begin(), codes.end()).size(), 233);
+}
+
+void TestCountries::flags_data()
+{
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<QString>("sameAs"); // a code whose flag is the same picture, or empty
+    QTest::addColumn<qreal>("ratio");
+    QTest::addColumn<QSize>("logical");
+    QTest::addRow("48 pixels for dense screens")
+        << QStringLiteral("de") << QString() << 2.0 << QSize(24, 16);
+    QTest::addRow("trimmed and lower-cased")
+        << QStringLiteral(" DE ") << QStringLiteral("de") << 2.0 << QSize(24, 16);
+    QTest::addRow("24 pixels stay at 1.0")
+        << QStringLiteral("qq") << QString() << 1.0 << QSize(24, 16);
+    QTest::addRow("unknown code falls back")
+        << QStringLiteral("zz") << QStringLiteral("unknown") << 2.0 << QSize(24, 16);
+    QTest::addRow("no code, no flag") << QStringLiteral("  ") << QString() << 0.0 << QSize();
+}
+
+void TestCountries::flags()
+{
+    QFETCH(QString, code);
+    QFETCH(QString, sameAs);
+    QFETCH(qreal, ratio);
+    QFETCH(QSize, logical);
+    const QPixmap flag = countryFlag(code);
+    if (logical.isEmpty()) {
+        QVERIFY(flag.isNull());
+        return;
+    }
+    QCOMPARE(flag.devicePixelRatio(), ratio);
+    QCOMPARE(flag.deviceIndependentSize().toSize(), logical);
+    if (!sameAs.isEmpty())
+        QCOMPARE(flag.cacheKey(), countryFlag(sameAs).cacheKey());
+}
+
+void TestCountries::flagCacheClears()
+{
+    const qint64 first = countryFlag(QStringLiteral("jp")).cacheKey();
+    QCOMPARE(countryFlag(QStringLiteral("jp")).cacheKey(), first);
+    QPixmap cached;
+    QVERIFY(QPixmapCache::find(QStringLiteral("tovra-flag:jp"), &cached));
+    clearFlagCache();
+    QVERIFY(!QPixmapCache::find(QStringLiteral("tovra-flag:jp"), &cached));
+    const QPixmap again = countryFlag(QStringLiteral("jp"));
+    QVERIFY(!again.isNull());
+    QVERIFY(again.cacheKey() != first);
+}
+
+QTEST_MAIN(TestCountries)
+#include "TestCountries.moc"

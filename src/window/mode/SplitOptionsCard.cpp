@@ -141,8 +141,9 @@ void SplitOptionsCard::refresh(const ModeInfo &mode, int ruleCount)
     const SplitProfileInfo current = profile();
     const QString through = tunnel ? tr("Tunnel") : tr("Proxy");
     m_route->setSegmentText(kThrough, through);
-    m_route->segment(kThrough)->setToolTip(tunnel ? tr("Everything not chosen below goes through the tunnel")
-                                      : tr("Everything not chosen below goes through the proxy"));
+    m_route->segment(kThrough)->setToolTip(
+        tunnel ? tr("Everything not chosen below goes through the tunnel")
+               : tr("Everything not chosen below goes through the proxy"));
     // "direct" picks Direct; any other route is the family's way through.
     m_route->setCurrentValue(current.defaultRoute == kDirect ? kDirect : kThrough);
     const bool direct = !regionsGoDirect();

@@ -20,6 +20,13 @@
 
 #include <algorithm>
 
+namespace {
+
+// Where a region stands in the order of names, which the sort role starts from.
+constexpr int NameOrderRole = Qt::UserRole + 3;
+
+} // namespace
+
 TovraRegionPickerDialog::TovraRegionPickerDialog(QWidget *parent)
     : QDialog(parent)
     , m_model(new QStandardItemModel(this))
@@ -123,6 +130,7 @@ void TovraRegionPickerDialog::addRegion(const QString &code)
     // The filter matches lower-case words: the name as shown and the code.
     item->setData(QString(name + u' ' + code).toLower(), LocationSearchTextRole);
     item->setData(name, Qt::AccessibleTextRole);
+    item->setData(m_model->rowCount(), NameOrderRole);
     m_model->appendRow(item);
 }
 
@@ -159,12 +167,17 @@ void TovraRegionPickerDialog::setSelectedRegions(const QStringList &codes)
         if (!present.contains(code))
             addRegion(code.toLower());
     }
+    // The regions in use open at the top, where they can be seen; the name order stays below.
+    constexpr int kUnchecked = 1 << 20;
     for (int row = 0; row < m_model->rowCount(); ++row) {
         QStandardItem *item = m_model->item(row);
-        item->setCheckState(m_initial.contains(item->data(RegionCodeRole).toString())
-                                ? Qt::Checked
-                                : Qt::Unchecked);
+        const bool checked = m_initial.contains(item->data(RegionCodeRole).toString());
+        item->setCheckState(checked ? Qt::Checked : Qt::Unchecked);
+        const int nameOrder = item->data(NameOrderRole).toInt();
+        item->setData(checked ? nameOrder : nameOrder + kUnchecked, RegionOrderRole);
     }
+    m_model->setSortRole(RegionOrderRole);
+    m_model->sort(0);
     m_search->clear();
     m_list->scrollToTop();
     updateCount();

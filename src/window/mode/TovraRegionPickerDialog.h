@@ -21,6 +21,8 @@ class TovraRegionPickerDialog : public QDialog
 
 public:
     static constexpr int RegionCodeRole = Qt::UserRole + 1;
+    // Checked regions first, each group in the order of names.
+    static constexpr int RegionOrderRole = Qt::UserRole + 2;
 
     explicit TovraRegionPickerDialog(QWidget *parent = nullptr);
 

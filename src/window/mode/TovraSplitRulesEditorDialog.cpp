@@ -303,6 +303,8 @@ void TovraSplitRulesEditorDialog::showResult(const QString &text, const QString 
         updateStatus();
     }
     m_pendingImportKind.clear();
+    if (!failed)
+        m_problems->hide();
     setResult(text, failed ? QStringLiteral("error") : kind);
 }
 

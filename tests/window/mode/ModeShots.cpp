@@ -14,12 +14,14 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QEventLoop>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScrollArea>
 #include <QStandardPaths>
 #include <QTemporaryDir>
+#include <QTimer>
 
 using namespace Qt::StringLiterals;
 
@@ -50,6 +52,10 @@ void fill(AppState &state)
 
 void save(QWidget *widget, const QString &path)
 {
+    // Let delayed updates (the editor's line count) land first.
+    QEventLoop loop;
+    QTimer::singleShot(250, &loop, &QEventLoop::quit);
+    loop.exec();
     widget->grab().save(path);
 }
 

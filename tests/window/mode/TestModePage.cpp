@@ -419,6 +419,8 @@ void TestModePage::regionPickerSendsOneChange()
     QVERIFY(picker && picker->isVisible());
     QAbstractItemModelTester tester(picker->filterModel(),
                                     QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QAbstractItemModelTester sourceTester(picker->sourceModel(),
+                                          QAbstractItemModelTester::FailureReportingMode::QtTest);
     QVERIFY(picker->explanation()->text().contains(u"goes direct"_s));
     QCOMPARE(picker->selectedRegions(), QStringList{u"CN"_s});
 

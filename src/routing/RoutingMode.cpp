@@ -39,8 +39,8 @@ ModeInfo splitModeWith(const ModeInfo &current, SplitFamily family,
     mode.valid = true;
     mode.transport = familyTransport(family);
     mode.policy = kSplit;
-    // The region belongs to the legacy policies; a split profile carries its own regions.
-    mode.region.clear();
+    // Everything else (region, system proxy, the other family's profile) stays as it is: one
+    // option changes one field.
     SplitProfileInfo profile = familySplitProfile(current, family);
     change(profile);
     profile.valid = true;

@@ -177,7 +177,7 @@ void SettingsFlow::switchToAutoAndEnableKillSwitch()
 void SettingsFlow::chooseModeForKillSwitch()
 {
     m_pendingKillSwitchEnable = true;
-    m_context.window->showModePage();
+    m_context.window->showModePageForKillSwitch();
     m_context.notifier->info(
         shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Pick a VPN mode to turn on Kill Switch")));
 }
@@ -256,12 +256,15 @@ void SettingsFlow::handleSplitRuleImport(quint64 requestId, const SplitRuleMutat
             errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not import split rules")));
         return;
     }
-    if (info.changed)
-        m_context.notifier->success(QCoreApplication::translate(
-            "TovraAppShell", "Custom split rules updated (%n rule(s))", nullptr, info.count));
-    else
-        m_context.notifier->info(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Custom split rules unchanged")));
+    const QString result =
+        info.changed
+            ? QCoreApplication::translate(
+                  "TovraAppShell", "Custom split rules updated (%n rule(s))", nullptr, info.count)
+            : shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Custom split rules unchanged"));
+    const QString kind = info.changed ? QStringLiteral("success") : QStringLiteral("info");
+    // The rule editor shows it too: it is where the user is looking.
+    m_context.window->showSplitRulesResult(result, kind);
+    m_context.notifier->post(result, kind);
     m_importRefreshPending = true;
     refreshSplitRules();
 }

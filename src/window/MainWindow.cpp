@@ -178,6 +178,8 @@ void MainWindow::connectPages()
             &MainWindow::setLocalNetworkRequested);
     connect(m_modePage, &ModePage::setSystemProxyRequested, this,
             &MainWindow::setSystemProxyRequested);
+    connect(m_modePage, &ModePage::settingsPageRequested, this,
+            [this] { showPage(SettingsPageIndex); });
 
     connect(m_settingsPage, &SettingsPage::openLogsRequested, this, &MainWindow::openLogsRequested);
     connect(m_settingsPage, &SettingsPage::openExternalURLRequested, this,
@@ -416,6 +418,16 @@ void MainWindow::setConnectInProgress(bool inProgress, const QString &targetId,
                                       const QString &label)
 {
     m_vpnPage->setConnectInProgress(inProgress, targetId, label);
+}
+
+void MainWindow::showSplitRulesResult(const QString &text, const QString &kind)
+{
+    m_modePage->showSplitRulesResult(text, kind);
+}
+
+void MainWindow::highlightKillSwitchModes()
+{
+    m_modePage->highlightKillSwitchModes();
 }
 
 void MainWindow::placeNotificationHost()

@@ -59,6 +59,10 @@ public:
     void showModeOperationError(const QString &message);
     void showSettingsOperationError(const QString &message);
     void showNotification(const QString &text, const QString &kind, int durationMs);
+    // The shell's word on a split rules import, for the Mode page's rule editor.
+    void showSplitRulesResult(const QString &text, const QString &kind);
+    // The Mode page marks the modes the kill switch can run in.
+    void highlightKillSwitchModes();
 
     // The account page's sign-in/out and renewal state and its message line.
     void setAccountOperationInProgress(bool inProgress);

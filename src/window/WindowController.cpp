@@ -220,6 +220,12 @@ void WindowController::showModePage()
     showPageOfWindow(MainWindow::ModePageIndex);
 }
 
+void WindowController::showModePageForKillSwitch()
+{
+    showModePage();
+    m_window->highlightKillSwitchModes();
+}
+
 void WindowController::activateFromApplication()
 {
     showOrRaise();
@@ -391,6 +397,13 @@ void WindowController::showNotification(const QString &text, const QString &kind
 {
     if (m_window) {
         m_window->showNotification(text, kind, durationMs);
+    }
+}
+
+void WindowController::showSplitRulesResult(const QString &text, const QString &kind)
+{
+    if (m_window) {
+        m_window->showSplitRulesResult(text, kind);
     }
 }
 

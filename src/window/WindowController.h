@@ -68,6 +68,7 @@ public:
     void showModeOperationError(const QString &message);
     void showSettingsOperationError(const QString &message);
     void showNotification(const QString &text, const QString &kind, int durationMs);
+    void showSplitRulesResult(const QString &text, const QString &kind);
 
     void setAppearancePreference(const QString &preference);
     QString appearancePreference() const;
@@ -84,6 +85,8 @@ public Q_SLOTS:
     void showAccount();
     void showLocations();
     void showModePage();
+    // The Mode page with the modes the kill switch can run in marked.
+    void showModePageForKillSwitch();
     void activateFromApplication();
 
 Q_SIGNALS:

@@ -208,7 +208,6 @@ private Q_SLOTS:
         ModeInfo tunnel = current;
         tunnel.transport = u"tovravpn"_s;
         tunnel.policy = u"split"_s;
-        tunnel.region.clear();
         ModeInfo proxy = tunnel;
         proxy.transport = u"proxy"_s;
         tunnel.splitProfile.gfwlist = true;
@@ -235,7 +234,6 @@ private Q_SLOTS:
         legacy.region = u"cn"_s;
         ModeInfo legacyExpected = legacy;
         legacyExpected.policy = u"split"_s;
-        legacyExpected.region.clear();
         legacyExpected.splitProfile = profile("proxy", {u"cn"_s, u"ru"_s});
         QTest::addRow("tunnel from legacy policy")
             << legacy << splitModeWithDirectRegions(legacy, SplitFamily::Tunnel, {u"cn"_s, u"ru"_s})

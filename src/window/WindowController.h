@@ -51,6 +51,10 @@ public:
     void setSettingsOperationBusy(bool busy);
     void setSplitRulesFetchInProgress(bool inProgress);
     void setSplitRulesImportInProgress(bool inProgress);
+    // A line the Settings page shows beside a section (a failed load, a check's outcome), by
+    // note key (SettingsNotes.h); an empty text removes it.
+    void setSettingsNote(const QString &key, const QString &text);
+    void setRepairResult(const RepairResultInfo &result);
 
     // Shown in the window when one exists; without a window there is nowhere to show them.
     void showOperationError(const QString &message);

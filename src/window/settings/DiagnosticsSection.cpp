@@ -78,9 +78,9 @@ DiagnosticsSection::DiagnosticsSection(QWidget *parent)
         copy->setProperty("tovraLink", true);
         copy->setAccessibleName(tr("Copy %1 path").arg(name));
         connect(copy, &QPushButton::clicked, this, [this, value] { m_copy(value->text()); });
-        grid->addWidget(label, row, 0, Qt::AlignTop);
-        grid->addWidget(value, row, 1);
-        grid->addWidget(copy, row, 2, Qt::AlignTop);
+        grid->addWidget(label, row, 0, Qt::AlignVCenter);
+        grid->addWidget(value, row, 1, Qt::AlignVCenter);
+        grid->addWidget(copy, row, 2, Qt::AlignVCenter);
         m_paths.append(value);
         m_copyButtons.append(copy);
         ++row;

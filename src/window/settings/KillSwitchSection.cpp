@@ -7,6 +7,7 @@
 #include "ToggleSwitch.h"
 
 #include <QButtonGroup>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QRadioButton>
 #include <QVBoxLayout>
@@ -70,10 +71,15 @@ QRadioButton *KillSwitchSection::addModeOption(QWidget *box, const QString &mode
     auto *text = new QLabel(description, box);
     text->setObjectName(QStringLiteral("TovraSettingsHint"));
     text->setWordWrap(true);
-    text->setIndent(26);
     m_modes->addButton(option);
-    box->layout()->addWidget(option);
-    box->layout()->addWidget(text);
+    // The description sits under the option's text, past the indicator, on either side.
+    auto *described = new QHBoxLayout;
+    described->setContentsMargins(0, 0, 0, 0);
+    described->addSpacing(26);
+    described->addWidget(text, 1);
+    auto *layout = static_cast<QVBoxLayout *>(box->layout());
+    layout->addWidget(option);
+    layout->addLayout(described);
     connect(option, &QRadioButton::clicked, this, [this, mode] { modeClicked(mode); });
     return option;
 }

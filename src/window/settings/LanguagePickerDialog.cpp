@@ -102,6 +102,7 @@ LanguagePickerDialog::LanguagePickerDialog(const QList<LanguageEntry> &languages
     // Arrow keys in the search move through the list, so typing and picking need no mouse.
     m_search->installEventFilter(this);
     connect(m_list, &QListView::activated, this, &LanguagePickerDialog::accept);
+    connect(m_search, &QLineEdit::returnPressed, this, &LanguagePickerDialog::accept);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentChanged, this,
             &LanguagePickerDialog::updateButtons);
     connect(m_buttons, &QDialogButtonBox::accepted, this, &LanguagePickerDialog::accept);

@@ -130,9 +130,11 @@ void SettingsPage::showNotes()
 {
     const QString status = m_notes.value(SettingsNotes::Status);
     if (!status.isEmpty()) {
-        m_banner->setText(tr("%1. Settings show what is known and can be changed once the Tovra "
-                             "service answers again.")
-                              .arg(status));
+        QString text = status.trimmed();
+        if (!text.endsWith(QLatin1Char('.')))
+            text += QLatin1Char('.');
+        m_banner->setText(text + QLatin1Char(' ') +
+                          tr("Settings can be changed again once the Tovra service answers."));
     } else if (!m_state || !m_state->runtime().valid) {
         m_banner->setText(tr("Waiting for the Tovra service..."));
     } else {

@@ -293,6 +293,8 @@ void TovraAppShell::setSettingsLanguage(QString source, QString language)
 void TovraAppShell::checkSettingsUpdate()
 {
     m_update->check(true);
+    if (m_update->checkInFlight())
+        m_settings->noteUpdateCheckStarted();
 }
 
 void TovraAppShell::startGUIUpdateDownload()
@@ -408,7 +410,8 @@ void TovraAppShell::pollWindowCatalogRefresh()
 void TovraAppShell::handleWindowStatusFinished(quint64 requestId, RuntimeInfo info,
                                                QString errorMessage)
 {
-    if (!m_connection->handleStatus(requestId, info, errorMessage))
+    if (!m_connection->handleStatus(requestId, info, errorMessage) &&
+        !m_settings->handleStatus(requestId, info, errorMessage))
         m_catalog->handleStatus(requestId, info, errorMessage);
     // Every status answer, the tray's polls included, failed or not: while the daemon is away
     // this keeps the language sync retrying with its back-off.
@@ -482,13 +485,17 @@ void TovraAppShell::handleWindowAutoConnectFinished(quint64 requestId, AutoConne
 void TovraAppShell::handleWindowLanguageFinished(quint64 requestId, LanguageConfigInfo info,
                                                  QString errorMessage)
 {
-    m_language->handleLanguage(requestId, info, errorMessage);
+    if (!m_settings->handleLanguageLoad(requestId, info, errorMessage))
+        m_language->handleLanguage(requestId, info, errorMessage);
 }
 
 void TovraAppShell::handleWindowUpdateFinished(quint64 requestId, UpdateInfo info,
                                                QString errorMessage)
 {
+    const bool latest = m_context.ledger->isLatest(RequestLedger::Kind::UpdateCheck, requestId);
     m_update->handleUpdateFinished(requestId, info, errorMessage);
+    if (latest)
+        m_settings->noteUpdateCheckFinished(info, errorMessage);
 }
 
 void TovraAppShell::handleGUIUpdateDownloadFinished(quint64 requestId, GUIUpdateDownloadInfo info,

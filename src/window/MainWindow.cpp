@@ -123,7 +123,7 @@ QWidget *MainWindow::buildContentColumn(QWidget *root)
     m_locationsPage = new LocationsPage(m_stack);
     m_locationsPage->setPreferences(m_preferences);
     m_modePage = new ModePage(m_stack);
-    m_settingsPage = new SettingsPage(m_stack);
+    m_settingsPage = new SettingsPage(m_preferences, m_stack);
     m_accountPage = new AccountPage(m_stack);
     for (QWidget *page :
          {static_cast<QWidget *>(m_vpnPage), static_cast<QWidget *>(m_locationsPage),
@@ -180,6 +180,10 @@ void MainWindow::connectPages()
             &MainWindow::setSystemProxyRequested);
     connect(m_modePage, &ModePage::settingsPageRequested, this,
             [this] { showPage(SettingsPageIndex); });
+    connect(m_settingsPage, &SettingsPage::setSystemProxyRequested, this,
+            &MainWindow::setSystemProxyRequested);
+    connect(m_settingsPage, &SettingsPage::setLocalNetworkRequested, this,
+            &MainWindow::setLocalNetworkRequested);
 
     connect(m_settingsPage, &SettingsPage::openLogsRequested, this, &MainWindow::openLogsRequested);
     connect(m_settingsPage, &SettingsPage::openExternalURLRequested, this,
@@ -330,11 +334,31 @@ void MainWindow::setDeleteOnClose(bool remove)
 void MainWindow::setModeOperationBusy(bool busy)
 {
     m_modeBusy->setBusy(busy);
+    if (!busy) {
+        // Settings shows the system proxy and local network too; drop a choice left unconfirmed.
+        m_settingsPage->settle();
+        refreshPages({m_settingsPage});
+    }
 }
 
 void MainWindow::setSettingsOperationBusy(bool busy)
 {
     m_settingsBusy->setBusy(busy);
+    if (!busy) {
+        // A finished change leaves every control on the daemon's value, confirmed or not.
+        m_settingsPage->settle();
+        refreshPages({m_settingsPage});
+    }
+}
+
+void MainWindow::setSettingsNote(const QString &key, const QString &text)
+{
+    m_settingsPage->setNote(key, text);
+}
+
+void MainWindow::setRepairResult(const RepairResultInfo &result)
+{
+    m_settingsPage->setRepairResult(result);
 }
 
 void MainWindow::setSplitRulesFetchInProgress(bool inProgress)
@@ -369,6 +393,9 @@ void MainWindow::showOperationError(const QString &message)
 void MainWindow::showSettingsOperationError(const QString &message)
 {
     showError(message, tr("Settings operation failed"));
+    // The failed choice snaps back to what the daemon holds.
+    m_settingsPage->settle();
+    refreshPages({m_settingsPage});
 }
 
 void MainWindow::showModeOperationError(const QString &message)
@@ -380,6 +407,8 @@ void MainWindow::showModeOperationError(const QString &message)
     if (!m_modePage->offerInlineError(text)) {
         showNotification(text, kErrorKind, ErrorDurationMs);
     }
+    m_settingsPage->settle();
+    refreshPages({m_settingsPage});
 }
 
 void MainWindow::showNotification(const QString &text, const QString &kind, int durationMs)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ModeInfo.h"
+#include "RepairResultInfo.h"
 #include "ThemeColors.h"
 
 #include <QMainWindow>
@@ -54,6 +55,8 @@ public:
     void setSettingsOperationBusy(bool busy);
     void setSplitRulesFetchInProgress(bool inProgress);
     void setSplitRulesImportInProgress(bool inProgress);
+    void setSettingsNote(const QString &key, const QString &text);
+    void setRepairResult(const RepairResultInfo &result);
 
     void showOperationError(const QString &message);
     void showModeOperationError(const QString &message);

@@ -96,6 +96,11 @@ void WindowController::replayTo(MainWindow *window) const
     window->setDaemonUnavailableReason(m_replay.daemonUnavailableReason);
     window->setConnectInProgress(m_replay.connecting, m_replay.connectTargetId,
                                  m_replay.connectTargetLabel);
+    for (auto note = m_replay.settingsNotes.cbegin(); note != m_replay.settingsNotes.cend();
+         ++note) {
+        window->setSettingsNote(note.key(), note.value());
+    }
+    window->setRepairResult(m_replay.repairResult);
 }
 
 void WindowController::forwardIntents(MainWindow *window)
@@ -290,6 +295,26 @@ void WindowController::setSettingsOperationBusy(bool busy)
     m_replay.settingsBusy = busy;
     if (m_window) {
         m_window->setSettingsOperationBusy(busy);
+    }
+}
+
+void WindowController::setSettingsNote(const QString &key, const QString &text)
+{
+    if (text.isEmpty()) {
+        m_replay.settingsNotes.remove(key);
+    } else {
+        m_replay.settingsNotes.insert(key, text);
+    }
+    if (m_window) {
+        m_window->setSettingsNote(key, text);
+    }
+}
+
+void WindowController::setRepairResult(const RepairResultInfo &result)
+{
+    m_replay.repairResult = result;
+    if (m_window) {
+        m_window->setRepairResult(result);
     }
 }
 

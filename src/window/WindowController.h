@@ -62,6 +62,10 @@ public:
                               const QString &label = QString());
     // The label a page gave the target it is about to connect to, or empty for another one.
     QString announcedTargetLabel(const QString &targetId) const;
+    // A line the Settings page shows beside a section (a failed load, a check's outcome), by
+    // note key (SettingsNotes.h); an empty text removes it.
+    void setSettingsNote(const QString &key, const QString &text);
+    void setRepairResult(const RepairResultInfo &result);
 
     // Shown in the window when one exists; without a window there is nowhere to show them.
     void showOperationError(const QString &message);

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "RepairResultInfo.h"
+
+#include <QMap>
 #include <QString>
 
 // What the shell passed down that a window created later must start with. The controller keeps
@@ -18,4 +21,7 @@ struct WindowReplayState
     bool connecting = false;
     QString connectTargetId;
     QString connectTargetLabel;
+    // Lines the Settings page shows beside its sections, by note key (SettingsNotes.h).
+    QMap<QString, QString> settingsNotes;
+    RepairResultInfo repairResult;
 };

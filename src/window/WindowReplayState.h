@@ -8,4 +8,6 @@ struct WindowReplayState
     bool settingsBusy = false;
     bool splitRulesFetch = false;
     bool splitRulesImport = false;
+    // The update dialog was on screen when the window hid; it comes back with the window.
+    bool updateDialogShown = false;
 };

@@ -49,7 +49,6 @@ UpdateDialog::UpdateDialog(QWidget *parent)
 {
     setObjectName(QStringLiteral("TovraUpdateDialog"));
     setWindowTitle(tr("Tovra Update"));
-    setMinimumWidth(520);
     build();
     TovraDialogTitleBarThemer::attach(this);
     setPhase(Phase::Offer);
@@ -71,7 +70,9 @@ void UpdateDialog::build()
     m_notes->setAccessibleName(tr("What's New"));
     m_notes->setFocusPolicy(Qt::StrongFocus);
     m_notes->setTabChangesFocus(true);
-    m_notes->setMaximumHeight(180); // a long change log scrolls rather than growing the dialog
+    // Sets the dialog's width; the layout widens it further when the buttons need more.
+    m_notes->setMinimumWidth(460);
+    m_notes->setMaximumHeight(150); // a long change log scrolls rather than growing the dialog
     m_notesTitle->setBuddy(m_notes);
 
     m_status = makeLabel("TovraUpdateStatus", this);
@@ -133,6 +134,18 @@ void UpdateDialog::build()
         Q_EMIT hideUpdateRequested();
         hide();
     });
+}
+
+void UpdateDialog::showEvent(QShowEvent *event)
+{
+    QDialog::showEvent(event);
+    // Keyboard users land on the step forward, not in the release notes.
+    for (QPushButton *button : {m_primary, m_background, m_notNow, m_exit}) {
+        if (button && button->isVisible() && button->isEnabled()) {
+            button->setFocus(Qt::ActiveWindowFocusReason);
+            break;
+        }
+    }
 }
 
 void UpdateDialog::setButton(QPushButton *button, const QString &text, const QString &toolTip)
@@ -329,11 +342,11 @@ void UpdateDialog::applyButtons()
         setButton(m_download, tr("Download Update"), tr("Download and install the Tovra update"));
 
     // Enter presses the step forward that is on offer.
-    QPushButton *primary = nullptr;
+    m_primary = nullptr;
     for (QPushButton *button : {m_download, m_openLink, m_cancel}) {
-        if (!primary && button->isVisibleTo(this) && button->isEnabled())
-            primary = button;
+        if (!m_primary && button->isVisibleTo(this) && button->isEnabled())
+            m_primary = button;
     }
     for (QPushButton *button : {m_download, m_openLink, m_cancel})
-        button->setDefault(button == primary);
+        button->setDefault(button == m_primary);
 }

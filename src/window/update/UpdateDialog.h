@@ -59,6 +59,9 @@ Q_SIGNALS:
     void openDownloadLinkRequested();
     void exitRequested();
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     void build();
     void setPhase(Phase phase);
@@ -87,4 +90,5 @@ private:
     QPushButton *m_openLink = nullptr;
     QPushButton *m_cancel = nullptr;
     QPushButton *m_download = nullptr;
+    QPushButton *m_primary = nullptr; // the default button of the phase, if any
 };

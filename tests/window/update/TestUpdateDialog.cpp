@@ -250,7 +250,9 @@ void TestUpdateDialog::screenshots()
                         &dialog,
                         ThemeEngine::buildColors(dark ? Appearance::Dark : Appearance::Light));
                     dialog.show();
+                    QCoreApplication::processEvents();
                     dialog.adjustSize();
+                    QCoreApplication::processEvents();
                     QString name = QStringLiteral("%1-%2%3%4.png")
                                        .arg(QLatin1String(dark ? "dark" : "light"), step,
                                             QLatin1String(forced ? "-forced" : ""),

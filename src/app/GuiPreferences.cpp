@@ -21,6 +21,7 @@ const QString kLastSuccessfulCheckAt = QStringLiteral("update/lastSuccessfulChec
 const QString kLastNotifiedAt = QStringLiteral("update/lastNotifiedAt");
 const QString kLastNotifiedVersionNum = QStringLiteral("update/lastNotifiedVersionNum");
 const QString kForceUpgrade = QStringLiteral("update/forceUpgrade");
+const QString kMutedVersionNum = QStringLiteral("update/mutedVersionNum");
 
 QString canonicalAppearance(const QString &text)
 {
@@ -162,6 +163,7 @@ GuiUpdateBookkeeping GuiPreferences::updateBookkeeping(const QString &runningVer
     state.lastNotifiedAt = readInt64(kLastNotifiedAt);
     state.lastNotifiedVersionNum = readInt64(kLastNotifiedVersionNum);
     state.forceUpgrade = readBool(kForceUpgrade, false);
+    state.mutedVersionNum = readInt64(kMutedVersionNum);
     return state;
 }
 
@@ -174,6 +176,7 @@ void GuiPreferences::setUpdateBookkeeping(const QString &runningVersion,
     m_settings->setValue(kLastNotifiedAt, state.lastNotifiedAt);
     m_settings->setValue(kLastNotifiedVersionNum, state.lastNotifiedVersionNum);
     m_settings->setValue(kForceUpgrade, state.forceUpgrade);
+    m_settings->setValue(kMutedVersionNum, state.mutedVersionNum);
     persist();
 }
 

@@ -59,12 +59,6 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     // Failed connect answers count as well as successful ones.
     connect(m_context.workers->control(), &ControlWorker::connectFinished, this,
             [this] { m_language->checkSystemLanguage(); });
-    connect(m_update, &UpdateFlow::updateDialogRequested, this, [this](bool forced) {
-        if (forced)
-            m_context.notifier->warning(shellText(
-                QT_TRANSLATE_NOOP("TovraAppShell", "Tovra must be updated before you can connect. "
-                                                   "Download the installer or exit Tovra.")));
-    });
 }
 
 TovraAppShell::~TovraAppShell()
@@ -123,7 +117,7 @@ void TovraAppShell::start()
     m_context.tray->start();
     if (!trayAvailable || showOnLaunch)
         m_context.window->showOrRaise();
-    m_update->schedule(m_update->forceUpgradePending() ? 0 : kFirstUpdateCheckDelayMs);
+    m_update->scheduleAtStart(kFirstUpdateCheckDelayMs);
 }
 
 void TovraAppShell::setCompatibility(CompatibilityState state, const QString &text)

@@ -6,6 +6,7 @@
 #include "GuiPreferences.h"
 #include "MainWindow.h"
 #include "ThemeEngine.h"
+#include "UpdateDialog.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -51,6 +52,7 @@ WindowController::~WindowController()
     delete m_window.data();
     // The flags were drawn for the window; the tray shows none.
     clearFlagCache();
+    delete m_ownUpdateDialog.data();
 }
 
 MainWindow *WindowController::window() const
@@ -202,6 +204,10 @@ void WindowController::finishShow()
     }
     window->raise();
     window->activateWindow();
+    if (m_replay.updateDialogShown) {
+        m_replay.updateDialogShown = false;
+        showUpdateDialog();
+    }
 }
 
 void WindowController::showPageOfWindow(int index)
@@ -272,6 +278,10 @@ void WindowController::setUrlOpener(UrlOpener opener)
 
 void WindowController::handleHiddenToTray()
 {
+    if (m_ownUpdateDialog && m_ownUpdateDialog->isVisible()) {
+        m_ownUpdateDialog->hide();
+        m_replay.updateDialogShown = true;
+    }
     if (!m_releaseOnHide) {
         return;
     }
@@ -467,6 +477,41 @@ void WindowController::setUpdateDialog(QWidget *dialog)
 {
     m_updateDialog = dialog;
     applyUpdateDialogTheme();
+}
+
+UpdateDialog *WindowController::updateDialog()
+{
+    if (m_ownUpdateDialog) {
+        return m_ownUpdateDialog;
+    }
+    // No parent: a window that is released on hide must not take the dialog with it.
+    auto *dialog = new UpdateDialog;
+    m_ownUpdateDialog = dialog;
+    connect(dialog, &UpdateDialog::downloadRequested, this,
+            &WindowController::updateDownloadRequested);
+    connect(dialog, &UpdateDialog::cancelDownloadRequested, this,
+            &WindowController::updateDownloadCancelRequested);
+    connect(dialog, &UpdateDialog::exitRequested, this,
+            &WindowController::forceUpdateExitRequested);
+    setUpdateDialog(dialog);
+    return dialog;
+}
+
+void WindowController::showUpdateDialog()
+{
+    UpdateDialog *dialog = updateDialog();
+    m_replay.updateDialogShown = false;
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+void WindowController::hideUpdateDialog()
+{
+    m_replay.updateDialogShown = false;
+    if (m_ownUpdateDialog) {
+        m_ownUpdateDialog->hide();
+    }
 }
 
 void WindowController::applyUpdateDialogTheme()

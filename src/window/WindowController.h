@@ -15,6 +15,7 @@ class DesktopColorScheme;
 class GuiPreferences;
 class MainWindow;
 class QWidget;
+class UpdateDialog;
 
 // Creates the main window when it is first needed, may let it go when it hides to the tray,
 // and keeps every value the shell passed down so that a new window starts where the old one
@@ -83,6 +84,12 @@ public:
 
     // Themes the update dialog like the window, now and on every change of appearance.
     void setUpdateDialog(QWidget *dialog);
+    // The update dialog, made on first use. It outlives every window, so a download's progress
+    // survives the window closing; it hides with the window and comes back with it.
+    UpdateDialog *updateDialog();
+    void showUpdateDialog();
+    // Hides it for good: it does not come back with the window.
+    void hideUpdateDialog();
 
 public Q_SLOTS:
     void showOrRaise();
@@ -151,6 +158,7 @@ private:
     DesktopColorScheme *m_desktopScheme;
     QPointer<MainWindow> m_window;
     QPointer<QWidget> m_updateDialog;
+    QPointer<UpdateDialog> m_ownUpdateDialog;
     UrlOpener m_urlOpener;
     int m_windowsCreated = 0;
 

@@ -24,4 +24,6 @@ struct WindowReplayState
     // Lines the Settings page shows beside its sections, by note key (SettingsNotes.h).
     QMap<QString, QString> settingsNotes;
     RepairResultInfo repairResult;
+    // The update dialog was on screen when the window hid; it comes back with the window.
+    bool updateDialogShown = false;
 };

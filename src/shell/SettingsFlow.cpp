@@ -279,7 +279,8 @@ void SettingsFlow::handleSplitRuleImport(quint64 requestId, const SplitRuleMutat
             ? QCoreApplication::translate(
                   "TovraAppShell", "Custom split rules updated (%n rule(s))", nullptr, info.count)
             : shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Custom split rules unchanged"));
-    const QString kind = info.changed ? QStringLiteral("success") : QStringLiteral("info");
+    // Both outcomes are successes: the daemon took the rules, whether or not they differed.
+    const QString kind = QStringLiteral("success");
     // The rule editor shows it too: it is where the user is looking.
     m_context.window->showSplitRulesResult(result, kind);
     m_context.notifier->post(result, kind);
@@ -364,8 +365,8 @@ void SettingsFlow::handleAPIURL(quint64 requestId, const APIURLConfigInfo &info,
     else if (info.validated)
         m_context.notifier->success(
             shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL validated and saved")));
-    else
-        m_context.notifier->warning(
+    else // saved all the same: the daemon validates it when it next reaches the service
+        m_context.notifier->success(
             shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL saved but not validated")));
 }
 

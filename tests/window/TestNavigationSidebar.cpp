@@ -96,6 +96,16 @@ void TestNavigationSidebar::iconsFollowTheme()
     QCOMPARE(tintOf(icon, QIcon::Active, QIcon::Off), colors.color(ThemeColor::TextPrimary));
     QCOMPARE(tintOf(icon, QIcon::Normal, QIcon::On), colors.color(ThemeColor::SidebarSelectedText));
     QCOMPARE(tintOf(icon, QIcon::Disabled, QIcon::On), colors.color(ThemeColor::DisabledText));
+
+    // Under the mouse the entry shows the primary tint in the mode the style really draws.
+    QToolButton *entry = sidebar.button(2);
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(entry, &enter);
+    QCOMPARE(tintOf(entry->icon(), QIcon::Normal, QIcon::Off),
+             colors.color(ThemeColor::TextPrimary));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(entry, &leave);
+    QCOMPARE(tintOf(entry->icon(), QIcon::Normal, QIcon::Off), colors.color(ThemeColor::TextMuted));
 }
 
 QTEST_MAIN(TestNavigationSidebar)

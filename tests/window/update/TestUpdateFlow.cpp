@@ -253,12 +253,15 @@ void TestUpdateFlow::daemonGoneMidDownloadStopsPollingThenRecovers()
     QVERIFY(startShell());
     m_shell->checkSettingsUpdate();
     QTRY_VERIFY(dialog()->isVisible());
-    button("TovraUpdateDownload")->click();
+    button("TovraUpdateBackground")->click();
+    QVERIFY(!dialog()->isVisible());
     QTRY_COMPARE(dialog()->phase(), UpdateDialog::Phase::Downloading);
     QVERIFY(m_daemon->stop());
 
-    // A few unanswered polls, then one clear message, and the polling ends.
+    // A few unanswered polls, then one clear message, and the polling ends. The download was
+    // left in the background, so the dialog comes back with the way forward.
     QTRY_COMPARE_WITH_TIMEOUT(dialog()->phase(), UpdateDialog::Phase::Failed, kDownloadWaitMs);
+    QVERIFY(dialog()->isVisible());
     QCOMPARE(dialog()->messageText(), QStringLiteral("Could not read the update download status."));
     QVERIFY(!m_shell->updateFlow()->downloadFlow()->pollActive());
     QVERIFY(!m_shell->updateFlow()->downloadInProgress());

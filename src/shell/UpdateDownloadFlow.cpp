@@ -283,8 +283,8 @@ void UpdateDownloadFlow::fail(const QString &message, UpdateDialog::Remedy remed
     m_pollTimer.stop();
     m_cancelRetryTimer.stop();
     dialog()->showFailure(message, remedy, detail);
-    if (!dialog()->isVisible())
-        m_context.notifier->error(message);
+    // A download left to run in the background comes back with the way forward.
+    m_context.window->showUpdateDialog();
 }
 
 void UpdateDownloadFlow::tell(const QString &text, const QString &kind)

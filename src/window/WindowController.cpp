@@ -501,6 +501,11 @@ void WindowController::showUpdateDialog()
 {
     UpdateDialog *dialog = updateDialog();
     m_replay.updateDialogShown = false;
+    if (!dialog->isVisible() && m_window && m_window->isVisible()) {
+        // It has no parent to be placed by: open it over the window.
+        dialog->adjustSize();
+        dialog->move(m_window->frameGeometry().center() - dialog->rect().center());
+    }
     dialog->show();
     dialog->raise();
     dialog->activateWindow();

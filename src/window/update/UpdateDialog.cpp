@@ -112,6 +112,7 @@ void UpdateDialog::build()
     layout->addSpacing(4);
     layout->addWidget(m_notesTitle);
     layout->addWidget(m_notes, 1);
+    layout->addSpacing(4);
     layout->addWidget(m_status);
     layout->addWidget(m_progress);
     layout->addWidget(m_message);
@@ -139,10 +140,15 @@ void UpdateDialog::build()
 void UpdateDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
+    focusStepForward();
+}
+
+void UpdateDialog::focusStepForward()
+{
     // Keyboard users land on the step forward, not in the release notes.
     for (QPushButton *button : {m_primary, m_background, m_notNow, m_exit}) {
-        if (button && button->isVisible() && button->isEnabled()) {
-            button->setFocus(Qt::ActiveWindowFocusReason);
+        if (button && button->isVisibleTo(this) && button->isEnabled()) {
+            button->setFocus(Qt::OtherFocusReason);
             break;
         }
     }
@@ -280,6 +286,9 @@ void UpdateDialog::setPhase(Phase phase)
         break;
     }
     applyButtons();
+    // The button that had focus may be gone in the new phase.
+    if (isVisible())
+        focusStepForward();
 }
 
 void UpdateDialog::setStatus(const QString &text, int progressPermille, bool progressVisible)

@@ -68,6 +68,7 @@ private:
     void setStatus(const QString &text, int progressPermille, bool progressVisible);
     void setMessage(const QString &text, const QString &role, const QString &detail = QString());
     void applyButtons();
+    void focusStepForward();
     static void setButton(QPushButton *button, const QString &text, const QString &toolTip);
 
     Phase m_phase = Phase::Offer;

@@ -14,6 +14,7 @@
 
 #include <QCryptographicHash>
 #include <QFile>
+#include <QFileInfo>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -39,9 +40,11 @@ private Q_SLOTS:
     void init();
     void offerDownloadsAndOpensTheVerifiedInstaller();
     void cancelMidDownload();
+    void cancelArrivingAfterCompletionOpensNothing();
     void staleOfferFailsThenRetryChecksAgain();
     void missingDownloadEndpointOffersTheLink();
     void dialogComesBackWithTheWindow();
+    void daemonGoneMidDownloadStopsPollingThenRecovers();
     void automaticOfferShownOncePerDayUntilHidden();
     void requiredUpdateBlocksConnect();
 
@@ -158,6 +161,34 @@ void TestUpdateFlow::cancelMidDownload()
     QCOMPARE(button("TovraUpdateDownload")->text(), QStringLiteral("Retry Download"));
 }
 
+void TestUpdateFlow::cancelArrivingAfterCompletionOpensNothing()
+{
+    // Every answer waits 1.5 s: the first poll sees bytes moving, and by the time the daemon
+    // reads the cancel sent right then, the download has completed.
+    QVERIFY(startShell({QStringLiteral("--latency"), QStringLiteral("1500")}));
+    m_shell->checkSettingsUpdate();
+    QTRY_VERIFY_WITH_TIMEOUT(dialog()->isVisible(), 10000);
+    bool canceled = false;
+    connect(m_shell->updateFlow(), &UpdateFlow::downloadChanged, this,
+            [&](const GUIUpdateDownloadInfo &info) {
+                if (!canceled && info.state == QLatin1String("downloading")) {
+                    canceled = true;
+                    button("TovraUpdateCancel")->click();
+                }
+            });
+    button("TovraUpdateDownload")->click();
+    QTRY_VERIFY_WITH_TIMEOUT(canceled, kDownloadWaitMs);
+    QTRY_COMPARE_WITH_TIMEOUT(m_shell->updateFlow()->download().state, QStringLiteral("ready"),
+                              kDownloadWaitMs);
+    QCOMPARE(dialog()->messageText(), QStringLiteral("The download completed before it could be "
+                                                     "canceled. The installer was not opened."));
+    QVERIFY(m_opened.isEmpty());
+    QCOMPARE(dialog()->phase(), UpdateDialog::Phase::Offer);
+    // The finished file is still good: asking for it opens it without another download.
+    button("TovraUpdateDownload")->click();
+    QCOMPARE(m_opened.size(), 1);
+}
+
 void TestUpdateFlow::staleOfferFailsThenRetryChecksAgain()
 {
     QVERIFY(startShell());
@@ -204,6 +235,42 @@ void TestUpdateFlow::missingDownloadEndpointOffersTheLink()
     QCOMPARE(dialog()->messageText(), QStringLiteral("The download link opened in your browser. "
                                                      "Tovra will not run the installer "
                                                      "automatically."));
+
+    // An offer without any usable link says so instead of opening nothing.
+    UpdateInfo bare = m_shell->state()->update();
+    bare.universalDownloadLink = bare.amd64DownloadLink = bare.arm64DownloadLink =
+        QStringLiteral("ftp://elsewhere");
+    bare.artifactURL.clear();
+    m_shell->state()->setUpdate(bare);
+    const qsizetype opened = m_opened.size();
+    button("TovraUpdateOpenLink")->click();
+    QCOMPARE(m_opened.size(), opened);
+    QCOMPARE(dialog()->messageText(), QStringLiteral("The download link is unavailable."));
+}
+
+void TestUpdateFlow::daemonGoneMidDownloadStopsPollingThenRecovers()
+{
+    QVERIFY(startShell());
+    m_shell->checkSettingsUpdate();
+    QTRY_VERIFY(dialog()->isVisible());
+    button("TovraUpdateBackground")->click();
+    QVERIFY(!dialog()->isVisible());
+    QTRY_COMPARE(dialog()->phase(), UpdateDialog::Phase::Downloading);
+    QVERIFY(m_daemon->stop());
+
+    // A few unanswered polls, then one clear message, and the polling ends. The download was
+    // left in the background, so the dialog comes back with the way forward.
+    QTRY_COMPARE_WITH_TIMEOUT(dialog()->phase(), UpdateDialog::Phase::Failed, kDownloadWaitMs);
+    QVERIFY(dialog()->isVisible());
+    QCOMPARE(dialog()->messageText(), QStringLiteral("Could not read the update download status."));
+    QVERIFY(!m_shell->updateFlow()->downloadFlow()->pollActive());
+    QVERIFY(!m_shell->updateFlow()->downloadInProgress());
+
+    // The daemon is back with no download of ours: Retry starts afresh and finishes.
+    QVERIFY2(m_daemon->start(), qPrintable(m_daemon->errorString()));
+    QTRY_VERIFY(QFileInfo::exists(m_daemon->socketPath()));
+    button("TovraUpdateDownload")->click();
+    QTRY_COMPARE_WITH_TIMEOUT(m_opened.size(), 1, kDownloadWaitMs);
 }
 
 void TestUpdateFlow::dialogComesBackWithTheWindow()

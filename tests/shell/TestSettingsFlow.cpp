@@ -103,6 +103,7 @@ void TestSettingsFlow::daemonDownLeavesNotesNotPopUps()
     openSettings(shell);
     const auto &notes = shell.windowController()->replayState().settingsNotes;
     QTRY_VERIFY(notes.contains(SettingsNotes::APIURL));
+    QTRY_VERIFY(shell.state()->configPaths().valid);
     QVERIFY(!notes.contains(SettingsNotes::Status));
     QVERIFY2(notificationText(shell).isEmpty(), qPrintable(notificationText(shell)));
 
@@ -115,6 +116,11 @@ void TestSettingsFlow::daemonDownLeavesNotesNotPopUps()
     QVERIFY(notificationText(shell).isEmpty());
     for (const QString &text : notes)
         QVERIFY2(!text.contains(QStringLiteral("update")), qPrintable(text));
+
+    // The open page notices the service coming back and loads again by itself.
+    QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+    QTRY_VERIFY_WITH_TIMEOUT(!notes.contains(SettingsNotes::Status), 10000);
+    QTRY_VERIFY(!notes.contains(SettingsNotes::ConfigPaths));
 }
 
 void TestSettingsFlow::changeReachesDaemon_data()

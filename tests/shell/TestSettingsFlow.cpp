@@ -21,6 +21,7 @@ private Q_SLOTS:
     void daemonDownLeavesNotesNotPopUps();
     void changeReachesDaemon_data();
     void changeReachesDaemon();
+    void tooOldDaemonSaysSoAtTheModes();
 
 private:
     TempXdgDirs m_dirs;
@@ -186,6 +187,22 @@ void TestSettingsFlow::changeReachesDaemon()
         QTRY_VERIFY(notificationText(shell).contains(error));
         QCOMPARE(readBack(shell, check), expected);
     }
+}
+
+void TestSettingsFlow::tooOldDaemonSaysSoAtTheModes()
+{
+    DemoDaemon daemon;
+    QVERIFY2(daemon.start({QStringLiteral("--no-kill-switch-mode")}),
+             qPrintable(daemon.errorString()));
+    TovraAppShell shell(nullptr, daemon.socketPath());
+    shell.setSystemTrayAvailable(false);
+    openSettings(shell);
+    QTRY_VERIFY(shell.state()->killSwitch().valid);
+    Q_EMIT shell.windowController()->window()->setKillSwitchModeRequested(QStringLiteral("always"));
+    const auto &notes = shell.windowController()->replayState().settingsNotes;
+    QTRY_COMPARE(notes.value(SettingsNotes::KillSwitchMode),
+                 QStringLiteral("Tovra daemon is too old for Kill Switch modes. Update Tovra."));
+    QCOMPARE(shell.state()->killSwitch().mode, QStringLiteral("auto"));
 }
 
 QTEST_MAIN(TestSettingsFlow)

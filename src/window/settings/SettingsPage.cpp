@@ -118,11 +118,11 @@ bool SettingsPage::available() const
 
 void SettingsPage::redraw()
 {
-    static const AppState empty;
-    const AppState &state = m_state ? *m_state : empty;
-    const bool up = available();
-    for (SettingsCard *card : std::as_const(m_cards))
-        card->refresh(state, up);
+    if (m_state) {
+        const bool up = available();
+        for (SettingsCard *card : std::as_const(m_cards))
+            card->refresh(*m_state, up);
+    }
     showNotes();
 }
 

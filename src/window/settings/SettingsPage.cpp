@@ -39,6 +39,7 @@ SettingsPage::SettingsPage(GuiPreferences *preferences, QWidget *parent)
     addContent(m_busyLabel);
 
     m_scroll->setObjectName(QStringLiteral("TovraSettingsScrollArea"));
+    m_scroll->setAccessibleName(tr("Settings"));
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);

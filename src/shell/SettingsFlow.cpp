@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "ControlWorker.h"
+#include "MainWindow.h"
 #include "RequestLedger.h"
 #include "SettingsNotes.h"
 #include "ShellNotifier.h"
@@ -19,13 +20,22 @@ constexpr int kModeTimeoutMs = 20000;
 constexpr int kSettingsTimeoutMs = 10000;
 constexpr int kRepairTimeoutMs = 30000;
 constexpr int kStatusTimeoutMs = 1500;
+constexpr int kStatusRetryMs = 5000;
 
 } // namespace
 
 SettingsFlow::SettingsFlow(const ShellContext &context, QObject *parent)
     : QObject(parent)
     , m_context(context)
-{}
+{
+    m_statusRetry.setSingleShot(true);
+    m_statusRetry.setInterval(kStatusRetryMs);
+    connect(&m_statusRetry, &QTimer::timeout, this, [this] {
+        const MainWindow *window = m_context.window->window();
+        if (window && window->isVisible() && window->currentPage() == MainWindow::SettingsPageIndex)
+            load(Kind::SettingsStatus, "fetchStatus");
+    });
+}
 
 bool SettingsFlow::busy() const
 {
@@ -411,6 +421,7 @@ void SettingsFlow::handleProxyListen(quint64 requestId, const ProxyListenResultI
         return;
     settingsBusyChanged();
     if (!errorMessage.isEmpty()) {
+        m_context.window->setSettingsNote(SettingsNotes::ProxyListen, QString());
         m_context.window->showSettingsOperationError(
             failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell",
                                                         "Could not update proxy listen address")));
@@ -550,8 +561,17 @@ bool SettingsFlow::handleStatus(quint64 requestId, const RuntimeInfo &info,
         return false;
     noteLoad(SettingsNotes::Status, errorMessage,
              QT_TRANSLATE_NOOP("TovraAppShell", "Could not reach the Tovra service"));
-    if (errorMessage.isEmpty())
-        m_context.state->setRuntime(info);
+    if (!errorMessage.isEmpty()) {
+        m_statusFailed = true;
+        m_statusRetry.start();
+        return true;
+    }
+    m_context.state->setRuntime(info);
+    if (m_statusFailed) {
+        // Back again: what failed with it is loaded anew.
+        m_statusFailed = false;
+        refreshSettingsPage();
+    }
     return true;
 }
 

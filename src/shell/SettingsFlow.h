@@ -19,6 +19,7 @@
 
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 
 // Everything the mode and settings pages ask of the daemon: routing mode, local network, system
 // proxy, the kill switch with its rules, API URL, auto connect, proxy listeners, split DNS and
@@ -102,4 +103,8 @@ private:
     bool m_openLogsPending = false;
     bool m_apiURLReset = false;
     bool m_killSwitchModeChange = false;
+    // While the page is open and the service away, the status is asked for again now and then,
+    // so the page comes back by itself.
+    QTimer m_statusRetry;
+    bool m_statusFailed = false;
 };

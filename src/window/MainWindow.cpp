@@ -335,9 +335,8 @@ void MainWindow::setModeOperationBusy(bool busy)
 {
     m_modeBusy->setBusy(busy);
     if (!busy) {
-        // Settings shows the system proxy and local network too; drop a choice left unconfirmed.
-        m_settingsPage->settle();
-        refreshPages({m_settingsPage});
+        // Settings shows the system proxy and local network too.
+        settleSettingsPage();
     }
 }
 
@@ -345,10 +344,15 @@ void MainWindow::setSettingsOperationBusy(bool busy)
 {
     m_settingsBusy->setBusy(busy);
     if (!busy) {
-        // A finished change leaves every control on the daemon's value, confirmed or not.
-        m_settingsPage->settle();
-        refreshPages({m_settingsPage});
+        settleSettingsPage();
     }
+}
+
+void MainWindow::settleSettingsPage()
+{
+    // An answered or failed change leaves every Settings control on the daemon's value.
+    m_settingsPage->settle();
+    refreshPages({m_settingsPage});
 }
 
 void MainWindow::setSettingsNote(const QString &key, const QString &text)
@@ -393,9 +397,7 @@ void MainWindow::showOperationError(const QString &message)
 void MainWindow::showSettingsOperationError(const QString &message)
 {
     showError(message, tr("Settings operation failed"));
-    // The failed choice snaps back to what the daemon holds.
-    m_settingsPage->settle();
-    refreshPages({m_settingsPage});
+    settleSettingsPage();
 }
 
 void MainWindow::showModeOperationError(const QString &message)
@@ -407,8 +409,7 @@ void MainWindow::showModeOperationError(const QString &message)
     if (!m_modePage->offerInlineError(text)) {
         showNotification(text, kErrorKind, ErrorDurationMs);
     }
-    m_settingsPage->settle();
-    refreshPages({m_settingsPage});
+    settleSettingsPage();
 }
 
 void MainWindow::showNotification(const QString &text, const QString &kind, int durationMs)

@@ -144,6 +144,7 @@ private:
     void connectPages();
     void connectState();
     void refreshPages(std::initializer_list<WindowPage *> pages);
+    void settleSettingsPage();
     void applyTheme();
     void applyTitleBarHooks();
     bool inUnifiedTitleBar(const QMouseEvent *event) const;

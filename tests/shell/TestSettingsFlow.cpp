@@ -21,6 +21,7 @@ private Q_SLOTS:
     void daemonDownLeavesNotesNotPopUps();
     void changeReachesDaemon_data();
     void changeReachesDaemon();
+    void tooOldDaemonSaysSoAtTheModes();
 
 private:
     TempXdgDirs m_dirs;
@@ -103,6 +104,7 @@ void TestSettingsFlow::daemonDownLeavesNotesNotPopUps()
     openSettings(shell);
     const auto &notes = shell.windowController()->replayState().settingsNotes;
     QTRY_VERIFY(notes.contains(SettingsNotes::APIURL));
+    QTRY_VERIFY(shell.state()->configPaths().valid);
     QVERIFY(!notes.contains(SettingsNotes::Status));
     QVERIFY2(notificationText(shell).isEmpty(), qPrintable(notificationText(shell)));
 
@@ -115,6 +117,11 @@ void TestSettingsFlow::daemonDownLeavesNotesNotPopUps()
     QVERIFY(notificationText(shell).isEmpty());
     for (const QString &text : notes)
         QVERIFY2(!text.contains(QStringLiteral("update")), qPrintable(text));
+
+    // The open page notices the service coming back and loads again by itself.
+    QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+    QTRY_VERIFY_WITH_TIMEOUT(!notes.contains(SettingsNotes::Status), 10000);
+    QTRY_VERIFY(!notes.contains(SettingsNotes::ConfigPaths));
 }
 
 void TestSettingsFlow::changeReachesDaemon_data()
@@ -180,6 +187,22 @@ void TestSettingsFlow::changeReachesDaemon()
         QTRY_VERIFY(notificationText(shell).contains(error));
         QCOMPARE(readBack(shell, check), expected);
     }
+}
+
+void TestSettingsFlow::tooOldDaemonSaysSoAtTheModes()
+{
+    DemoDaemon daemon;
+    QVERIFY2(daemon.start({QStringLiteral("--no-kill-switch-mode")}),
+             qPrintable(daemon.errorString()));
+    TovraAppShell shell(nullptr, daemon.socketPath());
+    shell.setSystemTrayAvailable(false);
+    openSettings(shell);
+    QTRY_VERIFY(shell.state()->killSwitch().valid);
+    Q_EMIT shell.windowController()->window()->setKillSwitchModeRequested(QStringLiteral("always"));
+    const auto &notes = shell.windowController()->replayState().settingsNotes;
+    QTRY_COMPARE(notes.value(SettingsNotes::KillSwitchMode),
+                 QStringLiteral("Tovra daemon is too old for Kill Switch modes. Update Tovra."));
+    QCOMPARE(shell.state()->killSwitch().mode, QStringLiteral("auto"));
 }
 
 QTEST_MAIN(TestSettingsFlow)

@@ -70,6 +70,8 @@ LanguagePickerDialog::LanguagePickerDialog(const QList<LanguageEntry> &languages
     }
     m_filter->setSourceModel(m_model);
 
+    auto *title = new QLabel(tr("Choose a language"), this);
+    title->setObjectName(QStringLiteral("TovraCardTitle"));
     auto *intro = new QLabel(tr("Tovra restarts to show the new language."), this);
     intro->setProperty("tovraRole", QStringLiteral("muted"));
     intro->setWordWrap(true);
@@ -83,10 +85,14 @@ LanguagePickerDialog::LanguagePickerDialog(const QList<LanguageEntry> &languages
     m_list->setUniformItemSizes(true);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Use language"));
+    // Plain text buttons, like every other dialog of the app.
+    for (QAbstractButton *button : m_buttons->buttons())
+        button->setIcon(QIcon());
 
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins(20, 20, 20, 16);
     layout->setSpacing(10);
+    layout->addWidget(title);
     layout->addWidget(intro);
     layout->addWidget(m_search);
     layout->addWidget(m_list, 1);

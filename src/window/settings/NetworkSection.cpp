@@ -86,9 +86,9 @@ NetworkSection::NetworkSection(QWidget *parent)
     socksLabel->setBuddy(m_socks->lineEdit());
     auto *httpLabel = new QLabel(tr("HTTP"), listeners);
     httpLabel->setBuddy(m_http->lineEdit());
-    grid->addWidget(socksLabel, 0, 0, Qt::AlignTop);
+    grid->addWidget(socksLabel, 0, 0, Qt::AlignVCenter);
     grid->addWidget(m_socks, 0, 1);
-    grid->addWidget(httpLabel, 1, 0, Qt::AlignTop);
+    grid->addWidget(httpLabel, 1, 0, Qt::AlignVCenter);
     grid->addWidget(m_http, 1, 1);
     grid->setColumnStretch(1, 1);
     m_applyListeners->setObjectName(QStringLiteral("TovraSettingsApplyListeners"));

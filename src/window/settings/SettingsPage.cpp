@@ -39,6 +39,7 @@ SettingsPage::SettingsPage(GuiPreferences *preferences, QWidget *parent)
     addContent(m_busyLabel);
 
     m_scroll->setObjectName(QStringLiteral("TovraSettingsScrollArea"));
+    m_scroll->setAccessibleName(tr("Settings"));
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -118,11 +119,11 @@ bool SettingsPage::available() const
 
 void SettingsPage::redraw()
 {
-    static const AppState empty;
-    const AppState &state = m_state ? *m_state : empty;
-    const bool up = available();
-    for (SettingsCard *card : std::as_const(m_cards))
-        card->refresh(state, up);
+    if (m_state) {
+        const bool up = available();
+        for (SettingsCard *card : std::as_const(m_cards))
+            card->refresh(*m_state, up);
+    }
     showNotes();
 }
 

@@ -26,6 +26,8 @@ SettingsRow::SettingsRow(const QString &label, const QString &hint, QWidget *par
     texts->addWidget(m_hint);
     m_top->setSpacing(16);
     m_top->addLayout(texts, 1);
+    // Label and hint stay together beside a control taller than they are.
+    m_top->setAlignment(texts, Qt::AlignVCenter);
     m_column->addLayout(m_top);
 }
 

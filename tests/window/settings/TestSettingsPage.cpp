@@ -20,6 +20,7 @@
 #include "TranslationManager.h"
 
 #include <QAbstractItemModelTester>
+#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -108,6 +109,7 @@ private Q_SLOTS:
     void badInputSendsNothing_data();
     void badInputSendsNothing();
     void failedChangeSnapsBack();
+    void everyControlIsNamed();
     void killSwitchInProxyAsksForVpnMode_data();
     void killSwitchInProxyAsksForVpnMode();
     void launchAtLogin_data();
@@ -372,6 +374,24 @@ void TestSettingsPage::failedChangeSnapsBack()
     f.window.showSettingsOperationError(QStringLiteral("refused"));
     QCOMPARE(proxy->currentData().toString(), daemonProxy);
     QCOMPARE(api->text(), daemonURL);
+}
+
+void TestSettingsPage::everyControlIsNamed()
+{
+    Fixture f;
+    QVERIFY(f.start());
+    int reachable = 0;
+    for (QWidget *widget : f.page->findChildren<QWidget *>()) {
+        if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisibleTo(f.page))
+            continue;
+        ++reachable;
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
+        QVERIFY2(accessible && !accessible->text(QAccessible::Name).trimmed().isEmpty(),
+                 qPrintable(widget->objectName() + QLatin1Char(' ') +
+                            QString::fromLatin1(widget->metaObject()->className())));
+    }
+    // Switches, options, choices, fields and buttons of all six cards.
+    QVERIFY2(reachable >= 30, qPrintable(QString::number(reachable)));
 }
 
 void TestSettingsPage::killSwitchInProxyAsksForVpnMode_data()

@@ -80,17 +80,17 @@ account_y=$(( win_y + win_h - 8 - 36 ))
 signed=0
 for attempt in 1 2 3 4 5; do
     xdo mousemove "$sidebar_x" "$account_y" click 1
-    sleep 0.3
+    sleep 0.3 # the page switch is not observable from outside; a missed try is repeated
     xdo key ctrl+a BackSpace
     xdo type --delay 20 'demo@tovra.invalid'
-    xdo key Tab
+    xdo key Tab ctrl+a BackSpace
     xdo type --delay 20 'demo'
     [[ $attempt == 1 ]] && { "$grab" "$shots/account-form.png" || fail "could not take the form picture"; }
     xdo key Return
     if wait_for 8 signed_in; then signed=1; break; fi
 done
 (( signed )) || fail "signing in through the Account page did not reach the daemon"
-sleep 1
+sleep 1 # only for the picture: the page shows the account once its record is in
 "$grab" "$shots/account-signed-in.png" || fail "could not take the signed-in picture"
 
 # Connect from the quick entry: Ctrl+F, a country, Enter. The catalogue may still be loading
@@ -100,7 +100,7 @@ moving=0
 for attempt in 1 2 3 4 5 6 7 8; do
     xdo key ctrl+f
     xdo type --delay 30 'germany'
-    sleep 0.5
+    sleep 0.5 # only for the picture: Enter itself waits for no pause
     [[ $attempt == 1 ]] && { "$grab" "$shots/quick-entry.png" || fail "could not take the popup picture"; }
     xdo key Return
     if wait_for 4 is_moving; then moving=1; break; fi

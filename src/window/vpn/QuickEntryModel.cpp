@@ -52,19 +52,19 @@ void QuickEntryModel::showRecent(const QStringList &searches,
 {
     QList<Entry> entries;
     if (!searches.isEmpty()) {
-        entries.append({Kind::Heading, tr("Recent searches"), {}, {}, {}, false});
+        entries.append({Kind::Heading, tr("Recent searches"), {}, {}, {}, false, {}});
         for (const QString &search : searches)
-            entries.append({Kind::Search, search, {}, search, {}, true});
+            entries.append({Kind::Search, search, {}, search, {}, true, {}});
     }
     if (!locations.isEmpty()) {
-        entries.append({Kind::Heading, tr("Recent locations"), {}, {}, {}, false});
+        entries.append({Kind::Heading, tr("Recent locations"), {}, {}, {}, false, {}});
         for (const RecentLocation &location : locations)
             entries.append(
-                {Kind::Location, location.label, {}, location.id, location.flagCode, true});
+                {Kind::Location, location.label, {}, location.id, location.flagCode, true, {}});
     }
     if (entries.isEmpty())
         entries.append(
-            {Kind::Notice, tr("Type a country, city or location name"), {}, {}, {}, false});
+            {Kind::Notice, tr("Type a country, city or location name"), {}, {}, {}, false, {}});
     reset(std::move(entries));
 }
 
@@ -79,7 +79,8 @@ void QuickEntryModel::showMatches(const QSortFilterProxyModel &filtered, const Q
                         {},
                         {},
                         {},
-                        false});
+                        false,
+                        {}});
     reset(std::move(entries));
 }
 
@@ -96,6 +97,7 @@ void QuickEntryModel::collectMatches(const QSortFilterProxyModel &filtered,
         entry.detail = parentName;
         entry.flagCode = index.data(LocationRegionRole).toString();
         entry.enabled = !index.data(LocationLockedRole).toBool();
+        entry.toolTip = index.data(Qt::ToolTipRole).toString();
         if (!group) {
             entry.kind = Kind::Node;
             entry.target = index.data(LocationNodeIdRole).toString();
@@ -162,6 +164,8 @@ QVariant QuickEntryModel::data(const QModelIndex &index, int role) const
         icon.addPixmap(flag, QIcon::Selected);
         return icon;
     }
+    case Qt::ToolTipRole:
+        return entry.toolTip.isEmpty() ? QVariant() : QVariant(entry.toolTip);
     case Qt::ForegroundRole:
         if ((entry.kind == Kind::Heading || entry.kind == Kind::Notice || !entry.enabled) &&
             m_muted.isValid())

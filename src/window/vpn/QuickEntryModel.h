@@ -47,6 +47,7 @@ private:
         QString target;
         QString flagCode;
         bool enabled = true;
+        QString toolTip;
     };
 
     void reset(QList<Entry> entries);

@@ -68,6 +68,11 @@ void VpnPage::refresh(const AppState &state)
 {
     m_runtime = state.runtime();
     m_killSwitch = state.killSwitch().valid ? state.killSwitch() : m_runtime.killSwitch;
+    // A free plan reaches the free locations only; the rest show, but cannot be picked.
+    const bool freePlan =
+        state.user().valid &&
+        state.user().role.trimmed().compare(QLatin1String("free"), Qt::CaseInsensitive) == 0;
+    m_catalog->setAvailableTiers(freePlan ? QStringList{QStringLiteral("FREE")} : QStringList());
     if (state.nodeGroups() != m_groups || state.nodes() != m_nodes) {
         m_groups = state.nodeGroups();
         m_nodes = state.nodes();

@@ -9,6 +9,7 @@
 
 namespace {
 
+// Call sites mark their texts with QT_TRANSLATE_NOOP("VpnPage", ...) so that lupdate finds them.
 QString text(const char *source)
 {
     return QCoreApplication::translate("VpnPage", source);
@@ -52,7 +53,7 @@ QString placeText(const NodeEntry &node, const QString &fallback)
     const QString name = node.name.trimmed().isEmpty() ? node.id : node.name.trimmed();
     if (country.isEmpty() || country == name)
         return name;
-    return text("%1 \u00b7 %2").arg(country, name);
+    return text(QT_TRANSLATE_NOOP("VpnPage", "%1 \u00b7 %2")).arg(country, name);
 }
 
 } // namespace
@@ -84,10 +85,11 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
     if (!unavailableReason.trimmed().isEmpty() || !runtime.valid) {
         summary.phase = Phase::Unavailable;
         summary.dotState = QStringLiteral("unavailable");
-        summary.title = text("Service unavailable");
-        summary.detail = unavailableReason.trimmed().isEmpty()
-                             ? text("Waiting for the Tovra service to answer.")
-                             : unavailableReason.trimmed();
+        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Service unavailable"));
+        summary.detail =
+            unavailableReason.trimmed().isEmpty()
+                ? text(QT_TRANSLATE_NOOP("VpnPage", "Waiting for the Tovra service to answer."))
+                : unavailableReason.trimmed();
         return summary;
     }
 
@@ -96,8 +98,9 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
     if (!isSignedIn(runtime.authState)) {
         summary.phase = Phase::SignedOut;
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text("Signed out");
-        summary.detail = text("Sign in to your Tovra account to connect.");
+        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Signed out"));
+        summary.detail =
+            text(QT_TRANSLATE_NOOP("VpnPage", "Sign in to your Tovra account to connect."));
         return summary;
     }
 
@@ -120,36 +123,40 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
     summary.locationText = placeText(node, reference);
     summary.flagCode = node.region.trimmed().toLower();
     if (!summary.locationText.isEmpty())
-        summary.locationCaption = live ? text("Location") : text("Last location");
+        summary.locationCaption = live ? text(QT_TRANSLATE_NOOP("VpnPage", "Location"))
+                                       : text(QT_TRANSLATE_NOOP("VpnPage", "Last location"));
 
     switch (summary.phase) {
     case Phase::Connected:
         summary.dotState = QStringLiteral("connected");
-        summary.title = text("Connected");
-        summary.detail = text("Your traffic goes through the Tovra tunnel.");
+        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Connected"));
+        summary.detail =
+            text(QT_TRANSLATE_NOOP("VpnPage", "Your traffic goes through the Tovra tunnel."));
         summary.connectedSince = QDateTime::fromString(runtime.connectedSince, Qt::ISODate);
         break;
     case Phase::Connecting: {
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text("Connecting\u2026");
+        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Connecting\u2026"));
         const QString target = pending.active && !pending.label.trimmed().isEmpty()
                                    ? pending.label.trimmed()
                                    : summary.locationText;
-        summary.detail = target.isEmpty() ? text("Connecting to the best location.")
-                                          : text("Connecting to %1").arg(target);
+        summary.detail = target.isEmpty()
+                             ? text(QT_TRANSLATE_NOOP("VpnPage", "Setting up the tunnel."))
+                             : text(QT_TRANSLATE_NOOP("VpnPage", "Connecting to %1")).arg(target);
         break;
     }
     case Phase::Disconnecting:
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text("Disconnecting\u2026");
-        summary.detail = text("Closing the tunnel.");
+        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Disconnecting\u2026"));
+        summary.detail = text(QT_TRANSLATE_NOOP("VpnPage", "Closing the tunnel."));
         break;
     default:
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text("Disconnected");
+        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Disconnected"));
         summary.detail = word(killSwitch.guard) == QLatin1String("active")
-                             ? text("Kill Switch blocks traffic until you connect.")
-                             : text("Your traffic is not protected.");
+                             ? text(QT_TRANSLATE_NOOP(
+                                   "VpnPage", "Kill Switch blocks traffic until you connect."))
+                             : text(QT_TRANSLATE_NOOP("VpnPage", "Your traffic is not protected."));
         break;
     }
     return summary;

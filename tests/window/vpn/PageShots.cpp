@@ -100,6 +100,19 @@ int main(int argc, char *argv[])
                 field->clear();
                 field->closePopup();
             }
+            if (signedIn && !rtl) {
+                window.setConnectInProgress(true, QStringLiteral("country:jp"),
+                                            QStringLiteral("Japan"));
+                shoot(window, stem + QStringLiteral("-connecting.png"));
+                window.setConnectInProgress(false, QString(), QString());
+            }
+            if (!signedIn && !rtl) {
+                window.setDaemonUnavailableReason(QStringLiteral("Tovra daemon is not running."));
+                shoot(window, stem + QStringLiteral("-unavailable-vpn.png"));
+                window.showPage(MainWindow::AccountPageIndex);
+                shoot(window, stem + QStringLiteral("-unavailable-account.png"));
+                window.setDaemonUnavailableReason(QString());
+            }
             window.showPage(MainWindow::AccountPageIndex);
             if (!signedIn) {
                 window.findChild<QLineEdit *>(QStringLiteral("TovraAccountUsername"))

@@ -233,7 +233,9 @@ void TovraSplitRulesEditorDialog::updateStatus()
                              : tr("Rules are not loaded yet.");
     } else {
         const QString content = m_editor->toPlainText();
-        const int lines = content.isEmpty() ? 0 : m_editor->blockCount();
+        // A closing newline ends the last line; it does not start another.
+        const int lines =
+            content.isEmpty() ? 0 : m_editor->blockCount() - (content.endsWith(u'\n') ? 1 : 0);
         text =
             tr("Rules: %1 \u00b7 Lines: %2").arg(SplitRuleValidator::ruleCount(content)).arg(lines);
         if (m_drafts.contains(m_kind))

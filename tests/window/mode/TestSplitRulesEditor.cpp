@@ -185,6 +185,7 @@ void TestSplitRulesEditor::kindsFromTheRecordAndEditsSurviveASwitch()
     QTest::mouseClick(dialog.kindBar()->segment(u"direct"_s), Qt::LeftButton);
     QCOMPARE(dialog.editor()->toPlainText(), u"example.cn\nmine.example\n"_s);
     QVERIFY(dialog.statusLabel()->text().contains(u"not imported"_s));
+    QVERIFY(dialog.statusLabel()->text().startsWith(u"Rules: 2 \u00b7 Lines: 2"_s));
     // Typing it back to what the daemon holds leaves nothing unsaved.
     dialog.editor()->setPlainText(u"example.cn\nother.example\n"_s);
     QVERIFY(!dialog.hasUnsavedEdits(u"direct"_s));

@@ -16,6 +16,7 @@ const Language Supported[] = {
     {"es", "Español"}, {"it", "Italiano"},      {"pt-BR", "Português (Brasil)"},
     {"ru", "Русский"}, {"tr", "Türkçe"},        {"ja", "日本語"},
     {"ko", "한국어"},  {"zh-Hans", "简体中文"}, {"zh-Hant", "繁體中文"},
+    {"ar", "العربية"}, {"fa", "فارسی"},
 };
 
 // "de_DE.UTF-8" and "de-de" both become "de-DE".

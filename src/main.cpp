@@ -65,11 +65,12 @@ int main(int argc, char *argv[])
             return 0;
     }
 
-    GuiSingleInstance singleInstance(GuiSingleInstance::defaultServerName());
     QString instanceError;
+    GuiSingleInstance singleInstance(GuiSingleInstance::defaultServerPath(&instanceError));
     const SingleInstanceResult instance =
-        restartShowWindow ? singleInstance.waitForPrimary(45000, 100, &instanceError)
-                          : singleInstance.acquire(&instanceError);
+        singleInstance.serverName().isEmpty() ? SingleInstanceResult::Failed
+        : restartShowWindow ? singleInstance.waitForPrimary(45000, 100, &instanceError)
+                            : singleInstance.acquire(&instanceError);
     if (instance == SingleInstanceResult::ActivatedExisting)
         return 0;
     if (instance == SingleInstanceResult::Failed) {

@@ -39,6 +39,941 @@
     </message>
 </context>
 <context>
+    <name>Countries</name>
+    <message>
+        <source>Afghanistan</source>
+        <translation>Afganistán</translation>
+    </message>
+    <message>
+        <source>Land Islands</source>
+        <translation>Islas Äland</translation>
+    </message>
+    <message>
+        <source>Albania</source>
+        <translation>Albania</translation>
+    </message>
+    <message>
+        <source>Algeria</source>
+        <translation>Algeria</translation>
+    </message>
+    <message>
+        <source>American Samoa</source>
+        <translation>Samoa Estadounidense</translation>
+    </message>
+    <message>
+        <source>Andorra</source>
+        <translation>Andorra</translation>
+    </message>
+    <message>
+        <source>Angola</source>
+        <translation>Angola</translation>
+    </message>
+    <message>
+        <source>Anguilla</source>
+        <translation>Anguila</translation>
+    </message>
+    <message>
+        <source>Antigua and Barbuda</source>
+        <translation>Antigua y Barbuda</translation>
+    </message>
+    <message>
+        <source>Argentina</source>
+        <translation>Argentina</translation>
+    </message>
+    <message>
+        <source>Armenia</source>
+        <translation>Armenia</translation>
+    </message>
+    <message>
+        <source>Aruba</source>
+        <translation>Aruba</translation>
+    </message>
+    <message>
+        <source>Australia</source>
+        <translation>Australia</translation>
+    </message>
+    <message>
+        <source>Austria</source>
+        <translation>Austria</translation>
+    </message>
+    <message>
+        <source>Azerbaijan</source>
+        <translation>Azerbaiyán</translation>
+    </message>
+    <message>
+        <source>Bahamas</source>
+        <translation>Bahamas</translation>
+    </message>
+    <message>
+        <source>Bahrain</source>
+        <translation>Baréin</translation>
+    </message>
+    <message>
+        <source>Bangladesh</source>
+        <translation>Bangladés</translation>
+    </message>
+    <message>
+        <source>Barbados</source>
+        <translation>Barbados</translation>
+    </message>
+    <message>
+        <source>Belarus</source>
+        <translation>Bielorrusia</translation>
+    </message>
+    <message>
+        <source>Belgium</source>
+        <translation>Bélgica</translation>
+    </message>
+    <message>
+        <source>Belize</source>
+        <translation>Belice</translation>
+    </message>
+    <message>
+        <source>Benin</source>
+        <translation>Benín</translation>
+    </message>
+    <message>
+        <source>Bermuda</source>
+        <translation>Islas Bermudas</translation>
+    </message>
+    <message>
+        <source>Bhutan</source>
+        <translation>Bután</translation>
+    </message>
+    <message>
+        <source>Bolivia</source>
+        <translation>Bolivia</translation>
+    </message>
+    <message>
+        <source>Bosnia and Herzegovina</source>
+        <translation>Bosnia y Herzegovina</translation>
+    </message>
+    <message>
+        <source>Botswana</source>
+        <translation>Botsuana</translation>
+    </message>
+    <message>
+        <source>Brazil</source>
+        <translation>Brasil</translation>
+    </message>
+    <message>
+        <source>Brunei Darussalam</source>
+        <translation>Brunei Darussalam</translation>
+    </message>
+    <message>
+        <source>Bulgaria</source>
+        <translation>Bulgaria</translation>
+    </message>
+    <message>
+        <source>Burkina Faso</source>
+        <translation>Burquina Faso</translation>
+    </message>
+    <message>
+        <source>Burundi</source>
+        <translation>Burundi</translation>
+    </message>
+    <message>
+        <source>Cambodia</source>
+        <translation>Camboya</translation>
+    </message>
+    <message>
+        <source>Cameroon</source>
+        <translation>Camerún</translation>
+    </message>
+    <message>
+        <source>Canada</source>
+        <translation>Canadá</translation>
+    </message>
+    <message>
+        <source>Cape Verde</source>
+        <translation>Cabo Verde</translation>
+    </message>
+    <message>
+        <source>Cayman Islands</source>
+        <translation>Islas Caimán</translation>
+    </message>
+    <message>
+        <source>Central African Republic</source>
+        <translation>República Centroafricana</translation>
+    </message>
+    <message>
+        <source>Chad</source>
+        <translation>Chad</translation>
+    </message>
+    <message>
+        <source>Chile</source>
+        <translation>Chile</translation>
+    </message>
+    <message>
+        <source>China</source>
+        <translation>China</translation>
+    </message>
+    <message>
+        <source>Colombia</source>
+        <translation>Colombia</translation>
+    </message>
+    <message>
+        <source>Comoros</source>
+        <translation>Comores, Islas</translation>
+    </message>
+    <message>
+        <source>Congo</source>
+        <translation>Congo</translation>
+    </message>
+    <message>
+        <source>Congo, The Democratic Republic of the</source>
+        <translation>Congo, República Democrática del</translation>
+    </message>
+    <message>
+        <source>Cook Islands</source>
+        <translation>Islas Cook</translation>
+    </message>
+    <message>
+        <source>Costa Rica</source>
+        <translation>Costa Rica</translation>
+    </message>
+    <message>
+        <source>Cote D&apos;Ivoire</source>
+        <translation>Costa de Marfíl</translation>
+    </message>
+    <message>
+        <source>Croatia</source>
+        <translation>Croacia</translation>
+    </message>
+    <message>
+        <source>Cuba</source>
+        <translation>Cuba</translation>
+    </message>
+    <message>
+        <source>Cyprus</source>
+        <translation>Chipre</translation>
+    </message>
+    <message>
+        <source>Czech Republic</source>
+        <translation>Chequia</translation>
+    </message>
+    <message>
+        <source>Denmark</source>
+        <translation>Dinamarca</translation>
+    </message>
+    <message>
+        <source>Djibouti</source>
+        <translation>Yibuti</translation>
+    </message>
+    <message>
+        <source>Dominica</source>
+        <translation>Dominica</translation>
+    </message>
+    <message>
+        <source>Dominican Republic</source>
+        <translation>República Dominicana</translation>
+    </message>
+    <message>
+        <source>Ecuador</source>
+        <translation>Ecuador</translation>
+    </message>
+    <message>
+        <source>Egypt</source>
+        <translation>Egipto</translation>
+    </message>
+    <message>
+        <source>El Salvador</source>
+        <translation>El Salvador</translation>
+    </message>
+    <message>
+        <source>Equatorial Guinea</source>
+        <translation>Guinea Ecuatorial</translation>
+    </message>
+    <message>
+        <source>Eritrea</source>
+        <translation>Eritrea</translation>
+    </message>
+    <message>
+        <source>Estonia</source>
+        <translation>Estonia</translation>
+    </message>
+    <message>
+        <source>Ethiopia</source>
+        <translation>Etiopía</translation>
+    </message>
+    <message>
+        <source>Falkland Islands (Malvinas)</source>
+        <translation>Islas Falkland (Malvinas)</translation>
+    </message>
+    <message>
+        <source>Faroe Islands</source>
+        <translation>Islas Feroe</translation>
+    </message>
+    <message>
+        <source>Fiji</source>
+        <translation>Fiyi</translation>
+    </message>
+    <message>
+        <source>Finland</source>
+        <translation>Finlandia</translation>
+    </message>
+    <message>
+        <source>France</source>
+        <translation>Francia</translation>
+    </message>
+    <message>
+        <source>French Guiana</source>
+        <translation>Guayana Francesa</translation>
+    </message>
+    <message>
+        <source>French Polynesia</source>
+        <translation>Polinesia Francesa</translation>
+    </message>
+    <message>
+        <source>Gabon</source>
+        <translation>Gabón</translation>
+    </message>
+    <message>
+        <source>Gambia</source>
+        <translation>Gambia</translation>
+    </message>
+    <message>
+        <source>Georgia</source>
+        <translation>Georgia</translation>
+    </message>
+    <message>
+        <source>Germany</source>
+        <translation>Alemania</translation>
+    </message>
+    <message>
+        <source>Ghana</source>
+        <translation>Ghana</translation>
+    </message>
+    <message>
+        <source>Gibraltar</source>
+        <translation>Gibraltar</translation>
+    </message>
+    <message>
+        <source>Greece</source>
+        <translation>Grecia</translation>
+    </message>
+    <message>
+        <source>Greenland</source>
+        <translation>Groenlandia</translation>
+    </message>
+    <message>
+        <source>Grenada</source>
+        <translation>Granada</translation>
+    </message>
+    <message>
+        <source>Guadeloupe</source>
+        <translation>Guadalupe</translation>
+    </message>
+    <message>
+        <source>Guam</source>
+        <translation>Guam</translation>
+    </message>
+    <message>
+        <source>Guatemala</source>
+        <translation>Guatemala</translation>
+    </message>
+    <message>
+        <source>Guernsey</source>
+        <translation>Guernsey</translation>
+    </message>
+    <message>
+        <source>Guinea</source>
+        <translation>Guinea</translation>
+    </message>
+    <message>
+        <source>Guinea-Bissau</source>
+        <translation>Guinea-Bisáu</translation>
+    </message>
+    <message>
+        <source>Guyana</source>
+        <translation>Guyana</translation>
+    </message>
+    <message>
+        <source>Haiti</source>
+        <translation>Haití</translation>
+    </message>
+    <message>
+        <source>Holy See (Vatican City State)</source>
+        <translation>Santa Sede (Ciudad Estado del Vaticano)</translation>
+    </message>
+    <message>
+        <source>Honduras</source>
+        <translation>Honduras</translation>
+    </message>
+    <message>
+        <source>Hong Kong (China)</source>
+        <translation>Hong Kong</translation>
+    </message>
+    <message>
+        <source>Hungary</source>
+        <translation>Hungría</translation>
+    </message>
+    <message>
+        <source>Iceland</source>
+        <translation>Islandia</translation>
+    </message>
+    <message>
+        <source>India</source>
+        <translation>India</translation>
+    </message>
+    <message>
+        <source>Indonesia</source>
+        <translation>Indonesia</translation>
+    </message>
+    <message>
+        <source>Iran, Islamic Republic of</source>
+        <translation>Irán, República islámica de</translation>
+    </message>
+    <message>
+        <source>Iraq</source>
+        <translation>Irak</translation>
+    </message>
+    <message>
+        <source>Ireland</source>
+        <translation>Irlanda</translation>
+    </message>
+    <message>
+        <source>Isle of Man</source>
+        <translation>Isla de Man</translation>
+    </message>
+    <message>
+        <source>Israel</source>
+        <translation>Israel</translation>
+    </message>
+    <message>
+        <source>Italy</source>
+        <translation>Italia</translation>
+    </message>
+    <message>
+        <source>Jamaica</source>
+        <translation>Jamaica</translation>
+    </message>
+    <message>
+        <source>Japan</source>
+        <translation>Japón</translation>
+    </message>
+    <message>
+        <source>Jersey</source>
+        <translation>Jersey</translation>
+    </message>
+    <message>
+        <source>Jordan</source>
+        <translation>Jordania</translation>
+    </message>
+    <message>
+        <source>Kazakhstan</source>
+        <translation>Kazajistán</translation>
+    </message>
+    <message>
+        <source>Kenya</source>
+        <translation>Kenia</translation>
+    </message>
+    <message>
+        <source>Kiribati</source>
+        <translation>Kiribati</translation>
+    </message>
+    <message>
+        <source>Korea, Democratic People&apos;S Republic of</source>
+        <translation>Corea, República Democrática Popular de</translation>
+    </message>
+    <message>
+        <source>Korea, Republic of</source>
+        <translation>Corea, República de</translation>
+    </message>
+    <message>
+        <source>Kuwait</source>
+        <translation>Kuwait</translation>
+    </message>
+    <message>
+        <source>Kyrgyzstan</source>
+        <translation>Kirguistán</translation>
+    </message>
+    <message>
+        <source>Lao People&apos;S Democratic Republic</source>
+        <translation>República Democrática Popular de Lao</translation>
+    </message>
+    <message>
+        <source>Latvia</source>
+        <translation>Letonia</translation>
+    </message>
+    <message>
+        <source>Lebanon</source>
+        <translation>Líbano</translation>
+    </message>
+    <message>
+        <source>Lesotho</source>
+        <translation>Lesoto</translation>
+    </message>
+    <message>
+        <source>Liberia</source>
+        <translation>Liberia</translation>
+    </message>
+    <message>
+        <source>Libyan Arab Jamahiriya</source>
+        <translation>Libia</translation>
+    </message>
+    <message>
+        <source>Liechtenstein</source>
+        <translation>Liechtenstein</translation>
+    </message>
+    <message>
+        <source>Lithuania</source>
+        <translation>Lituania</translation>
+    </message>
+    <message>
+        <source>Luxembourg</source>
+        <translation>Luxemburgo</translation>
+    </message>
+    <message>
+        <source>Macao (China)</source>
+        <translation>Macao</translation>
+    </message>
+    <message>
+        <source>Macedonia, The Former Yugoslav Republic of</source>
+        <translation>Macedonia del Norte</translation>
+    </message>
+    <message>
+        <source>Madagascar</source>
+        <translation>Madagascar</translation>
+    </message>
+    <message>
+        <source>Malawi</source>
+        <translation>Malaui</translation>
+    </message>
+    <message>
+        <source>Malaysia</source>
+        <translation>Malasia</translation>
+    </message>
+    <message>
+        <source>Maldives</source>
+        <translation>Islas Maldivas</translation>
+    </message>
+    <message>
+        <source>Mali</source>
+        <translation>Malí</translation>
+    </message>
+    <message>
+        <source>Malta</source>
+        <translation>Malta</translation>
+    </message>
+    <message>
+        <source>Marshall Islands</source>
+        <translation>Islas Marshall</translation>
+    </message>
+    <message>
+        <source>Martinique</source>
+        <translation>Martinica</translation>
+    </message>
+    <message>
+        <source>Mauritania</source>
+        <translation>Mauritania</translation>
+    </message>
+    <message>
+        <source>Mauritius</source>
+        <translation>Mauricio</translation>
+    </message>
+    <message>
+        <source>Mayotte</source>
+        <translation>Mayotte</translation>
+    </message>
+    <message>
+        <source>Mexico</source>
+        <translation>México</translation>
+    </message>
+    <message>
+        <source>Micronesia, Federated States of</source>
+        <translation>Micronesia, Estados Federados de</translation>
+    </message>
+    <message>
+        <source>Moldova, Republic of</source>
+        <translation>Moldavia</translation>
+    </message>
+    <message>
+        <source>Monaco</source>
+        <translation>Mónaco</translation>
+    </message>
+    <message>
+        <source>Mongolia</source>
+        <translation>Mongolia</translation>
+    </message>
+    <message>
+        <source>Montenegro</source>
+        <translation>Montenegro</translation>
+    </message>
+    <message>
+        <source>Montserrat</source>
+        <translation>Montserrat</translation>
+    </message>
+    <message>
+        <source>Morocco</source>
+        <translation>Marruecos</translation>
+    </message>
+    <message>
+        <source>Mozambique</source>
+        <translation>Mozambique</translation>
+    </message>
+    <message>
+        <source>Myanmar</source>
+        <translation>Birmania</translation>
+    </message>
+    <message>
+        <source>Namibia</source>
+        <translation>Namibia</translation>
+    </message>
+    <message>
+        <source>Nauru</source>
+        <translation>Nauru</translation>
+    </message>
+    <message>
+        <source>Nepal</source>
+        <translation>Nepal</translation>
+    </message>
+    <message>
+        <source>Netherlands</source>
+        <translation>Países Bajos</translation>
+    </message>
+    <message>
+        <source>New Caledonia</source>
+        <translation>Nueva Caledonia</translation>
+    </message>
+    <message>
+        <source>New Zealand</source>
+        <translation>Nueva Zelanda</translation>
+    </message>
+    <message>
+        <source>Nicaragua</source>
+        <translation>Nicaragua</translation>
+    </message>
+    <message>
+        <source>Niger</source>
+        <translation>Niger</translation>
+    </message>
+    <message>
+        <source>Nigeria</source>
+        <translation>Nigeria</translation>
+    </message>
+    <message>
+        <source>Niue</source>
+        <translation>Niue</translation>
+    </message>
+    <message>
+        <source>Norfolk Island</source>
+        <translation>Isla Norfolk</translation>
+    </message>
+    <message>
+        <source>Northern Mariana Islands</source>
+        <translation>Islas Marianas del Norte</translation>
+    </message>
+    <message>
+        <source>Norway</source>
+        <translation>Noruega</translation>
+    </message>
+    <message>
+        <source>Oman</source>
+        <translation>Omán</translation>
+    </message>
+    <message>
+        <source>Pakistan</source>
+        <translation>Pakistán</translation>
+    </message>
+    <message>
+        <source>Palau</source>
+        <translation>Palaos</translation>
+    </message>
+    <message>
+        <source>Palestinian Territory, Occupied</source>
+        <translation>Palestina, Estado de</translation>
+    </message>
+    <message>
+        <source>Panama</source>
+        <translation>Panamá</translation>
+    </message>
+    <message>
+        <source>Papua New Guinea</source>
+        <translation>Papúa Nueva Guinea</translation>
+    </message>
+    <message>
+        <source>Paraguay</source>
+        <translation>Paraguay</translation>
+    </message>
+    <message>
+        <source>Peru</source>
+        <translation>Perú</translation>
+    </message>
+    <message>
+        <source>Philippines</source>
+        <translation>Filipinas</translation>
+    </message>
+    <message>
+        <source>Poland</source>
+        <translation>Polonia</translation>
+    </message>
+    <message>
+        <source>Portugal</source>
+        <translation>Portugal</translation>
+    </message>
+    <message>
+        <source>Puerto Rico</source>
+        <translation>Puerto Rico</translation>
+    </message>
+    <message>
+        <source>Qatar</source>
+        <translation>Catar</translation>
+    </message>
+    <message>
+        <source>Reunion</source>
+        <translation>Reunión</translation>
+    </message>
+    <message>
+        <source>Romania</source>
+        <translation>Rumanía</translation>
+    </message>
+    <message>
+        <source>Russian Federation</source>
+        <translation>Federación Rusa</translation>
+    </message>
+    <message>
+        <source>Rwanda</source>
+        <translation>Ruanda</translation>
+    </message>
+    <message>
+        <source>Saint Helena</source>
+        <translation>Santa Elena, Ascensión y Tristán de Acuña</translation>
+    </message>
+    <message>
+        <source>Saint Kitts and Nevis</source>
+        <translation>San Cristóbal y Nieves</translation>
+    </message>
+    <message>
+        <source>Saint Lucia</source>
+        <translation>Santa Lucía</translation>
+    </message>
+    <message>
+        <source>Saint Pierre and Miquelon</source>
+        <translation>San Pedro y Miquelon</translation>
+    </message>
+    <message>
+        <source>Saint Vincent and the Grenadines</source>
+        <translation>San Vicente y las Granadinas</translation>
+    </message>
+    <message>
+        <source>Samoa</source>
+        <translation>Samoa</translation>
+    </message>
+    <message>
+        <source>San Marino</source>
+        <translation>San Marino</translation>
+    </message>
+    <message>
+        <source>Sao Tome and Principe</source>
+        <translation>Santo Tomé y Príncipe</translation>
+    </message>
+    <message>
+        <source>Saudi Arabia</source>
+        <translation>Arabia Saudí</translation>
+    </message>
+    <message>
+        <source>Senegal</source>
+        <translation>Senegal</translation>
+    </message>
+    <message>
+        <source>Serbia</source>
+        <translation>Serbia</translation>
+    </message>
+    <message>
+        <source>Seychelles</source>
+        <translation>Seychelles</translation>
+    </message>
+    <message>
+        <source>Sierra Leone</source>
+        <translation>Sierra Leona</translation>
+    </message>
+    <message>
+        <source>Singapore</source>
+        <translation>Singapur</translation>
+    </message>
+    <message>
+        <source>Slovakia</source>
+        <translation>Eslovaquia</translation>
+    </message>
+    <message>
+        <source>Slovenia</source>
+        <translation>Eslovenia</translation>
+    </message>
+    <message>
+        <source>Solomon Islands</source>
+        <translation>Islas Salomón</translation>
+    </message>
+    <message>
+        <source>Somalia</source>
+        <translation>Somalia</translation>
+    </message>
+    <message>
+        <source>South Africa</source>
+        <translation>Sudáfrica</translation>
+    </message>
+    <message>
+        <source>South Sudan</source>
+        <translation>Sudán del Sur</translation>
+    </message>
+    <message>
+        <source>Spain</source>
+        <translation>España</translation>
+    </message>
+    <message>
+        <source>Sri Lanka</source>
+        <translation>Sri Lanka</translation>
+    </message>
+    <message>
+        <source>Sudan</source>
+        <translation>Sudán</translation>
+    </message>
+    <message>
+        <source>Suriname</source>
+        <translation>Surinám</translation>
+    </message>
+    <message>
+        <source>Swaziland</source>
+        <translation>Esuatini</translation>
+    </message>
+    <message>
+        <source>Sweden</source>
+        <translation>Suecia</translation>
+    </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>Suiza</translation>
+    </message>
+    <message>
+        <source>Syrian Arab Republic</source>
+        <translation>República árabe de Siria</translation>
+    </message>
+    <message>
+        <source>Taiwan (China)</source>
+        <translation>Taiwán</translation>
+    </message>
+    <message>
+        <source>Tajikistan</source>
+        <translation>Tayikistán</translation>
+    </message>
+    <message>
+        <source>Tanzania, United Republic of</source>
+        <translation>Tanzania</translation>
+    </message>
+    <message>
+        <source>Thailand</source>
+        <translation>Tailandia</translation>
+    </message>
+    <message>
+        <source>Timor-Leste</source>
+        <translation>Timor Oriental</translation>
+    </message>
+    <message>
+        <source>Togo</source>
+        <translation>Togo</translation>
+    </message>
+    <message>
+        <source>Tokelau</source>
+        <translation>Tokelau</translation>
+    </message>
+    <message>
+        <source>Tonga</source>
+        <translation>Tonga</translation>
+    </message>
+    <message>
+        <source>Trinidad and Tobago</source>
+        <translation>Trinidad y Tobago</translation>
+    </message>
+    <message>
+        <source>Tunisia</source>
+        <translation>Tunez</translation>
+    </message>
+    <message>
+        <source>Turkey</source>
+        <translation>Türkiye</translation>
+    </message>
+    <message>
+        <source>Turkmenistan</source>
+        <translation>Turkmenistán</translation>
+    </message>
+    <message>
+        <source>Turks and Caicos Islands</source>
+        <translation>Islas Turcas y Caicos</translation>
+    </message>
+    <message>
+        <source>Tuvalu</source>
+        <translation>Tuvalu</translation>
+    </message>
+    <message>
+        <source>Uganda</source>
+        <translation>Uganda</translation>
+    </message>
+    <message>
+        <source>Ukraine</source>
+        <translation>Ucrania</translation>
+    </message>
+    <message>
+        <source>United Arab Emirates</source>
+        <translation>Emiratos Árabes Unidos</translation>
+    </message>
+    <message>
+        <source>United Kingdom</source>
+        <translation>Reino Unido</translation>
+    </message>
+    <message>
+        <source>United States</source>
+        <translation>Estados Unidos</translation>
+    </message>
+    <message>
+        <source>Uruguay</source>
+        <translation>Uruguay</translation>
+    </message>
+    <message>
+        <source>Uzbekistan</source>
+        <translation>Uzbekistán</translation>
+    </message>
+    <message>
+        <source>Vanuatu</source>
+        <translation>Vanuatu</translation>
+    </message>
+    <message>
+        <source>Venezuela</source>
+        <translation>Venezuela</translation>
+    </message>
+    <message>
+        <source>Viet Nam</source>
+        <translation>Vietnam</translation>
+    </message>
+    <message>
+        <source>Virgin Islands, British</source>
+        <translation>Islas Vírgenes, Británicas</translation>
+    </message>
+    <message>
+        <source>Virgin Islands, U.S.</source>
+        <translation>Islas Vírgenes, de EEUU</translation>
+    </message>
+    <message>
+        <source>Wallis and Futuna</source>
+        <translation>Wallis y Futuna</translation>
+    </message>
+    <message>
+        <source>Western Sahara</source>
+        <translation>Sahara Occidental</translation>
+    </message>
+    <message>
+        <source>Yemen</source>
+        <translation>Yemen</translation>
+    </message>
+    <message>
+        <source>Zambia</source>
+        <translation>Zambia</translation>
+    </message>
+    <message>
+        <source>Zimbabwe</source>
+        <translation>Zimbabue</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>

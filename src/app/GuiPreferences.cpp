@@ -14,12 +14,14 @@ const QString kLastLanguage = QStringLiteral("language/lastEffective");
 const QString kRecentNodes = QStringLiteral("vpn/recentNodes");
 const QString kRecentSearches = QStringLiteral("vpn/recentSearches");
 const QString kRecentNodesCleared = QStringLiteral("vpn/recentNodesCleared");
+const QString kLocationsSort = QStringLiteral("locations/sort");
 const QString kUpdateVersion = QStringLiteral("update/currentVersion");
 const QString kLastAttemptAt = QStringLiteral("update/lastAttemptAt");
 const QString kLastSuccessfulCheckAt = QStringLiteral("update/lastSuccessfulCheckAt");
 const QString kLastNotifiedAt = QStringLiteral("update/lastNotifiedAt");
 const QString kLastNotifiedVersionNum = QStringLiteral("update/lastNotifiedVersionNum");
 const QString kForceUpgrade = QStringLiteral("update/forceUpgrade");
+const QString kMutedVersionNum = QStringLiteral("update/mutedVersionNum");
 
 QString canonicalAppearance(const QString &text)
 {
@@ -141,6 +143,16 @@ void GuiPreferences::setRecentNodesCleared(bool cleared)
     write(kRecentNodesCleared, cleared);
 }
 
+QString GuiPreferences::locationsSort() const
+{
+    return m_settings->value(kLocationsSort).toString().trimmed().toLower();
+}
+
+void GuiPreferences::setLocationsSort(const QString &sort)
+{
+    write(kLocationsSort, sort.trimmed().toLower());
+}
+
 GuiUpdateBookkeeping GuiPreferences::updateBookkeeping(const QString &runningVersion) const
 {
     if (m_settings->value(kUpdateVersion).toString().trimmed() != runningVersion.trimmed())
@@ -151,6 +163,7 @@ GuiUpdateBookkeeping GuiPreferences::updateBookkeeping(const QString &runningVer
     state.lastNotifiedAt = readInt64(kLastNotifiedAt);
     state.lastNotifiedVersionNum = readInt64(kLastNotifiedVersionNum);
     state.forceUpgrade = readBool(kForceUpgrade, false);
+    state.mutedVersionNum = readInt64(kMutedVersionNum);
     return state;
 }
 
@@ -163,6 +176,7 @@ void GuiPreferences::setUpdateBookkeeping(const QString &runningVersion,
     m_settings->setValue(kLastNotifiedAt, state.lastNotifiedAt);
     m_settings->setValue(kLastNotifiedVersionNum, state.lastNotifiedVersionNum);
     m_settings->setValue(kForceUpgrade, state.forceUpgrade);
+    m_settings->setValue(kMutedVersionNum, state.mutedVersionNum);
     persist();
 }
 

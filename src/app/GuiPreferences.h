@@ -43,6 +43,10 @@ public:
     bool recentNodesCleared() const;
     void setRecentNodesCleared(bool cleared);
 
+    // The Locations page's sort choice: "service", "name" or "latency".
+    QString locationsSort() const;
+    void setLocationsSort(const QString &sort);
+
     // Bookkeeping stored for another GUI version reads as the defaults.
     GuiUpdateBookkeeping updateBookkeeping(const QString &runningVersion) const;
     void setUpdateBookkeeping(const QString &runningVersion, const GuiUpdateBookkeeping &state);

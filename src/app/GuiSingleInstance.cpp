@@ -2,12 +2,32 @@
 
 #include "AppId.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QStandardPaths>
 #include <QThread>
 
+#include <sys/socket.h>
+#include <sys/stat.h>
 #include <unistd.h>
+
+namespace {
+
+// The user id of the process at the other end of a connected local socket, or -1.
+qint64 peerUid(const QLocalSocket &socket)
+{
+    ucred credentials{};
+    socklen_t size = sizeof(credentials);
+    const int fd = int(socket.socketDescriptor());
+    if (fd < 0 || getsockopt(fd, SOL_SOCKET, SO_PEERCRED, &credentials, &size) != 0)
+        return -1;
+    return qint64(credentials.uid);
+}
+
+} // namespace
 
 GuiSingleInstance::GuiSingleInstance(const QString &serverName, QObject *parent)
     : QObject(parent)
@@ -25,6 +45,55 @@ GuiSingleInstance::~GuiSingleInstance()
 QString GuiSingleInstance::defaultServerName()
 {
     return QLatin1String(kTovraSingleInstanceId) + u".gui." + QString::number(::getuid());
+}
+
+bool GuiSingleInstance::isPrivateDirectory(const QString &path)
+{
+    struct stat info
+    {
+    };
+    if (path.isEmpty() || !QDir::isAbsolutePath(path) ||
+        ::lstat(QFile::encodeName(path).constData(), &info) != 0)
+        return false;
+    return S_ISDIR(info.st_mode) && info.st_uid == ::getuid() && (info.st_mode & 022) == 0;
+}
+
+QString GuiSingleInstance::defaultServerPath(QString *errorOut)
+{
+    QStringList candidates{qEnvironmentVariable("XDG_RUNTIME_DIR").trimmed()};
+    // Creates /tmp/runtime-<user> with mode 0700 when the session sets no runtime directory.
+    candidates.append(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation));
+    const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+    if (!config.isEmpty() && QDir().mkpath(config + u"/Tovra"))
+        candidates.append(config + u"/Tovra");
+    for (const QString &directory : std::as_const(candidates)) {
+        if (isPrivateDirectory(directory))
+            return QDir(directory).filePath(defaultServerName());
+    }
+    if (errorOut)
+        *errorOut = QStringLiteral("no private directory for the single-instance socket "
+                                   "(tried %1)")
+                        .arg(candidates.join(u", "));
+    return {};
+}
+
+QString GuiSingleInstance::socketFilePath() const
+{
+    return QDir::isAbsolutePath(m_serverName) ? m_serverName : QDir::temp().filePath(m_serverName);
+}
+
+QString GuiSingleInstance::foreignOwnerText() const
+{
+    struct stat info
+    {
+    };
+    const QString path = socketFilePath();
+    if (::lstat(QFile::encodeName(path).constData(), &info) != 0 || info.st_uid == ::getuid())
+        return {};
+    return QStringLiteral("the single-instance socket %1 belongs to uid %2, not to this user; "
+                          "it is neither contacted nor removed")
+        .arg(path)
+        .arg(info.st_uid);
 }
 
 bool GuiSingleInstance::isListening() const
@@ -54,6 +123,11 @@ bool GuiSingleInstance::sendActivate(int timeoutMs)
     socket.connectToServer(m_serverName, QIODevice::ReadWrite);
     if (!socket.waitForConnected(timeoutMs))
         return false;
+    // Never wake, or tell anything to, a process of another user that squats on the name.
+    if (peerUid(socket) != qint64(::getuid())) {
+        socket.abort();
+        return false;
+    }
     socket.write("activate\n", 9);
     socket.waitForBytesWritten(timeoutMs);
     socket.disconnectFromServer();
@@ -64,6 +138,11 @@ SingleInstanceResult GuiSingleInstance::acquire(QString *errorOut)
 {
     if (tryListen(errorOut))
         return SingleInstanceResult::Primary;
+    if (const QString foreign = foreignOwnerText(); !foreign.isEmpty()) {
+        if (errorOut)
+            *errorOut = foreign;
+        return SingleInstanceResult::Failed;
+    }
     if (sendActivate(500))
         return SingleInstanceResult::ActivatedExisting;
     // Nobody answers on the name: a crashed GUI left its socket file behind.
@@ -80,6 +159,11 @@ SingleInstanceResult GuiSingleInstance::waitForPrimary(int timeoutMs, int interv
         if (tryListen(errorOut))
             return SingleInstanceResult::Primary;
         if (elapsed.elapsed() >= timeoutMs) {
+            if (const QString foreign = foreignOwnerText(); !foreign.isEmpty()) {
+                if (errorOut)
+                    *errorOut = foreign;
+                return SingleInstanceResult::Failed;
+            }
             QLocalServer::removeServer(m_serverName);
             return tryListen(errorOut) ? SingleInstanceResult::Primary
                                        : SingleInstanceResult::Failed;
@@ -95,6 +179,12 @@ void GuiSingleInstance::handleNewConnection()
         QLocalSocket *connection = m_server->nextPendingConnection();
         if (!connection)
             break;
+        if (peerUid(*connection) != qint64(::getuid())) {
+            qWarning("ignored a single-instance connection from another user");
+            connection->abort();
+            connection->deleteLater();
+            continue;
+        }
         // Any connection is a request to show the window; the message is not checked.
         connection->readAll();
         connection->disconnectFromServer();

@@ -18,6 +18,12 @@ public:
 
     // The per-user name: the application id, ".gui." and the real user id.
     static QString defaultServerName();
+    // The name inside a directory only this user can create files in: the runtime directory
+    // ($XDG_RUNTIME_DIR), else Qt's private runtime directory, else the configuration
+    // directory. Empty, with the reason, when none of them is safe.
+    static QString defaultServerPath(QString *errorOut = nullptr);
+    // A directory owned by this user that no one else may write to.
+    static bool isPrivateDirectory(const QString &path);
 
     QString serverName() const { return m_serverName; }
     bool isListening() const;
@@ -35,6 +41,11 @@ public Q_SLOTS:
     void handleNewConnection();
 
 private:
+    // The socket file behind the name, as QLocalServer places it.
+    QString socketFilePath() const;
+    // Empty when the socket file is absent or this user's; else why it must not be touched.
+    QString foreignOwnerText() const;
+
     QString m_serverName;
     QLocalServer *m_server = nullptr;
 };

@@ -10,6 +10,8 @@ struct GuiUpdateBookkeeping
     qint64 lastNotifiedAt = 0;
     qint64 lastNotifiedVersionNum = 0;
     bool forceUpgrade = false;
+    // "Hide this update": offers up to this version stay quiet until a newer one appears.
+    qint64 mutedVersionNum = 0;
 
     friend bool operator==(const GuiUpdateBookkeeping &, const GuiUpdateBookkeeping &) = default;
 };

@@ -90,6 +90,9 @@ CatalogTreeModel::~CatalogTreeModel() = default;
 
 void CatalogTreeModel::setCatalog(const NodeGroupsInfo &groups, const NodesInfo &nodes)
 {
+    // Cheap when the records share their data, as copies of the same answer do.
+    if (groups == m_groups && nodes == m_nodes)
+        return;
     m_groups = groups;
     m_nodes = nodes;
     rebuild();
@@ -118,6 +121,14 @@ void CatalogTreeModel::setSortOrder(CatalogSort sort)
         return;
     m_sort = sort;
     rebuild();
+}
+
+void CatalogTreeModel::setRegionlessIcon(const QIcon &icon)
+{
+    m_regionlessIcon = icon;
+    // Such groups stand at the top in practice; deeper ones repaint with their branch.
+    if (rowCount() > 0)
+        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, 0), {Qt::DecorationRole});
 }
 
 void CatalogTreeModel::rebuild()
@@ -419,7 +430,7 @@ QString CatalogTreeModel::accessibleText(const Item *item) const
 {
     QStringList parts{item->label};
     if (item->group) {
-        parts << tr("%n location(s)", nullptr, item->nodeCount);
+        parts << tr("locations: %1").arg(item->nodeCount);
     } else {
         if (!item->region.isEmpty())
             parts << countryName(item->region);
@@ -445,7 +456,9 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
     case Qt::DisplayRole:
         return item->label;
     case Qt::DecorationRole:
-        return item->region.isEmpty() ? QVariant() : QVariant(countryFlag(item->region));
+        if (!item->region.isEmpty())
+            return countryFlag(item->region);
+        return item->group && !m_regionlessIcon.isNull() ? QVariant(m_regionlessIcon) : QVariant();
     case Qt::AccessibleTextRole:
         return accessibleText(item);
     case Qt::ToolTipRole:

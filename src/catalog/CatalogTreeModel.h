@@ -6,6 +6,7 @@
 
 #include <QAbstractItemModel>
 #include <QHash>
+#include <QIcon>
 
 #include <memory>
 #include <vector>
@@ -32,6 +33,8 @@ public:
     // The order of the rows within each level.
     void setSortOrder(CatalogSort sort);
     CatalogSort sortOrder() const { return m_sort; }
+    // The picture of groups that stand for no single country (continents, mixed groups).
+    void setRegionlessIcon(const QIcon &icon);
 
     QModelIndex indexForNode(const QString &nodeId) const;
     // A group's selector or code, or a node id.
@@ -72,6 +75,7 @@ private:
     QString m_tab;
     QStringList m_tiers;
     CatalogSort m_sort = CatalogSort::Daemon;
+    QIcon m_regionlessIcon;
     std::unique_ptr<Item> m_root;
     mutable QHash<QString, const Item *> m_byNode;
     mutable QHash<QString, const Item *> m_bySelector;

@@ -1,6 +1,7 @@
 // tovra-ctl: asks the daemon one thing and prints its answer, for diagnostics and scripts.
 #include "ControlClient.h"
 #include "CtlOperations.h"
+#include "PasswordInput.h"
 
 #include <QCoreApplication>
 #include <QJsonDocument>
@@ -28,6 +29,9 @@ QString usageText()
                "The socket defaults to $TOVRA_CONTROL_SOCKET when set, else %1.\n"
                "The time-out defaults to 5000 ms. Booleans are true or false; lists are\n"
                "comma-separated; setMode takes the mode as a JSON object.\n"
+               "login reads the password from standard input when it is given as -, and asks\n"
+               "for it without echo on a terminal when it is left out (login USER [REMEMBER]):\n"
+               "a password on the command line is visible to every local user.\n"
                "\n"
                "Operations:\n")
                .arg(ControlClient::defaultSocketPath()) +
@@ -111,6 +115,11 @@ int main(int argc, char *argv[])
     const CtlOperations::Operation *operation = CtlOperations::find(name);
     if (!operation)
         return usage(QStringLiteral("unknown operation ") + name);
+    if (name == QLatin1String("login") && !arguments.isEmpty()) {
+        const QString problem = PasswordInput::resolveLoginArguments(&arguments, stdin);
+        if (!problem.isEmpty())
+            return usage(problem);
+    }
     const QString problem = CtlOperations::checkArguments(*operation, arguments);
     if (!problem.isEmpty())
         return usage(problem);

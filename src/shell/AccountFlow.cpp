@@ -37,7 +37,8 @@ void AccountFlow::login(const QString &username, const QString &password, bool r
     if (busy())
         return;
     const quint64 id = m_context.ledger->issue(Kind::Login);
-    m_context.window->setSettingsOperationBusy(true);
+    setAccountBusy(true);
+    m_context.window->clearAccountMessage();
     QMetaObject::invokeMethod(m_context.workers->control(), "login", Qt::QueuedConnection,
                               Q_ARG(quint64, id), Q_ARG(QString, username.trimmed()),
                               Q_ARG(QString, password), Q_ARG(bool, rememberMe),
@@ -49,9 +50,10 @@ void AccountFlow::handleLogin(quint64 requestId, const RuntimeInfo &info,
 {
     if (!m_context.ledger->accept(Kind::Login, requestId))
         return;
-    m_context.window->setSettingsOperationBusy(false);
+    setAccountBusy(false);
     if (!errorMessage.isEmpty()) {
-        m_context.window->showOperationError(
+        // Shown on the account page, where the user typed; the page keeps it for a new window.
+        m_context.window->showAccountError(
             failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not sign in")));
         return;
     }
@@ -65,6 +67,8 @@ void AccountFlow::logout(bool fromTray)
         return;
     const quint64 id = m_context.ledger->issue(Kind::Logout);
     m_context.tray->beginLogout(id);
+    setAccountBusy(true);
+    m_context.window->clearAccountMessage();
     Q_UNUSED(fromTray)
     QMetaObject::invokeMethod(m_context.workers->control(), "logout", Qt::QueuedConnection,
                               Q_ARG(quint64, id), Q_ARG(int, kAccountTimeoutMs));
@@ -75,13 +79,21 @@ void AccountFlow::handleLogout(quint64 requestId, const RuntimeInfo &info,
 {
     if (!m_context.ledger->accept(Kind::Logout, requestId))
         return;
+    setAccountBusy(false);
     if (!errorMessage.isEmpty()) {
-        m_context.notifier->error(
-            failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not sign out")));
+        const QString text =
+            failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not sign out"));
+        m_context.window->showAccountError(text);
+        m_context.notifier->error(text);
         return;
     }
     m_context.state->setRuntime(info);
     m_context.state->clearUser();
+}
+
+void AccountFlow::setAccountBusy(bool busy)
+{
+    m_context.window->setAccountOperationInProgress(busy);
 }
 
 void AccountFlow::fetchUser(bool userVisible)
@@ -123,7 +135,11 @@ void AccountFlow::followRuntime(const RuntimeInfo &runtime)
 
 void AccountFlow::requestPurchaseURL(const QString &lang)
 {
+    // One renewal page at a time: a second click while the link is on its way sends nothing.
+    if (m_context.ledger->inFlight(Kind::PurchaseURL))
+        return;
     const quint64 id = m_context.ledger->issue(Kind::PurchaseURL);
+    m_context.window->setRenewalOpening(true);
     QMetaObject::invokeMethod(m_context.workers->control(), "fetchPurchaseURL",
                               Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, lang),
                               Q_ARG(int, kAccountTimeoutMs));
@@ -134,9 +150,14 @@ void AccountFlow::handlePurchaseURL(quint64 requestId, const PurchaseURLInfo &in
 {
     if (!m_context.ledger->accept(Kind::PurchaseURL, requestId))
         return;
-    if (!errorMessage.isEmpty()) {
-        m_context.window->showOperationError(failureText(
-            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not open renewal page")));
+    m_context.window->setRenewalOpening(false);
+    const char *fallback = QT_TRANSLATE_NOOP("TovraAppShell", "Could not open renewal page");
+    if (!errorMessage.isEmpty() || !info.valid) {
+        // A link that failed the checks is the parser's verdict, not the daemon's words.
+        const bool rejectedLink =
+            !info.valid && errorMessage.startsWith(QLatin1String("invalid purchase URL"));
+        m_context.window->showOperationError(rejectedLink ? shellText(fallback)
+                                                          : failureText(errorMessage, fallback));
         return;
     }
     m_context.window->openExternalURL(QUrl(info.url));

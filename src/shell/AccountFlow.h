@@ -31,6 +31,8 @@ public:
                            const QString &errorMessage);
 
 private:
+    void setAccountBusy(bool busy);
+
     ShellContext m_context;
     bool m_userVisibleFetch = false;
     QString m_lastAuthState;

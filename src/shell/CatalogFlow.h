@@ -28,6 +28,8 @@ public:
     bool fetchNodes(bool refresh = false);
     void fetchNodeGroups(bool userVisible);
     void refreshLocations();
+    // Asks for whichever of the two records the store lacks; nodes follow the groups.
+    void loadMissing();
     void setFavorite(const QString &nodeID, bool favorite);
 
     void armNodePingPoll();

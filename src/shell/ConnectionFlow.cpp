@@ -85,16 +85,18 @@ void ConnectionFlow::connectNode(const QString &nodeID, const QString &label)
     const QString id = nodeID.trimmed();
     if (id.isEmpty())
         return;
-    // The tray records the target so that its status line can name it while connecting.
-    const QString trayLabel = m_context.tray->connectTargetLabel(id);
-    start(NodeConnect, id, label.trimmed().isEmpty() ? trayLabel : label.trimmed());
+    const QString given = label.trimmed();
+    start(NodeConnect, id, given.isEmpty() ? m_context.tray->connectTargetLabel(id) : given);
 }
 
 void ConnectionFlow::connectSmart(const QString &selector)
 {
     const QString target = selector.trimmed();
-    if (!target.isEmpty())
-        start(SmartConnect, target, target);
+    if (target.isEmpty())
+        return;
+    // A page names the group it connects to ("Germany") before asking; else the selector.
+    const QString announced = m_context.window->announcedTargetLabel(target);
+    start(SmartConnect, target, announced.isEmpty() ? target : announced);
 }
 
 bool ConnectionFlow::start(ConnectKind kind, const QString &target, const QString &label)
@@ -109,6 +111,9 @@ bool ConnectionFlow::start(ConnectKind kind, const QString &target, const QStrin
     m_connectInProgress = true;
     m_connectKind = kind;
     const quint64 id = m_context.ledger->issue(RequestLedger::Kind::Connection);
+    // Only now, with every check passed: the tray and the window name the same target.
+    m_context.tray->recordConnectTarget(kind == NodeConnect ? target : QString(), label);
+    m_context.window->setConnectInProgress(true, target, label);
     const QString status =
         label.isEmpty()
             ? QCoreApplication::translate("TrayMenuText", "Tovra: connecting...")
@@ -164,6 +169,7 @@ void ConnectionFlow::finishConnect()
 {
     m_connectInProgress = false;
     m_connectKind = NoConnect;
+    m_context.window->setConnectInProgress(false);
     Q_EMIT pendingTargetChanged(QString(), QString());
 }
 

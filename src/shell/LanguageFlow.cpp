@@ -54,9 +54,12 @@ void LanguageFlow::checkSystemLanguage()
         return;
     const RuntimeInfo &runtime = m_context.state->runtime();
     if (!runtime.valid) {
-        // No status yet: look again later, backing off up to half a minute.
-        m_retryTimer.start(m_retryDelayMs);
-        m_retryDelayMs = std::min(m_retryDelayMs * 2, kMaxRetryDelayMs);
+        // No status yet: look again later, backing off up to half a minute. Answers that come
+        // in meanwhile leave a pending retry alone, so only the retries themselves back off.
+        if (!m_retryTimer.isActive()) {
+            m_retryTimer.start(m_retryDelayMs);
+            m_retryDelayMs = std::min(m_retryDelayMs * 2, kMaxRetryDelayMs);
+        }
         return;
     }
     const QString systemTag = TranslationManager::normalize(m_systemLanguage());

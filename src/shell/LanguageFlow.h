@@ -34,6 +34,7 @@ public:
     }
 
     void setLanguage(const QString &source, const QString &language);
+    // Runs on every status and connect answer, failed or unchanged ones too, and on retries.
     void checkSystemLanguage();
     // Restarts when the daemon's effective language differs from the one in use.
     void followEffectiveLanguage(const QString &effectiveLanguage);

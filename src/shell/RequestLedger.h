@@ -38,6 +38,13 @@ public:
         PurchaseURL,
         UpdateCheck,
         UpdateDownload,
+        // What the Settings page loads when it comes into view; apart from the changes of the
+        // same records so that a failed load is never worded as a failed change.
+        SettingsStatus,
+        KillSwitchLoad,
+        LanguageLoad,
+        APIURLLoad,
+        SplitDNSLoad,
     };
 
     static constexpr quint64 kFirstId = Q_UINT64_C(4294967296);

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "RequestLedger.h"
+#include "SettingsNotes.h"
 #include "ShellNotifier.h"
 #include "ShellText.h"
 #include "ShellWorkers.h"
@@ -17,6 +18,7 @@ namespace {
 constexpr int kModeTimeoutMs = 20000;
 constexpr int kSettingsTimeoutMs = 10000;
 constexpr int kRepairTimeoutMs = 30000;
+constexpr int kStatusTimeoutMs = 1500;
 
 } // namespace
 
@@ -139,6 +141,7 @@ void SettingsFlow::setKillSwitchEnabled(bool enabled)
 
 void SettingsFlow::sendKillSwitchEnabled(bool enabled)
 {
+    m_killSwitchModeChange = false;
     const quint64 id = m_context.ledger->issue(Kind::KillSwitch);
     QMetaObject::invokeMethod(m_context.workers->control(), "setKillSwitchEnabled",
                               Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(bool, enabled),
@@ -153,6 +156,7 @@ void SettingsFlow::setKillSwitchMode(const QString &mode)
             QT_TRANSLATE_NOOP("TovraAppShell", "Please wait for the current operation to finish")));
         return;
     }
+    m_killSwitchModeChange = true;
     const quint64 id = m_context.ledger->issue(Kind::KillSwitch);
     QMetaObject::invokeMethod(m_context.workers->control(), "setKillSwitchMode",
                               Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, mode),
@@ -190,14 +194,28 @@ void SettingsFlow::cancelPendingKillSwitchEnable()
 void SettingsFlow::handleKillSwitch(quint64 requestId, const KillSwitchInfo &info,
                                     const QString &errorMessage)
 {
+    if (m_context.ledger->accept(Kind::KillSwitchLoad, requestId)) {
+        noteLoad(SettingsNotes::KillSwitch, errorMessage,
+                 QT_TRANSLATE_NOOP("TovraAppShell", "Could not load kill switch"));
+        if (errorMessage.isEmpty())
+            m_context.state->setKillSwitch(info);
+        return;
+    }
     if (!m_context.ledger->accept(Kind::KillSwitch, requestId))
         return;
     settingsBusyChanged();
+    const bool modeChange = m_killSwitchModeChange;
+    m_killSwitchModeChange = false;
     if (!errorMessage.isEmpty()) {
-        m_context.window->showSettingsOperationError(failureText(
-            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update kill switch")));
+        const QString text = failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update kill switch"));
+        // A refused mode (an old daemon has none) is told where the modes are.
+        if (modeChange)
+            m_context.window->setSettingsNote(SettingsNotes::KillSwitchMode, text);
+        m_context.window->showSettingsOperationError(text);
         return;
     }
+    m_context.window->setSettingsNote(SettingsNotes::KillSwitchMode, QString());
     m_context.state->setKillSwitch(info);
     m_context.tray->refreshStatus();
 }
@@ -261,7 +279,8 @@ void SettingsFlow::handleSplitRuleImport(quint64 requestId, const SplitRuleMutat
             ? QCoreApplication::translate(
                   "TovraAppShell", "Custom split rules updated (%n rule(s))", nullptr, info.count)
             : shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Custom split rules unchanged"));
-    const QString kind = info.changed ? QStringLiteral("success") : QStringLiteral("info");
+    // Both outcomes are successes: the daemon took the rules, whether or not they differed.
+    const QString kind = QStringLiteral("success");
     // The rule editor shows it too: it is where the user is looking.
     m_context.window->showSplitRulesResult(result, kind);
     m_context.notifier->post(result, kind);
@@ -287,9 +306,12 @@ void SettingsFlow::handleConfigPaths(quint64 requestId, const ConfigPaths &paths
         return;
     const bool openLogs = m_openLogsPending;
     m_openLogsPending = false;
+    const char *failure = QT_TRANSLATE_NOOP("TovraAppShell", "Could not load config paths");
+    noteLoad(SettingsNotes::ConfigPaths, errorMessage, failure);
     if (!errorMessage.isEmpty()) {
-        m_context.window->showSettingsOperationError(failureText(
-            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not load config paths")));
+        // Opening the logs was asked for by hand; a background load only leaves its note.
+        if (openLogs)
+            m_context.window->showSettingsOperationError(failureText(errorMessage, failure));
         return;
     }
     m_context.state->setConfigPaths(paths);
@@ -300,7 +322,6 @@ void SettingsFlow::handleConfigPaths(quint64 requestId, const ConfigPaths &paths
 void SettingsFlow::setAPIURL(const QString &apiURL)
 {
     m_apiURLReset = false;
-    m_apiURLChange = true;
     const quint64 id = m_context.ledger->issue(Kind::APIURL);
     QMetaObject::invokeMethod(m_context.workers->control(), "setAPIURL", Qt::QueuedConnection,
                               Q_ARG(quint64, id), Q_ARG(QString, apiURL.trimmed()),
@@ -311,7 +332,6 @@ void SettingsFlow::setAPIURL(const QString &apiURL)
 void SettingsFlow::resetAPIURL()
 {
     m_apiURLReset = true;
-    m_apiURLChange = true;
     const quint64 id = m_context.ledger->issue(Kind::APIURL);
     QMetaObject::invokeMethod(m_context.workers->control(), "resetAPIURL", Qt::QueuedConnection,
                               Q_ARG(quint64, id), Q_ARG(int, kSettingsTimeoutMs));
@@ -321,29 +341,32 @@ void SettingsFlow::resetAPIURL()
 void SettingsFlow::handleAPIURL(quint64 requestId, const APIURLConfigInfo &info,
                                 const QString &errorMessage)
 {
+    if (m_context.ledger->accept(Kind::APIURLLoad, requestId)) {
+        noteLoad(SettingsNotes::APIURL, errorMessage,
+                 QT_TRANSLATE_NOOP("TovraAppShell", "Could not load API URL"));
+        if (errorMessage.isEmpty())
+            m_context.state->setAPIURLConfig(info);
+        return;
+    }
     if (!m_context.ledger->accept(Kind::APIURL, requestId))
         return;
     settingsBusyChanged();
     const bool reset = m_apiURLReset;
-    const bool userChange = m_apiURLChange;
     m_apiURLReset = false;
-    m_apiURLChange = false;
     if (!errorMessage.isEmpty()) {
         m_context.window->showSettingsOperationError(failureText(
             errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update API URL")));
         return;
     }
     m_context.state->setAPIURLConfig(info);
-    if (!userChange)
-        return;
     if (reset)
         m_context.notifier->success(
             shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL reset to default")));
     else if (info.validated)
         m_context.notifier->success(
             shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL validated and saved")));
-    else
-        m_context.notifier->warning(
+    else // saved all the same: the daemon validates it when it next reaches the service
+        m_context.notifier->success(
             shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL saved but not validated")));
 }
 
@@ -393,12 +416,13 @@ void SettingsFlow::handleProxyListen(quint64 requestId, const ProxyListenResultI
                                                         "Could not update proxy listen address")));
         return;
     }
-    if (info.appliesOnReconnect)
-        m_context.notifier->success(shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address saved for reconnect")));
-    else
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address updated")));
+    const QString text =
+        info.appliesOnReconnect
+            ? shellText(
+                  QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address saved for reconnect"))
+            : shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address updated"));
+    m_context.notifier->success(text);
+    m_context.window->setSettingsNote(SettingsNotes::ProxyListen, text);
     RuntimeInfo runtime = m_context.state->runtime();
     runtime.proxyListeners = info.proxyListeners;
     m_context.state->setRuntime(runtime);
@@ -406,7 +430,6 @@ void SettingsFlow::handleProxyListen(quint64 requestId, const ProxyListenResultI
 
 void SettingsFlow::setSplitDNSLocal(const QStringList &servers)
 {
-    m_splitDNSMutation = true;
     const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
     QMetaObject::invokeMethod(m_context.workers->control(), "setSplitDNSLocal",
                               Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QStringList, servers),
@@ -416,7 +439,6 @@ void SettingsFlow::setSplitDNSLocal(const QStringList &servers)
 
 void SettingsFlow::setSplitDNSPolicy(const QString &policy)
 {
-    m_splitDNSMutation = true;
     const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
     QMetaObject::invokeMethod(m_context.workers->control(), "setSplitDNSPolicy",
                               Qt::QueuedConnection, Q_ARG(quint64, id), Q_ARG(QString, policy),
@@ -426,7 +448,6 @@ void SettingsFlow::setSplitDNSPolicy(const QString &policy)
 
 void SettingsFlow::clearSplitDNSLocal()
 {
-    m_splitDNSMutation = true;
     const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
     QMetaObject::invokeMethod(m_context.workers->control(), "clearSplitDNSLocal",
                               Qt::QueuedConnection, Q_ARG(quint64, id),
@@ -436,7 +457,6 @@ void SettingsFlow::clearSplitDNSLocal()
 
 void SettingsFlow::resetSplitDNS()
 {
-    m_splitDNSMutation = true;
     const quint64 id = m_context.ledger->issue(Kind::SplitDNS);
     QMetaObject::invokeMethod(m_context.workers->control(), "resetSplitDNS", Qt::QueuedConnection,
                               Q_ARG(quint64, id), Q_ARG(int, kSettingsTimeoutMs));
@@ -446,21 +466,23 @@ void SettingsFlow::resetSplitDNS()
 void SettingsFlow::handleSplitDNS(quint64 requestId, const SplitDNSInfo &info,
                                   const QString &errorMessage)
 {
+    if (m_context.ledger->accept(Kind::SplitDNSLoad, requestId)) {
+        noteLoad(SettingsNotes::SplitDNS, errorMessage,
+                 QT_TRANSLATE_NOOP("TovraAppShell", "Could not load split DNS"));
+        if (errorMessage.isEmpty())
+            m_context.state->setSplitDNS(info);
+        return;
+    }
     if (!m_context.ledger->accept(Kind::SplitDNS, requestId))
         return;
     settingsBusyChanged();
-    const bool mutation = m_splitDNSMutation;
-    m_splitDNSMutation = false;
     if (!errorMessage.isEmpty()) {
-        if (mutation)
-            m_context.window->showSettingsOperationError(failureText(
-                errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update split DNS")));
+        m_context.window->showSettingsOperationError(failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not update split DNS")));
         return;
     }
     m_context.state->setSplitDNS(info);
-    if (mutation)
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Split DNS updated")));
+    m_context.notifier->success(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Split DNS updated")));
 }
 
 void SettingsFlow::repairDiagnostics()
@@ -480,7 +502,7 @@ void SettingsFlow::handleRepair(quint64 requestId, const RepairResultInfo &info,
     if (!m_context.ledger->accept(Kind::Repair, requestId))
         return;
     settingsBusyChanged();
-    Q_UNUSED(info)
+    m_context.window->setRepairResult(info);
     if (!errorMessage.isEmpty()) {
         m_context.window->showSettingsOperationError(
             failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Repair failed")));
@@ -492,21 +514,76 @@ void SettingsFlow::handleRepair(quint64 requestId, const RepairResultInfo &info,
 
 void SettingsFlow::refreshSettingsPage()
 {
-    const QList<std::pair<Kind, const char *>> fetches{
-        {Kind::APIURL, "fetchAPIURLConfig"},
-        {Kind::SplitDNS, "fetchSplitDNS"},
-    };
-    for (const auto &[kind, method] : fetches) {
-        // A change on its way answers with the fresh record anyway.
-        if (m_context.ledger->inFlight(kind))
-            continue;
-        if (kind == Kind::APIURL)
-            m_apiURLChange = false;
-        else
-            m_splitDNSMutation = false;
-        const quint64 id = m_context.ledger->issue(kind);
-        QMetaObject::invokeMethod(m_context.workers->control(), method, Qt::QueuedConnection,
-                                  Q_ARG(quint64, id), Q_ARG(int, kSettingsTimeoutMs));
-    }
+    load(Kind::SettingsStatus, "fetchStatus");
+    // A change on its way answers with the fresh record anyway.
+    if (!m_context.ledger->inFlight(Kind::KillSwitch))
+        load(Kind::KillSwitchLoad, "fetchKillSwitch");
+    if (!m_context.ledger->inFlight(Kind::APIURL))
+        load(Kind::APIURLLoad, "fetchAPIURLConfig");
+    if (!m_context.ledger->inFlight(Kind::Language))
+        load(Kind::LanguageLoad, "fetchLanguageConfig");
+    if (!m_context.ledger->inFlight(Kind::SplitDNS))
+        load(Kind::SplitDNSLoad, "fetchSplitDNS");
     refreshConfigPaths(false);
+}
+
+void SettingsFlow::load(Kind kind, const char *method)
+{
+    if (m_context.ledger->inFlight(kind))
+        return;
+    const int timeoutMs = kind == Kind::SettingsStatus ? kStatusTimeoutMs : kSettingsTimeoutMs;
+    const quint64 id = m_context.ledger->issue(kind);
+    QMetaObject::invokeMethod(m_context.workers->control(), method, Qt::QueuedConnection,
+                              Q_ARG(quint64, id), Q_ARG(int, timeoutMs));
+}
+
+void SettingsFlow::noteLoad(const QString &key, const QString &errorMessage, const char *fallback)
+{
+    m_context.window->setSettingsNote(
+        key, errorMessage.isEmpty() ? QString() : failureText(errorMessage, fallback));
+}
+
+bool SettingsFlow::handleStatus(quint64 requestId, const RuntimeInfo &info,
+                                const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::SettingsStatus, requestId))
+        return false;
+    noteLoad(SettingsNotes::Status, errorMessage,
+             QT_TRANSLATE_NOOP("TovraAppShell", "Could not reach the Tovra service"));
+    if (errorMessage.isEmpty())
+        m_context.state->setRuntime(info);
+    return true;
+}
+
+bool SettingsFlow::handleLanguageLoad(quint64 requestId, const LanguageConfigInfo &info,
+                                      const QString &errorMessage)
+{
+    if (!m_context.ledger->accept(Kind::LanguageLoad, requestId))
+        return false;
+    noteLoad(SettingsNotes::Language, errorMessage,
+             QT_TRANSLATE_NOOP("TovraAppShell", "Could not load languages"));
+    if (errorMessage.isEmpty())
+        m_context.state->setLanguageConfig(info);
+    return true;
+}
+
+void SettingsFlow::noteUpdateCheckStarted()
+{
+    m_context.window->setSettingsNote(
+        SettingsNotes::UpdateCheck,
+        shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Checking for updates...")));
+}
+
+void SettingsFlow::noteUpdateCheckFinished(const UpdateInfo &info, const QString &errorMessage)
+{
+    QString text;
+    if (!errorMessage.isEmpty())
+        text = failureText(errorMessage,
+                           QT_TRANSLATE_NOOP("TovraAppShell", "Could not check for updates"));
+    else if (info.updateAvailable)
+        text = QCoreApplication::translate("TovraAppShell", "Tovra %1 is available")
+                   .arg(info.versionCode);
+    else
+        text = shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Tovra is up to date"));
+    m_context.window->setSettingsNote(SettingsNotes::UpdateCheck, text);
 }

@@ -1,17 +1,21 @@
 #pragma once
 
+#include "RequestLedger.h"
 #include "ShellContext.h"
 
 #include "APIURLConfigInfo.h"
 #include "AutoConnectConfigInfo.h"
 #include "ConfigPaths.h"
 #include "KillSwitchInfo.h"
+#include "LanguageConfigInfo.h"
 #include "ModeInfo.h"
 #include "ProxyListenResultInfo.h"
 #include "RepairResultInfo.h"
+#include "RuntimeInfo.h"
 #include "SplitDNSInfo.h"
 #include "SplitRuleMutationInfo.h"
 #include "SplitRulesInfo.h"
+#include "UpdateInfo.h"
 
 #include <QObject>
 #include <QStringList>
@@ -53,8 +57,18 @@ public:
     void clearSplitDNSLocal();
     void resetSplitDNS();
     void repairDiagnostics();
-    // Fresh settings records whenever the settings page comes into view.
+    // Fresh settings records whenever the settings page comes into view: status, kill switch,
+    // API URL, language, split DNS and the daemon's paths. A failed load becomes a line beside
+    // its section on the page, never a pop-up, so a daemon that is down says so once.
     void refreshSettingsPage();
+    // The page's "Check for updates" outcome; the update flow itself tells the rest.
+    void noteUpdateCheckStarted();
+    void noteUpdateCheckFinished(const UpdateInfo &info, const QString &errorMessage);
+
+    // Each returns false when the answer is not to one of the page's loads.
+    bool handleStatus(quint64 requestId, const RuntimeInfo &info, const QString &errorMessage);
+    bool handleLanguageLoad(quint64 requestId, const LanguageConfigInfo &info,
+                            const QString &errorMessage);
 
     void handleMode(quint64 requestId, const ModeInfo &info, const QString &errorMessage);
     void handleKillSwitch(quint64 requestId, const KillSwitchInfo &info,
@@ -78,12 +92,14 @@ private:
     void settingsBusyChanged();
     void modeBusyChanged();
     void applyMode(const ModeInfo &mode);
+    void load(RequestLedger::Kind kind, const char *method);
+    // Records a load's outcome as the page's note: empty on success, else the load text.
+    void noteLoad(const QString &key, const QString &errorMessage, const char *fallback);
 
     ShellContext m_context;
     bool m_pendingKillSwitchEnable = false;
     bool m_importRefreshPending = false;
     bool m_openLogsPending = false;
     bool m_apiURLReset = false;
-    bool m_apiURLChange = false;
-    bool m_splitDNSMutation = false;
+    bool m_killSwitchModeChange = false;
 };

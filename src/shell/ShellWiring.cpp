@@ -81,6 +81,9 @@ void ShellWiring::connectTray(TovraAppShell *shell, const ShellContext &context)
                      &TovraAppShell::switchToAutoAndEnableKillSwitch);
     QObject::connect(tray, &TovraTrayApp::chooseModeForKillSwitchRequested, shell,
                      &TovraAppShell::chooseModeForKillSwitch);
+    // The tray polls the status; the window shows the same verdict on its pages.
+    QObject::connect(tray, &TovraTrayApp::daemonReachabilityChanged, window,
+                     &WindowController::setDaemonUnavailableReason);
 }
 
 void ShellWiring::connectWindow(TovraAppShell *shell, const ShellContext &context,
@@ -97,6 +100,7 @@ void ShellWiring::connectWindow(TovraAppShell *shell, const ShellContext &contex
     QObject::connect(w, &W::importSplitRulesRequested, shell, &S::importModeSplitRules);
     QObject::connect(w, &W::setLocalNetworkRequested, shell, &S::setLocalNetworkPreference);
     QObject::connect(w, &W::refreshLocationsRequested, shell, &S::refreshLocations);
+    QObject::connect(w, &W::loadLocationsRequested, shell, &S::loadLocations);
     QObject::connect(w, &W::connectNodeRequested, shell, &S::connectNode);
     QObject::connect(w, &W::connectSmartRequested, shell, &S::connectSmart);
     QObject::connect(w, &W::setNodeFavoriteRequested, shell, &S::setLocationFavorite);

@@ -54,16 +54,11 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     ShellWiring::connectWindow(this, m_context, m_settings);
     connect(m_context.state, &AppState::runtimeChanged, this, &TovraAppShell::handleRuntimeChanged);
     connect(m_language, &LanguageFlow::restartRequested, this, &TovraAppShell::restartRequested);
-    connect(m_connection, &ConnectionFlow::runtimeAnswered, this, [this] {
-        m_catalog->fetchNodes(false);
-        m_language->checkSystemLanguage();
-    });
-    connect(m_update, &UpdateFlow::updateDialogRequested, this, [this](bool forced) {
-        if (forced)
-            m_context.notifier->warning(shellText(
-                QT_TRANSLATE_NOOP("TovraAppShell", "Tovra must be updated before you can connect. "
-                                                   "Download the installer or exit Tovra.")));
-    });
+    connect(m_connection, &ConnectionFlow::runtimeAnswered, this,
+            [this] { m_catalog->fetchNodes(false); });
+    // Failed connect answers count as well as successful ones.
+    connect(m_context.workers->control(), &ControlWorker::connectFinished, this,
+            [this] { m_language->checkSystemLanguage(); });
 }
 
 TovraAppShell::~TovraAppShell()
@@ -122,7 +117,7 @@ void TovraAppShell::start()
     m_context.tray->start();
     if (!trayAvailable || showOnLaunch)
         m_context.window->showOrRaise();
-    m_update->schedule(m_update->forceUpgradePending() ? 0 : kFirstUpdateCheckDelayMs);
+    m_update->scheduleAtStart(kFirstUpdateCheckDelayMs);
 }
 
 void TovraAppShell::setCompatibility(CompatibilityState state, const QString &text)
@@ -292,6 +287,8 @@ void TovraAppShell::setSettingsLanguage(QString source, QString language)
 void TovraAppShell::checkSettingsUpdate()
 {
     m_update->check(true);
+    if (m_update->checkInFlight())
+        m_settings->noteUpdateCheckStarted();
 }
 
 void TovraAppShell::startGUIUpdateDownload()
@@ -389,6 +386,11 @@ void TovraAppShell::requestPurchaseURL(QString lang)
     m_account->requestPurchaseURL(lang);
 }
 
+void TovraAppShell::loadLocations()
+{
+    m_catalog->loadMissing();
+}
+
 void TovraAppShell::pollWindowNodePing()
 {
     m_catalog->pollNodePing();
@@ -402,8 +404,12 @@ void TovraAppShell::pollWindowCatalogRefresh()
 void TovraAppShell::handleWindowStatusFinished(quint64 requestId, RuntimeInfo info,
                                                QString errorMessage)
 {
-    if (!m_connection->handleStatus(requestId, info, errorMessage))
+    if (!m_connection->handleStatus(requestId, info, errorMessage) &&
+        !m_settings->handleStatus(requestId, info, errorMessage))
         m_catalog->handleStatus(requestId, info, errorMessage);
+    // Every status answer, the tray's polls included, failed or not: while the daemon is away
+    // this keeps the language sync retrying with its back-off.
+    m_language->checkSystemLanguage();
 }
 
 void TovraAppShell::handleWindowNodesFinished(quint64 requestId, NodesInfo info,
@@ -473,13 +479,17 @@ void TovraAppShell::handleWindowAutoConnectFinished(quint64 requestId, AutoConne
 void TovraAppShell::handleWindowLanguageFinished(quint64 requestId, LanguageConfigInfo info,
                                                  QString errorMessage)
 {
-    m_language->handleLanguage(requestId, info, errorMessage);
+    if (!m_settings->handleLanguageLoad(requestId, info, errorMessage))
+        m_language->handleLanguage(requestId, info, errorMessage);
 }
 
 void TovraAppShell::handleWindowUpdateFinished(quint64 requestId, UpdateInfo info,
                                                QString errorMessage)
 {
+    const bool latest = m_context.ledger->isLatest(RequestLedger::Kind::UpdateCheck, requestId);
     m_update->handleUpdateFinished(requestId, info, errorMessage);
+    if (latest)
+        m_settings->noteUpdateCheckFinished(info, errorMessage);
 }
 
 void TovraAppShell::handleGUIUpdateDownloadFinished(quint64 requestId, GUIUpdateDownloadInfo info,

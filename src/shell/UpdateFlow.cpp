@@ -7,38 +7,20 @@
 #include "ShellNotifier.h"
 #include "ShellText.h"
 #include "ShellWorkers.h"
+#include "UpdateDialog.h"
+#include "UpdateDownloadFlow.h"
+#include "UpdateNoticePolicy.h"
 #include "WindowController.h"
 
 #include <QDateTime>
-#include <QDesktopServices>
 
 #include <algorithm>
 
 namespace {
 
 constexpr int kCheckTimeoutMs = 20000;
-constexpr int kDownloadTimeoutMs = 10000;
 constexpr qint64 kRetryAfterAttemptS = 3600;
 constexpr qint64 kRecheckAfterSuccessS = 86400;
-
-qint64 nowSeconds()
-{
-    return QDateTime::currentSecsSinceEpoch();
-}
-
-// Transport texts that mean the daemon's answer never arrived, not that it refused.
-bool isUnanswered(const QString &error)
-{
-    return error == QLatin1String("control request timed out") ||
-           error == QLatin1String("control request canceled") ||
-           error == QLatin1String("invalid control response");
-}
-
-bool isActiveState(const QString &state)
-{
-    return state == QLatin1String("checking") || state == QLatin1String("downloading") ||
-           state == QLatin1String("verifying") || state == QLatin1String("canceling");
-}
 
 } // namespace
 
@@ -46,13 +28,35 @@ UpdateFlow::UpdateFlow(const ShellContext &context, const QString &runningVersio
     : QObject(parent)
     , m_context(context)
     , m_runningVersion(runningVersion.trimmed())
-    , m_openUrl([](const QUrl &url) { return QDesktopServices::openUrl(url); })
+    , m_clock([] { return QDateTime::currentSecsSinceEpoch(); })
+    , m_download(new UpdateDownloadFlow(
+          context, [this] { return dialog(); }, this))
 {
     m_checkTimer.setSingleShot(true);
-    m_pollTimer.setSingleShot(true);
     connect(&m_checkTimer, &QTimer::timeout, this, [this] { check(false); });
-    connect(&m_pollTimer, &QTimer::timeout, this, &UpdateFlow::pollDownload);
+    connect(m_download, &UpdateDownloadFlow::downloadChanged, this, &UpdateFlow::downloadChanged);
+    // The next download must start from a fresh offer.
+    connect(m_download, &UpdateDownloadFlow::releaseChanged, this,
+            [this] { m_recheckBeforeDownload = true; });
     m_forceUpgradePending = m_context.preferences->updateBookkeeping(m_runningVersion).forceUpgrade;
+}
+
+UpdateDialog *UpdateFlow::dialog()
+{
+    // Made on first use, so that a start without an offer builds no dialog.
+    UpdateDialog *dialog = m_context.window->updateDialog();
+    if (m_wiredDialog != dialog) {
+        m_wiredDialog = dialog;
+        connect(dialog, &UpdateDialog::hideUpdateRequested, this, &UpdateFlow::muteOffer);
+        connect(dialog, &UpdateDialog::openDownloadLinkRequested, this,
+                &UpdateFlow::openDownloadLink);
+    }
+    return dialog;
+}
+
+void UpdateFlow::setUrlOpener(UrlOpener opener)
+{
+    m_download->setUrlOpener(std::move(opener));
 }
 
 qint64 UpdateFlow::dueAtSeconds() const
@@ -63,23 +67,31 @@ qint64 UpdateFlow::dueAtSeconds() const
         return bookkeeping.lastAttemptAt + kRetryAfterAttemptS;
     if (bookkeeping.lastSuccessfulCheckAt >= 1)
         return bookkeeping.lastSuccessfulCheckAt + kRecheckAfterSuccessS;
-    return nowSeconds();
+    return now();
 }
 
 void UpdateFlow::schedule(qint64 minDelayMs)
 {
     if (checkInFlight() || m_runningVersion.isEmpty())
         return;
-    const qint64 untilDueMs = std::max<qint64>(0, (dueAtSeconds() - nowSeconds()) * 1000);
+    const qint64 untilDueMs = std::max<qint64>(0, (dueAtSeconds() - now()) * 1000);
     const qint64 delay = std::min<qint64>(std::max(minDelayMs, untilDueMs), 2147483647);
     m_checkTimer.start(int(delay));
+}
+
+void UpdateFlow::scheduleAtStart(qint64 minDelayMs)
+{
+    if (m_forceUpgradePending && !m_runningVersion.isEmpty() && !checkInFlight())
+        m_checkTimer.start(0);
+    else
+        schedule(minDelayMs);
 }
 
 void UpdateFlow::onActivation()
 {
     if (checkInFlight() || m_checkTimer.isActive())
         return;
-    if (dueAtSeconds() <= nowSeconds())
+    if (dueAtSeconds() <= now())
         check(false);
     else
         schedule(0);
@@ -103,7 +115,7 @@ void UpdateFlow::check(bool userVisible)
     if (checkInFlight())
         return;
     GuiUpdateBookkeeping bookkeeping = m_context.preferences->updateBookkeeping(m_runningVersion);
-    bookkeeping.lastAttemptAt = nowSeconds();
+    bookkeeping.lastAttemptAt = now();
     m_context.preferences->setUpdateBookkeeping(m_runningVersion, bookkeeping);
     const quint64 id = m_context.ledger->issue(RequestLedger::Kind::UpdateCheck);
     QMetaObject::invokeMethod(m_context.workers->updateCheck(), "checkUpdate", Qt::QueuedConnection,
@@ -119,35 +131,76 @@ void UpdateFlow::handleUpdateFinished(quint64 requestId, const UpdateInfo &info,
     const bool userVisible = m_userVisibleCheck;
     m_userVisibleCheck = false;
     if (!errorMessage.isEmpty()) {
-        if (userVisible)
-            m_context.notifier->error(failureText(
-                errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not check for updates")));
+        const QString text = failureText(
+            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not check for updates"));
+        if (m_downloadAfterCheck) {
+            m_downloadAfterCheck = false;
+            m_recheckBeforeDownload = true;
+            dialog()->showFailure(text, UpdateDialog::Remedy::Retry);
+        } else if (userVisible) {
+            m_context.notifier->error(text);
+        }
         schedule(0);
         return;
     }
     m_context.state->setUpdate(info);
     GuiUpdateBookkeeping bookkeeping = m_context.preferences->updateBookkeeping(m_runningVersion);
-    bookkeeping.lastSuccessfulCheckAt = nowSeconds();
+    bookkeeping.lastSuccessfulCheckAt = now();
     bookkeeping.forceUpgrade = info.updateAvailable && info.forceUpgrade;
     m_forceUpgradePending = bookkeeping.forceUpgrade;
-    if (info.updateAvailable && qint64(info.versionNum) > bookkeeping.lastNotifiedVersionNum) {
-        bookkeeping.lastNotifiedAt = nowSeconds();
-        bookkeeping.lastNotifiedVersionNum = qint64(info.versionNum);
-        Q_EMIT updateDialogRequested(m_forceUpgradePending);
-    } else if (info.updateAvailable && (userVisible || m_forceUpgradePending)) {
-        Q_EMIT updateDialogRequested(m_forceUpgradePending);
-    }
     m_context.preferences->setUpdateBookkeeping(m_runningVersion, bookkeeping);
-    if (userVisible && !info.updateAvailable)
+
+    if (m_downloadAfterCheck) {
+        downloadAfterCheck(info.updateAvailable);
+    } else if (info.updateAvailable) {
+        const qint64 version = qint64(info.versionNum);
+        const auto verdict = UpdateNoticePolicy::decide(bookkeeping, version, m_forceUpgradePending,
+                                                        userVisible, now());
+        // Only an offer that reached the screen counts as told.
+        if (verdict == UpdateNoticePolicy::Verdict::Show && presentOffer(m_forceUpgradePending)) {
+            UpdateNoticePolicy::recordShown(&bookkeeping, version, now());
+            m_context.preferences->setUpdateBookkeeping(m_runningVersion, bookkeeping);
+        }
+    } else if (userVisible) {
         m_context.notifier->success(
             shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Tovra is up to date")));
+    }
     schedule(0);
+}
+
+void UpdateFlow::downloadAfterCheck(bool available)
+{
+    m_downloadAfterCheck = false;
+    UpdateDialog *dialog = this->dialog();
+    dialog->setOffer(m_context.state->update(), m_runningVersion, m_forceUpgradePending);
+    if (!available) {
+        m_context.window->hideUpdateDialog();
+        dialog->showOffer();
+        m_context.notifier->success(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Tovra is up to date")));
+        return;
+    }
+    startDownload();
 }
 
 bool UpdateFlow::updateComplete() const
 {
     const UpdateInfo &update = m_context.state->update();
     return update.valid && update.updateAvailable && !update.versionCode.isEmpty();
+}
+
+bool UpdateFlow::presentOffer(bool forced)
+{
+    UpdateDialog *dialog = this->dialog();
+    dialog->setOffer(m_context.state->update(), m_runningVersion, forced);
+    // A download under way keeps showing its progress; anything else starts from the offer.
+    if (!m_download->inProgress() && !m_downloadAfterCheck)
+        dialog->showOffer();
+    m_context.window->showUpdateDialog();
+    if (!dialog->isVisible())
+        return false;
+    Q_EMIT updateDialogShown(forced);
+    return true;
 }
 
 bool UpdateFlow::blocksConnect()
@@ -162,167 +215,94 @@ bool UpdateFlow::blocksConnect()
                 "TovraAppShell", "A required Tovra update is being checked before connecting.")),
             5000);
     } else {
-        Q_EMIT updateDialogRequested(true);
+        presentOffer(true);
     }
     return true;
 }
 
 bool UpdateFlow::downloadInProgress() const
 {
-    return m_pendingRequest == DownloadRequest::Start ||
-           m_pendingRequest == DownloadRequest::Cancel || isActiveState(m_download.state);
+    return m_download->inProgress();
+}
+
+GUIUpdateDownloadInfo UpdateFlow::download() const
+{
+    return m_download->download();
 }
 
 void UpdateFlow::startDownload()
 {
+    UpdateDialog *dialog = this->dialog();
+    if (m_download->inProgress())
+        return;
     if (checkInFlight()) {
-        m_context.notifier->info(shellText(QT_TRANSLATE_NOOP(
-            "TovraAppShell", "Finishing the latest update check before starting the download...")));
+        // Wait for the check to land, then go on with the offer it brings.
+        m_downloadAfterCheck = true;
+        dialog->showPreparing();
+        dialog->showNotice(
+            shellText(QT_TRANSLATE_NOOP("TovraAppShell",
+                                        "Finishing the latest update check before starting the "
+                                        "download...")),
+            QStringLiteral("info"));
+        return;
+    }
+    if (m_recheckBeforeDownload) {
+        m_recheckBeforeDownload = false;
+        m_downloadAfterCheck = true;
+        dialog->showPreparing();
+        check(false);
         return;
     }
     if (!updateComplete()) {
-        m_context.notifier->warning(shellText(QT_TRANSLATE_NOOP(
-            "TovraAppShell", "Update information is unavailable. Check for updates again.")));
+        m_recheckBeforeDownload = true;
+        const QString text = shellText(QT_TRANSLATE_NOOP(
+            "TovraAppShell", "Update information is unavailable. Check for updates again."));
+        dialog->showFailure(text, UpdateDialog::Remedy::Retry);
+        if (!dialog->isVisible())
+            m_context.notifier->warning(text);
         return;
     }
-    if (downloadInProgress())
+    const UpdateInfo &offer = m_context.state->update();
+    // The verified installer of this very release is already here: open it again.
+    if (m_download->readyFor(offer)) {
+        m_download->openInstaller();
         return;
-    m_cancelRequested = false;
-    m_installerOpened = false;
-    sendDownloadRequest(DownloadRequest::Start);
+    }
+    m_download->start(offer, m_runningVersion);
 }
 
 void UpdateFlow::cancelDownload()
 {
-    if (!downloadInProgress())
+    if (m_downloadAfterCheck) {
+        m_downloadAfterCheck = false;
+        dialog()->showOffer();
         return;
-    m_cancelRequested = true;
-    m_context.notifier->info(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Canceling...")));
-    sendDownloadRequest(DownloadRequest::Cancel);
+    }
+    m_download->cancel();
 }
 
 void UpdateFlow::pollDownload()
 {
-    if (m_pendingRequest != DownloadRequest::None)
+    m_download->poll();
+}
+
+void UpdateFlow::muteOffer()
+{
+    const UpdateInfo &offer = m_context.state->update();
+    if (!offer.valid || !offer.updateAvailable || offer.forceUpgrade)
         return;
-    sendDownloadRequest(DownloadRequest::Poll);
+    GuiUpdateBookkeeping bookkeeping = m_context.preferences->updateBookkeeping(m_runningVersion);
+    UpdateNoticePolicy::mute(&bookkeeping, qint64(offer.versionNum));
+    m_context.preferences->setUpdateBookkeeping(m_runningVersion, bookkeeping);
 }
 
-void UpdateFlow::sendDownloadRequest(DownloadRequest request)
+void UpdateFlow::openDownloadLink()
 {
-    m_pollTimer.stop();
-    m_pendingRequest = request;
-    const quint64 id = m_context.ledger->issue(RequestLedger::Kind::UpdateDownload);
-    ControlWorker *worker = m_context.workers->download();
-    if (request == DownloadRequest::Start) {
-        const UpdateInfo &update = m_context.state->update();
-        QMetaObject::invokeMethod(worker, "startGUIUpdateDownload", Qt::QueuedConnection,
-                                  Q_ARG(quint64, id), Q_ARG(QString, update.versionCode),
-                                  Q_ARG(qint64, qint64(update.versionNum)),
-                                  Q_ARG(int, kDownloadTimeoutMs));
-    } else {
-        const char *method = request == DownloadRequest::Cancel ? "cancelGUIUpdateDownload"
-                                                                : "fetchGUIUpdateDownload";
-        QMetaObject::invokeMethod(worker, method, Qt::QueuedConnection, Q_ARG(quint64, id),
-                                  Q_ARG(int, kDownloadTimeoutMs));
-    }
-}
-
-void UpdateFlow::armPoll(int delayMs)
-{
-    m_pollTimer.start(delayMs);
+    m_download->openDownloadLink(m_context.state->update());
 }
 
 void UpdateFlow::handleDownloadFinished(quint64 requestId, const GUIUpdateDownloadInfo &info,
                                         const QString &errorMessage)
 {
-    if (!m_context.ledger->accept(RequestLedger::Kind::UpdateDownload, requestId))
-        return;
-    const DownloadRequest request = m_pendingRequest;
-    m_pendingRequest = DownloadRequest::None;
-    if (!errorMessage.isEmpty()) {
-        switch (request) {
-        case DownloadRequest::Start:
-            // Without an answer the daemon may still have started it: look before saying it failed.
-            if (isUnanswered(errorMessage)) {
-                m_context.notifier->warning(shellText(QT_TRANSLATE_NOOP(
-                    "TovraAppShell",
-                    "Could not confirm that the download started. Checking its status...")));
-                armPoll(2000);
-            } else {
-                m_context.notifier->error(failureText(
-                    errorMessage,
-                    QT_TRANSLATE_NOOP("TovraAppShell", "Could not start the update download")));
-            }
-            break;
-        case DownloadRequest::Cancel:
-            m_context.notifier->warning(shellText(
-                QT_TRANSLATE_NOOP("TovraAppShell", "Could not confirm cancellation. Retrying...")));
-            QTimer::singleShot(2000, this, [this] {
-                if (m_cancelRequested && m_pendingRequest == DownloadRequest::None)
-                    sendDownloadRequest(DownloadRequest::Cancel);
-            });
-            break;
-        default:
-            m_context.notifier->warning(shellText(QT_TRANSLATE_NOOP(
-                "TovraAppShell", "Could not read download progress. Retrying...")));
-            armPoll(2000);
-            break;
-        }
-        return;
-    }
-    applyDownload(info);
-}
-
-void UpdateFlow::applyDownload(const GUIUpdateDownloadInfo &info)
-{
-    m_download = info;
-    Q_EMIT downloadChanged(info);
-    const QString &state = info.state;
-    if (state == QLatin1String("downloading") || state == QLatin1String("checking") ||
-        state == QLatin1String("verifying")) {
-        armPoll(500);
-        return;
-    }
-    if (state == QLatin1String("canceling") || state == QLatin1String("queued") ||
-        state == QLatin1String("retrying")) {
-        armPoll(2000);
-        return;
-    }
-    if (state == QLatin1String("ready")) {
-        if (m_cancelRequested) {
-            m_cancelRequested = false;
-            m_context.notifier->warning(shellText(
-                QT_TRANSLATE_NOOP("TovraAppShell", "The download completed before it could be "
-                                                   "canceled. The installer was not opened.")));
-            return;
-        }
-        if (m_installerOpened)
-            return;
-        m_installerOpened = true;
-        m_context.notifier->success(shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "Download complete. Opening the installer...")));
-        if (info.localPath.isEmpty() || !m_openUrl(QUrl::fromLocalFile(info.localPath)))
-            m_context.notifier->error(shellText(QT_TRANSLATE_NOOP(
-                "TovraAppShell",
-                "The update was downloaded, but the installer could not be opened.")));
-        return;
-    }
-    if (state == QLatin1String("canceled")) {
-        m_cancelRequested = false;
-        m_context.notifier->info(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Download canceled.")));
-        return;
-    }
-    if (state == QLatin1String("failed")) {
-        if (info.errorCode == QLatin1String("release_mismatch") ||
-            info.errorCode == QLatin1String("release_changed"))
-            m_context.notifier->error(shellText(QT_TRANSLATE_NOOP(
-                "TovraAppShell",
-                "The download belongs to a different update release. Check for updates again.")));
-        else
-            m_context.notifier->error(
-                failureText(info.errorMessage,
-                            QT_TRANSLATE_NOOP("TovraAppShell", "Could not download the update.")));
-    }
+    m_download->handleFinished(requestId, info, errorMessage);
 }

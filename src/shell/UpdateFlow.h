@@ -6,28 +6,39 @@
 #include "UpdateInfo.h"
 
 #include <QObject>
+#include <QPointer>
 #include <QString>
 #include <QTimer>
 #include <QUrl>
 
 #include <functional>
 
-// GUI update checks and the installer download, each on its own worker. Checks are throttled
-// through the bookkeeping kept per GUI version; a forced upgrade stops every connect.
+class UpdateDialog;
+class UpdateDownloadFlow;
+
+// GUI update checks on their own worker, the offer in the update dialog, and the gate that a
+// required update puts before every connect. Checks are throttled through the bookkeeping kept
+// per GUI version; the download itself is UpdateDownloadFlow's.
 class UpdateFlow : public QObject
 {
     Q_OBJECT
 
 public:
     using UrlOpener = std::function<bool(const QUrl &)>;
+    using Clock = std::function<qint64()>; // seconds since the epoch
 
     UpdateFlow(const ShellContext &context, const QString &runningVersion,
                QObject *parent = nullptr);
 
-    void setUrlOpener(UrlOpener opener) { m_openUrl = std::move(opener); }
+    // Opens the installer and the download link; the desktop's opener unless replaced.
+    void setUrlOpener(UrlOpener opener);
+    void setClock(Clock clock) { m_clock = std::move(clock); }
 
     // Starts the check timer with at least minDelayMs, or later when the next check is due later.
     void schedule(qint64 minDelayMs);
+    // A pending required update is checked at once, whatever the throttle says: its dialog must
+    // be on screen before anything connects. Otherwise schedule(minDelayMs).
+    void scheduleAtStart(qint64 minDelayMs);
     void onActivation();
     void check(bool userVisible);
     bool checkInFlight() const;
@@ -41,8 +52,12 @@ public:
     void startDownload();
     void cancelDownload();
     void pollDownload();
+    // "Hide this update": the offered version stays quiet until a newer one appears.
+    void muteOffer();
+    void openDownloadLink();
     bool downloadInProgress() const;
-    GUIUpdateDownloadInfo download() const { return m_download; }
+    GUIUpdateDownloadInfo download() const;
+    UpdateDownloadFlow *downloadFlow() const { return m_download; }
 
     void handleUpdateFinished(quint64 requestId, const UpdateInfo &info,
                               const QString &errorMessage);
@@ -50,27 +65,27 @@ public:
                                 const QString &errorMessage);
 
 Q_SIGNALS:
-    void updateDialogRequested(bool forced);
+    // The offer is on screen (forced: the required variant).
+    void updateDialogShown(bool forced);
     void downloadChanged(const GUIUpdateDownloadInfo &info);
 
 private:
-    enum class DownloadRequest { None, Start, Poll, Cancel };
-
+    UpdateDialog *dialog();
+    qint64 now() const { return m_clock(); }
     qint64 dueAtSeconds() const;
     bool updateComplete() const;
-    void sendDownloadRequest(DownloadRequest request);
-    void armPoll(int delayMs);
-    void applyDownload(const GUIUpdateDownloadInfo &info);
+    // Puts the offer in the dialog and shows it; true when it really is on screen.
+    bool presentOffer(bool forced);
+    void downloadAfterCheck(bool checked);
 
     ShellContext m_context;
     QString m_runningVersion;
     QTimer m_checkTimer;
-    QTimer m_pollTimer;
-    UrlOpener m_openUrl;
+    Clock m_clock;
+    UpdateDownloadFlow *m_download;
+    QPointer<UpdateDialog> m_wiredDialog;
     bool m_userVisibleCheck = false;
     bool m_forceUpgradePending = false;
-    DownloadRequest m_pendingRequest = DownloadRequest::None;
-    bool m_cancelRequested = false;
-    bool m_installerOpened = false;
-    GUIUpdateDownloadInfo m_download;
+    bool m_downloadAfterCheck = false;
+    bool m_recheckBeforeDownload = false;
 };

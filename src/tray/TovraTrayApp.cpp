@@ -175,6 +175,7 @@ void TovraTrayApp::start()
     m_icon->show();
     redraw();
     m_poller->schedule(kFirstPollMs);
+    m_operations->fetchKillSwitch();
     m_menuSession->prewarm();
 }
 
@@ -187,6 +188,9 @@ void TovraTrayApp::setControlAvailable(bool available, const QString &reason)
     m_poller->setAvailable(available);
     if (!reason.isEmpty())
         m_menu.daemonLine->setText(reason);
+    // An unreachable daemon stays so until a poll answers; that poll tells the window.
+    if (!available || !m_daemonUnreachable)
+        Q_EMIT daemonReachabilityChanged(available ? QString() : reason);
     if (!available) {
         redraw();
         return;
@@ -233,11 +237,14 @@ void TovraTrayApp::beginLogout(quint64 requestId)
     m_operations->beginLogout(requestId);
 }
 
-QString TovraTrayApp::connectTargetLabel(const QString &nodeId)
+QString TovraTrayApp::connectTargetLabel(const QString &nodeId) const
 {
-    const QString id = nodeId.trimmed();
-    m_operations->setConnectTarget(id, m_nodeModel->labelFor(id));
-    return m_operations->connectTargetLabel();
+    return m_nodeModel->labelFor(nodeId.trimmed());
+}
+
+void TovraTrayApp::recordConnectTarget(const QString &nodeId, const QString &label)
+{
+    m_operations->setConnectTarget(nodeId.trimmed(), label);
 }
 
 void TovraTrayApp::connectRuntime()
@@ -429,8 +436,10 @@ void TovraTrayApp::applyStatus(const RuntimeInfo &info, const QString &errorMess
     const bool recovered = m_daemonUnreachable || !m_statusApplied;
     m_daemonUnreachable = false;
     m_statusApplied = true;
-    if (recovered)
+    if (recovered) {
         m_menu.daemonLine->setText(TrayStatusFormatter::daemonLine(info));
+        Q_EMIT daemonReachabilityChanged(QString());
+    }
     m_state->setRuntime(info);
     if (info.killSwitch.valid)
         m_state->setKillSwitch(info.killSwitch);
@@ -448,6 +457,7 @@ void TovraTrayApp::showDaemonUnavailable(const QString &errorMessage)
     }
     m_daemonUnreachable = true;
     m_painter->drawUnavailable(errorMessage, situation());
+    Q_EMIT daemonReachabilityChanged(m_menu.daemonLine->text());
 }
 
 // ---- account, nodes, config paths ----

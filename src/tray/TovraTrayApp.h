@@ -64,8 +64,11 @@ public:
     void beginLogout(quint64 requestId);
 
     // The label the menu shows for a node of the current catalogue (the id itself when the
-    // catalogue does not hold it); remembered as the target named while connecting.
-    QString connectTargetLabel(const QString &nodeId);
+    // catalogue does not hold it).
+    QString connectTargetLabel(const QString &nodeId) const;
+    // The target named while connecting, until the connect's answer. The shell records it only
+    // once the connect has really started, so a refused one never renames a running connect.
+    void recordConnectTarget(const QString &nodeId, const QString &label);
 
     // Seams for the two things a test cannot answer headless: the kill-switch confirmation
     // (1, 2 or 0) and the desktop's opener for the log directory.
@@ -88,6 +91,8 @@ Q_SIGNALS:
     void connectNodeRequested(const QString &nodeID, const QString &label);
     void switchToAutoAndEnableKillSwitchRequested();
     void chooseModeForKillSwitchRequested();
+    // Empty once the daemon answers again; else why it cannot be used (its own words).
+    void daemonReachabilityChanged(const QString &unavailableReason);
 
 public Q_SLOTS:
     void refreshStatus();

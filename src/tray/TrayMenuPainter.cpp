@@ -108,8 +108,11 @@ void TrayMenuPainter::updateRefreshNodesEntry(const Situation &situation)
 void TrayMenuPainter::updateConnectEntry(const Situation &situation)
 {
     if (m_operations->connectInFlight()) {
-        m_menu.connect->setText(QCoreApplication::translate("SettingsPage", "Cancel"));
-        m_menu.connect->setEnabled(m_operations->connectCancellable());
+        // An attempt that cannot be cancelled offers nothing to choose.
+        const bool cancellable = m_operations->connectCancellable();
+        m_menu.connect->setText(cancellable ? QCoreApplication::translate("SettingsPage", "Cancel")
+                                            : text("Connect"));
+        m_menu.connect->setEnabled(cancellable);
         return;
     }
     const RuntimeInfo &runtime = m_state->runtime();

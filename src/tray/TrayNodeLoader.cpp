@@ -79,8 +79,7 @@ void TrayNodeLoader::handleNodesFinished(quint64 requestId, const NodesInfo &nod
         }
     } else {
         m_error = refresh ? text("Could not refresh nodes") : text("Could not load nodes");
-        if (refresh)
-            m_notifier->notify(m_error);
+        m_notifier->notify(m_error);
     }
     Q_EMIT nodesAnswered();
 }
@@ -103,10 +102,10 @@ void TrayNodeLoader::handleNodeGroupsFinished(quint64 requestId, const NodeGroup
     m_groupsInFlight = false;
     if (errorMessage.isEmpty()) {
         m_state->setNodeGroups(groups);
-    } else if (m_groupsRefresh) {
-        m_notifier->notify(text("Could not refresh node groups"));
     } else {
         qCWarning(lcTray).noquote() << "Could not load node groups:" << errorMessage;
+        m_notifier->notify(m_groupsRefresh ? text("Could not refresh node groups")
+                                           : text("Could not load node groups"));
     }
     m_groupsRefresh = false;
 }

@@ -2,6 +2,7 @@
 
 #include "AppState.h"
 #include "ControlWorker.h"
+#include "TrayLog.h"
 #include "TrayNotifier.h"
 #include "TrayRequestIds.h"
 
@@ -116,6 +117,15 @@ void TrayOperations::sendKillSwitch(bool enabled)
                               Q_ARG(quint64, id), Q_ARG(bool, enabled), Q_ARG(int, kOperationMs));
 }
 
+void TrayOperations::fetchKillSwitch()
+{
+    if (m_killSwitchInFlight)
+        return;
+    const quint64 id = m_ids->take(Kind::KillSwitch);
+    QMetaObject::invokeMethod(m_worker, "fetchKillSwitch", Qt::QueuedConnection, Q_ARG(quint64, id),
+                              Q_ARG(int, kTrayFetchTimeoutMs));
+}
+
 void TrayOperations::finish()
 {
     m_statusText.clear();
@@ -206,4 +216,7 @@ void TrayOperations::handleKillSwitchFinished(quint64 requestId, const KillSwitc
         m_notifier->notifyFailure(errorMessage, text("kill-switch operation failed"));
     }
     finish();
+    // A failed change says nothing of the daemon's state, and a daemon without a kill switch in
+    // its status would otherwise never show one.
+    fetchKillSwitch();
 }

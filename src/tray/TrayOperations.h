@@ -36,6 +36,10 @@ public:
     void setConnectTarget(const QString &nodeId, const QString &label);
     QString connectTargetLabel() const { return m_connectTargetLabel; }
 
+    // Asks for the kill switch record on its own, so that a status without one still shows the
+    // entry; skipped while a kill switch change is under way (its answer carries the record).
+    void fetchKillSwitch();
+
     void beginConnect(quint64 requestId, const QString &statusText, bool cancellable);
     void beginDisconnect(quint64 requestId);
     void beginLogout(quint64 requestId);

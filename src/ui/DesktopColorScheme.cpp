@@ -2,12 +2,26 @@
 
 #include "PortalColorScheme.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QStyleHints>
 
-#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
 namespace {
+
+#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
+// One reader for the whole process, owned by the application, asked once at first use.
+PortalColorScheme *sharedPortal()
+{
+    static QPointer<PortalColorScheme> portal;
+    if (!portal) {
+        portal = new PortalColorScheme(QDBusConnection::sessionBus(), QCoreApplication::instance());
+        portal->start();
+    }
+    return portal;
+}
+#else
 
 DesktopScheme fromQt(Qt::ColorScheme scheme)
 {
@@ -20,9 +34,9 @@ DesktopScheme fromQt(Qt::ColorScheme scheme)
         return DesktopScheme::Unknown;
     }
 }
+#endif
 
 } // namespace
-#endif
 
 DesktopColorScheme::DesktopColorScheme(QObject *parent)
     : QObject(parent)
@@ -31,9 +45,18 @@ DesktopColorScheme::DesktopColorScheme(QObject *parent)
     connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this,
             [this](Qt::ColorScheme scheme) { Q_EMIT changed(fromQt(scheme)); });
 #else
-    m_portal = new PortalColorScheme(QDBusConnection::sessionBus(), this);
+    m_portal = sharedPortal();
     connect(m_portal, &PortalColorScheme::schemeChanged, this, &DesktopColorScheme::changed);
-    m_portal->start();
+    connect(m_portal, &PortalColorScheme::answered, this, &DesktopColorScheme::settled);
+#endif
+}
+
+bool DesktopColorScheme::isSettled() const
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    return true;
+#else
+    return m_portal->hasAnswered();
 #endif
 }
 

@@ -37,8 +37,6 @@ NotificationHost::NotificationHost(QWidget *parent)
 
     m_icon->setObjectName(QStringLiteral("TovraNotificationIcon"));
     m_icon->setAlignment(Qt::AlignCenter);
-    const int side = m_message->fontMetrics().height();
-    m_icon->setFixedSize(side, side);
     m_icon->hide();
 
     m_message->setObjectName(QStringLiteral("TovraNotificationMessage"));
@@ -106,6 +104,12 @@ void NotificationHost::showMessage(const QString &text, const QString &kind, int
     // The icon's colour rule selects on the host's property, so both need a fresh polish.
     repolish(this);
     repolish(m_icon);
+
+    // A square as tall as a line of the message, measured in the font the style sheet gives
+    // it, which is only known once the message label is polished.
+    m_message->ensurePolished();
+    const int side = m_message->fontMetrics().height();
+    m_icon->setFixedSize(side, side);
 
     const QString glyph = glyphForKind(normalized);
     m_icon->setText(glyph);

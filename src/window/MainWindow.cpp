@@ -119,10 +119,11 @@ QWidget *MainWindow::buildContentColumn(QWidget *root)
 
     m_stack = new QStackedWidget(m_content);
     // The order is the meaning of the page index everywhere.
-    m_vpnPage = new VpnPage(m_stack);
+    m_vpnPage = new VpnPage(m_preferences, m_stack);
     m_locationsPage = new LocationsPage(m_stack);
+    m_locationsPage->setPreferences(m_preferences);
     m_modePage = new ModePage(m_stack);
-    m_settingsPage = new SettingsPage(m_stack);
+    m_settingsPage = new SettingsPage(m_preferences, m_stack);
     m_accountPage = new AccountPage(m_stack);
     for (QWidget *page :
          {static_cast<QWidget *>(m_vpnPage), static_cast<QWidget *>(m_locationsPage),
@@ -147,6 +148,14 @@ void MainWindow::connectPages()
     connect(m_vpnPage, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmartRequested);
     connect(m_vpnPage, &VpnPage::pendingConnectTargetChanged, this,
             &MainWindow::pendingConnectTargetChanged);
+    connect(m_vpnPage, &VpnPage::setKillSwitchEnabledRequested, this,
+            &MainWindow::setKillSwitchEnabledRequested);
+    connect(m_vpnPage, &VpnPage::switchToAutoAndEnableKillSwitchRequested, this,
+            &MainWindow::switchToAutoAndEnableKillSwitchRequested);
+    connect(m_vpnPage, &VpnPage::chooseModeForKillSwitchRequested, this,
+            &MainWindow::chooseModeForKillSwitchRequested);
+    connect(m_vpnPage, &VpnPage::accountPageRequested, this,
+            [this] { showPage(AccountPageIndex); });
 
     connect(m_locationsPage, &LocationsPage::refreshLocationsRequested, this,
             &MainWindow::refreshLocationsRequested);
@@ -158,6 +167,8 @@ void MainWindow::connectPages()
             &MainWindow::setNodeFavoriteRequested);
     connect(m_locationsPage, &LocationsPage::pendingConnectTargetChanged, this,
             &MainWindow::pendingConnectTargetChanged);
+    connect(m_locationsPage, &LocationsPage::loadLocationsRequested, this,
+            &MainWindow::loadLocationsRequested);
 
     connect(m_modePage, &ModePage::setModeRequested, this, &MainWindow::setModeRequested);
     connect(m_modePage, &ModePage::splitRulesRequested, this, &MainWindow::splitRulesRequested);
@@ -169,6 +180,10 @@ void MainWindow::connectPages()
             &MainWindow::setSystemProxyRequested);
     connect(m_modePage, &ModePage::settingsPageRequested, this,
             [this] { showPage(SettingsPageIndex); });
+    connect(m_settingsPage, &SettingsPage::setSystemProxyRequested, this,
+            &MainWindow::setSystemProxyRequested);
+    connect(m_settingsPage, &SettingsPage::setLocalNetworkRequested, this,
+            &MainWindow::setLocalNetworkRequested);
 
     connect(m_settingsPage, &SettingsPage::openLogsRequested, this, &MainWindow::openLogsRequested);
     connect(m_settingsPage, &SettingsPage::openExternalURLRequested, this,
@@ -319,11 +334,31 @@ void MainWindow::setDeleteOnClose(bool remove)
 void MainWindow::setModeOperationBusy(bool busy)
 {
     m_modeBusy->setBusy(busy);
+    if (!busy) {
+        // Settings shows the system proxy and local network too; drop a choice left unconfirmed.
+        m_settingsPage->settle();
+        refreshPages({m_settingsPage});
+    }
 }
 
 void MainWindow::setSettingsOperationBusy(bool busy)
 {
     m_settingsBusy->setBusy(busy);
+    if (!busy) {
+        // A finished change leaves every control on the daemon's value, confirmed or not.
+        m_settingsPage->settle();
+        refreshPages({m_settingsPage});
+    }
+}
+
+void MainWindow::setSettingsNote(const QString &key, const QString &text)
+{
+    m_settingsPage->setNote(key, text);
+}
+
+void MainWindow::setRepairResult(const RepairResultInfo &result)
+{
+    m_settingsPage->setRepairResult(result);
 }
 
 void MainWindow::setSplitRulesFetchInProgress(bool inProgress)
@@ -358,6 +393,9 @@ void MainWindow::showOperationError(const QString &message)
 void MainWindow::showSettingsOperationError(const QString &message)
 {
     showError(message, tr("Settings operation failed"));
+    // The failed choice snaps back to what the daemon holds.
+    m_settingsPage->settle();
+    refreshPages({m_settingsPage});
 }
 
 void MainWindow::showModeOperationError(const QString &message)
@@ -369,12 +407,46 @@ void MainWindow::showModeOperationError(const QString &message)
     if (!m_modePage->offerInlineError(text)) {
         showNotification(text, kErrorKind, ErrorDurationMs);
     }
+    m_settingsPage->settle();
+    refreshPages({m_settingsPage});
 }
 
 void MainWindow::showNotification(const QString &text, const QString &kind, int durationMs)
 {
     m_notifications->showMessage(text, kind, durationMs);
     placeNotificationHost();
+}
+
+void MainWindow::setAccountOperationInProgress(bool inProgress)
+{
+    m_accountPage->setAccountOperationInProgress(inProgress);
+}
+
+void MainWindow::setRenewalOpening(bool opening)
+{
+    m_accountPage->setRenewalOpening(opening);
+}
+
+void MainWindow::showAccountError(const QString &message)
+{
+    m_accountPage->showError(message);
+}
+
+void MainWindow::clearAccountMessage()
+{
+    m_accountPage->clearMessage();
+}
+
+void MainWindow::setDaemonUnavailableReason(const QString &reason)
+{
+    m_accountPage->setDaemonUnavailableReason(reason);
+    m_vpnPage->setDaemonUnavailableReason(reason);
+}
+
+void MainWindow::setConnectInProgress(bool inProgress, const QString &targetId,
+                                      const QString &label)
+{
+    m_vpnPage->setConnectInProgress(inProgress, targetId, label);
 }
 
 void MainWindow::showSplitRulesResult(const QString &text, const QString &kind)

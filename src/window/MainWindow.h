@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ModeInfo.h"
+#include "RepairResultInfo.h"
 #include "ThemeColors.h"
 
 #include <QMainWindow>
@@ -54,6 +55,8 @@ public:
     void setSettingsOperationBusy(bool busy);
     void setSplitRulesFetchInProgress(bool inProgress);
     void setSplitRulesImportInProgress(bool inProgress);
+    void setSettingsNote(const QString &key, const QString &text);
+    void setRepairResult(const RepairResultInfo &result);
 
     void showOperationError(const QString &message);
     void showModeOperationError(const QString &message);
@@ -63,6 +66,16 @@ public:
     void showSplitRulesResult(const QString &text, const QString &kind);
     // The Mode page marks the modes the kill switch can run in.
     void highlightKillSwitchModes();
+
+    // The account page's sign-in/out and renewal state and its message line.
+    void setAccountOperationInProgress(bool inProgress);
+    void setRenewalOpening(bool opening);
+    void showAccountError(const QString &message);
+    void clearAccountMessage();
+    // Empty while the daemon answers; else its words, shown where an action needs it.
+    void setDaemonUnavailableReason(const QString &reason);
+    // A connect the shell accepted, with its target (both may be empty), until its answer.
+    void setConnectInProgress(bool inProgress, const QString &targetId, const QString &label);
 
     // "light" and "dark" are kept, anything else means "system".
     static QString normalizedAppearance(const QString &preference);
@@ -116,6 +129,8 @@ Q_SIGNALS:
     void logoutRequested();
     void purchaseURLRequested(QString lang);
     void appearancePreferenceChanged();
+    // The Locations page found the catalogue or its groups missing.
+    void loadLocationsRequested();
 
 protected:
     void closeEvent(QCloseEvent *event) override;

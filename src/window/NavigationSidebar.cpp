@@ -1,9 +1,11 @@
 #include "NavigationSidebar.h"
 
 #include "IconTinter.h"
+#include "SidebarEntryAccessible.h"
 #include "ThemeColors.h"
 
 #include <QButtonGroup>
+#include <QEvent>
 #include <QToolButton>
 #include <QVBoxLayout>
 
@@ -20,6 +22,7 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
     : QWidget(parent)
     , m_group(new QButtonGroup(this))
 {
+    SidebarEntryAccessible::installFactory();
     setObjectName(QStringLiteral("TovraSidebar"));
     setAttribute(Qt::WA_StyledBackground, true);
     setMinimumWidth(kMinimumWidth);
@@ -49,6 +52,8 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
             layout->addStretch(1);
         }
         auto *button = new QToolButton(this);
+        // Before anything else: the first change event already settles the accessible role.
+        button->setProperty("tovraSidebarEntry", true);
         button->setObjectName(QString::fromLatin1(entry.objectName));
         button->setText(entry.text);
         button->setAccessibleName(entry.text);
@@ -60,11 +65,14 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
         button->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
         button->setFocusPolicy(Qt::StrongFocus);
         button->setProperty(kIconProperty, QString::fromLatin1(entry.icon));
+        button->installEventFilter(this);
         m_group->addButton(button, index);
         layout->addWidget(button);
         m_buttons.append(button);
         connect(button, &QToolButton::clicked, this,
                 [this, index] { Q_EMIT pageRequested(index); });
+        connect(button, &QToolButton::toggled, this,
+                [button] { SidebarEntryAccessible::notifySelectionChanged(button); });
     }
 }
 
@@ -94,8 +102,35 @@ int NavigationSidebar::currentIndex() const
 void NavigationSidebar::applyTheme(const ThemeColors &colors)
 {
     const qreal ratio = devicePixelRatioF();
+    m_icons.clear();
+    m_hoverIcons.clear();
     for (QToolButton *entry : std::as_const(m_buttons)) {
         const QString path = entry->property(kIconProperty).toString();
-        entry->setIcon(IconTinter::sidebarIcon(path, colors, kIconSize, ratio));
+        const QIcon icon = IconTinter::sidebarIcon(path, colors, kIconSize, ratio);
+        // The same icon, but its normal unchecked face is the active (hover) one.
+        QIcon hover;
+        for (const QIcon::State state : {QIcon::Off, QIcon::On}) {
+            for (const QIcon::Mode mode : {QIcon::Normal, QIcon::Active, QIcon::Disabled}) {
+                const QIcon::Mode source =
+                    (mode == QIcon::Normal && state == QIcon::Off) ? QIcon::Active : mode;
+                hover.addPixmap(icon.pixmap(kIconSize, ratio, source, state), mode, state);
+            }
+        }
+        m_icons.append(icon);
+        m_hoverIcons.append(hover);
+        entry->setIcon(entry->underMouse() ? hover : icon);
     }
+}
+
+bool NavigationSidebar::eventFilter(QObject *watched, QEvent *event)
+{
+    const qsizetype index = m_buttons.indexOf(static_cast<QToolButton *>(watched));
+    if (index >= 0 && index < m_icons.size()) {
+        if (event->type() == QEvent::Enter) {
+            m_buttons.at(index)->setIcon(m_hoverIcons.at(index));
+        } else if (event->type() == QEvent::Leave) {
+            m_buttons.at(index)->setIcon(m_icons.at(index));
+        }
+    }
+    return QWidget::eventFilter(watched, event);
 }

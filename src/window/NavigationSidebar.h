@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QIcon>
 #include <QList>
 #include <QWidget>
 
@@ -28,7 +29,14 @@ public:
 Q_SIGNALS:
     void pageRequested(int index);
 
+protected:
+    // Swaps in the hover tint: the style draws a raised button's icon in its normal mode even
+    // under the mouse, so the active pixmap alone would never show.
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     QList<QToolButton *> m_buttons;
+    QList<QIcon> m_icons;
+    QList<QIcon> m_hoverIcons;
     QButtonGroup *m_group;
 };

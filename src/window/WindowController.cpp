@@ -1,16 +1,22 @@
 #include "WindowController.h"
 
+#include "Countries.h"
 #include "DesktopColorScheme.h"
 #include "GuiMemLog.h"
 #include "GuiPreferences.h"
 #include "MainWindow.h"
 #include "ThemeEngine.h"
+#include "UpdateDialog.h"
 
 #include <QApplication>
 #include <QDesktopServices>
 #include <QFileInfo>
+#include <QTimer>
 
 namespace {
+
+// How long a first show waits for the desktop portal before showing in the light theme.
+constexpr int kSchemeWaitMs = 250;
 
 bool openWithDesktop(const QUrl &url)
 {
@@ -34,11 +40,19 @@ WindowController::WindowController(AppState *state, GuiPreferences *preferences,
             applyUpdateDialogTheme();
         }
     });
+    connect(m_desktopScheme, &DesktopColorScheme::settled, this, [this] {
+        if (m_showPending) {
+            finishShow();
+        }
+    });
 }
 
 WindowController::~WindowController()
 {
     delete m_window.data();
+    // The flags were drawn for the window; the tray shows none.
+    clearFlagCache();
+    delete m_ownUpdateDialog.data();
 }
 
 MainWindow *WindowController::window() const
@@ -66,6 +80,8 @@ MainWindow *WindowController::ensureWindow()
             &WindowController::openExternalURL);
     connect(window, &MainWindow::appearancePreferenceChanged, this,
             &WindowController::applyUpdateDialogTheme);
+    connect(window, &MainWindow::pendingConnectTargetChanged, this,
+            &WindowController::rememberAnnouncedTarget);
     return window;
 }
 
@@ -75,6 +91,18 @@ void WindowController::replayTo(MainWindow *window) const
     window->setSettingsOperationBusy(m_replay.settingsBusy);
     window->setSplitRulesFetchInProgress(m_replay.splitRulesFetch);
     window->setSplitRulesImportInProgress(m_replay.splitRulesImport);
+    window->setAccountOperationInProgress(m_replay.accountBusy);
+    window->setRenewalOpening(m_replay.renewalOpening);
+    if (!m_replay.accountError.isEmpty())
+        window->showAccountError(m_replay.accountError);
+    window->setDaemonUnavailableReason(m_replay.daemonUnavailableReason);
+    window->setConnectInProgress(m_replay.connecting, m_replay.connectTargetId,
+                                 m_replay.connectTargetLabel);
+    for (auto note = m_replay.settingsNotes.cbegin(); note != m_replay.settingsNotes.cend();
+         ++note) {
+        window->setSettingsNote(note.key(), note.value());
+    }
+    window->setRepairResult(m_replay.repairResult);
 }
 
 void WindowController::forwardIntents(MainWindow *window)
@@ -93,6 +121,8 @@ void WindowController::forwardIntents(MainWindow *window)
             &WindowController::setLocalNetworkRequested);
     connect(window, &MainWindow::refreshLocationsRequested, this,
             &WindowController::refreshLocationsRequested);
+    connect(window, &MainWindow::loadLocationsRequested, this,
+            &WindowController::loadLocationsRequested);
     connect(window, &MainWindow::connectNodeRequested, this,
             &WindowController::connectNodeRequested);
     connect(window, &MainWindow::recentConnectionsCleared, this,
@@ -144,7 +174,29 @@ void WindowController::forwardIntents(MainWindow *window)
 
 void WindowController::showOrRaise()
 {
-    MainWindow *window = ensureWindow();
+    ensureWindow();
+    if (!m_desktopScheme->isSettled() && appearancePreference() == QLatin1String("system")) {
+        // The window re-themes itself when the answer arrives, before it is first painted.
+        if (!m_showPending) {
+            m_showPending = true;
+            QTimer::singleShot(kSchemeWaitMs, this, [this] {
+                if (m_showPending) {
+                    finishShow();
+                }
+            });
+        }
+        return;
+    }
+    finishShow();
+}
+
+void WindowController::finishShow()
+{
+    m_showPending = false;
+    MainWindow *window = m_window;
+    if (!window) {
+        return;
+    }
     if (window->isMinimized()) {
         window->showNormal();
     } else {
@@ -152,6 +204,10 @@ void WindowController::showOrRaise()
     }
     window->raise();
     window->activateWindow();
+    if (m_replay.updateDialogShown) {
+        m_replay.updateDialogShown = false;
+        showUpdateDialog();
+    }
 }
 
 void WindowController::showPageOfWindow(int index)
@@ -222,6 +278,10 @@ void WindowController::setUrlOpener(UrlOpener opener)
 
 void WindowController::handleHiddenToTray()
 {
+    if (m_ownUpdateDialog && m_ownUpdateDialog->isVisible()) {
+        m_ownUpdateDialog->hide();
+        m_replay.updateDialogShown = true;
+    }
     if (!m_releaseOnHide) {
         return;
     }
@@ -248,6 +308,26 @@ void WindowController::setSettingsOperationBusy(bool busy)
     }
 }
 
+void WindowController::setSettingsNote(const QString &key, const QString &text)
+{
+    if (text.isEmpty()) {
+        m_replay.settingsNotes.remove(key);
+    } else {
+        m_replay.settingsNotes.insert(key, text);
+    }
+    if (m_window) {
+        m_window->setSettingsNote(key, text);
+    }
+}
+
+void WindowController::setRepairResult(const RepairResultInfo &result)
+{
+    m_replay.repairResult = result;
+    if (m_window) {
+        m_window->setRepairResult(result);
+    }
+}
+
 void WindowController::setSplitRulesFetchInProgress(bool inProgress)
 {
     m_replay.splitRulesFetch = inProgress;
@@ -262,6 +342,69 @@ void WindowController::setSplitRulesImportInProgress(bool inProgress)
     if (m_window) {
         m_window->setSplitRulesImportInProgress(inProgress);
     }
+}
+
+void WindowController::setAccountOperationInProgress(bool inProgress)
+{
+    m_replay.accountBusy = inProgress;
+    if (m_window)
+        m_window->setAccountOperationInProgress(inProgress);
+}
+
+void WindowController::setRenewalOpening(bool opening)
+{
+    m_replay.renewalOpening = opening;
+    if (m_window)
+        m_window->setRenewalOpening(opening);
+}
+
+void WindowController::showAccountError(const QString &message)
+{
+    m_replay.accountError =
+        message.trimmed().isEmpty() ? tr("Account operation failed") : message.trimmed();
+    if (m_window)
+        m_window->showAccountError(m_replay.accountError);
+}
+
+void WindowController::clearAccountMessage()
+{
+    m_replay.accountError.clear();
+    if (m_window)
+        m_window->clearAccountMessage();
+}
+
+void WindowController::setDaemonUnavailableReason(const QString &reason)
+{
+    m_replay.daemonUnavailableReason = reason.trimmed();
+    if (m_window)
+        m_window->setDaemonUnavailableReason(m_replay.daemonUnavailableReason);
+}
+
+void WindowController::setConnectInProgress(bool inProgress, const QString &targetId,
+                                            const QString &label)
+{
+    m_replay.connecting = inProgress;
+    m_replay.connectTargetId = inProgress ? targetId : QString();
+    m_replay.connectTargetLabel = inProgress ? label : QString();
+    if (!inProgress) {
+        m_announcedTargetId.clear();
+        m_announcedTargetLabel.clear();
+    }
+    if (m_window)
+        m_window->setConnectInProgress(inProgress, m_replay.connectTargetId,
+                                       m_replay.connectTargetLabel);
+}
+
+void WindowController::rememberAnnouncedTarget(const QString &targetId, const QString &label)
+{
+    m_announcedTargetId = targetId.trimmed();
+    m_announcedTargetLabel = label.trimmed();
+}
+
+QString WindowController::announcedTargetLabel(const QString &targetId) const
+{
+    const QString id = targetId.trimmed();
+    return !id.isEmpty() && id == m_announcedTargetId ? m_announcedTargetLabel : QString();
 }
 
 void WindowController::showOperationError(const QString &message)
@@ -334,6 +477,41 @@ void WindowController::setUpdateDialog(QWidget *dialog)
 {
     m_updateDialog = dialog;
     applyUpdateDialogTheme();
+}
+
+UpdateDialog *WindowController::updateDialog()
+{
+    if (m_ownUpdateDialog) {
+        return m_ownUpdateDialog;
+    }
+    // No parent: a window that is released on hide must not take the dialog with it.
+    auto *dialog = new UpdateDialog;
+    m_ownUpdateDialog = dialog;
+    connect(dialog, &UpdateDialog::downloadRequested, this,
+            &WindowController::updateDownloadRequested);
+    connect(dialog, &UpdateDialog::cancelDownloadRequested, this,
+            &WindowController::updateDownloadCancelRequested);
+    connect(dialog, &UpdateDialog::exitRequested, this,
+            &WindowController::forceUpdateExitRequested);
+    setUpdateDialog(dialog);
+    return dialog;
+}
+
+void WindowController::showUpdateDialog()
+{
+    UpdateDialog *dialog = updateDialog();
+    m_replay.updateDialogShown = false;
+    dialog->show();
+    dialog->raise();
+    dialog->activateWindow();
+}
+
+void WindowController::hideUpdateDialog()
+{
+    m_replay.updateDialogShown = false;
+    if (m_ownUpdateDialog) {
+        m_ownUpdateDialog->hide();
+    }
 }
 
 void WindowController::applyUpdateDialogTheme()

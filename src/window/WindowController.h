@@ -15,6 +15,7 @@ class DesktopColorScheme;
 class GuiPreferences;
 class MainWindow;
 class QWidget;
+class UpdateDialog;
 
 // Creates the main window when it is first needed, may let it go when it hides to the tray,
 // and keeps every value the shell passed down so that a new window starts where the old one
@@ -51,6 +52,21 @@ public:
     void setSettingsOperationBusy(bool busy);
     void setSplitRulesFetchInProgress(bool inProgress);
     void setSplitRulesImportInProgress(bool inProgress);
+    void setAccountOperationInProgress(bool inProgress);
+    void setRenewalOpening(bool opening);
+    // The account page's message line; kept so that a new window shows it too.
+    void showAccountError(const QString &message);
+    void clearAccountMessage();
+    void setDaemonUnavailableReason(const QString &reason);
+    // Marks the window as connecting (to the target, when there is one); false clears it.
+    void setConnectInProgress(bool inProgress, const QString &targetId = QString(),
+                              const QString &label = QString());
+    // The label a page gave the target it is about to connect to, or empty for another one.
+    QString announcedTargetLabel(const QString &targetId) const;
+    // A line the Settings page shows beside a section (a failed load, a check's outcome), by
+    // note key (SettingsNotes.h); an empty text removes it.
+    void setSettingsNote(const QString &key, const QString &text);
+    void setRepairResult(const RepairResultInfo &result);
 
     // Shown in the window when one exists; without a window there is nowhere to show them.
     void showOperationError(const QString &message);
@@ -68,6 +84,12 @@ public:
 
     // Themes the update dialog like the window, now and on every change of appearance.
     void setUpdateDialog(QWidget *dialog);
+    // The update dialog, made on first use. It outlives every window, so a download's progress
+    // survives the window closing; it hides with the window and comes back with it.
+    UpdateDialog *updateDialog();
+    void showUpdateDialog();
+    // Hides it for good: it does not come back with the window.
+    void hideUpdateDialog();
 
 public Q_SLOTS:
     void showOrRaise();
@@ -116,14 +138,18 @@ Q_SIGNALS:
     void logoutRequested();
     void purchaseURLRequested(QString lang);
     void forceUpdateExitRequested();
+    void loadLocationsRequested();
 
 private:
     MainWindow *ensureWindow();
+    // Shows and raises the current window; the second half of showOrRaise.
+    void finishShow();
     void replayTo(MainWindow *window) const;
     void forwardIntents(MainWindow *window);
     void showPageOfWindow(int index);
     bool effectiveHideOnClose() const;
     void handleHiddenToTray();
+    void rememberAnnouncedTarget(const QString &targetId, const QString &label);
     void applyUpdateDialogTheme();
     void showErrorNotification(const QString &text);
 
@@ -132,13 +158,19 @@ private:
     DesktopColorScheme *m_desktopScheme;
     QPointer<MainWindow> m_window;
     QPointer<QWidget> m_updateDialog;
+    QPointer<UpdateDialog> m_ownUpdateDialog;
     UrlOpener m_urlOpener;
     int m_windowsCreated = 0;
 
     bool m_hideOnClose = true;
     bool m_systemTrayAvailable = true;
     bool m_releaseOnHide = false;
+    // A show waits for the desktop's light or dark answer, so the window never flashes light.
+    bool m_showPending = false;
 
     // Replayed to every new window.
     WindowReplayState m_replay;
+    // What a page named the target it was about to connect to; only the shell reads it.
+    QString m_announcedTargetId;
+    QString m_announcedTargetLabel;
 };

@@ -19,11 +19,15 @@ WindowPage::WindowPage(const QString &objectName, const QString &heading, const 
     m_body->setSpacing(12);
 
     m_heading->setObjectName(QStringLiteral("TovraSectionTitle"));
+    // A page whose cards carry their own titles passes no heading and no intro.
+    m_heading->setVisible(!heading.isEmpty());
     m_body->addWidget(m_heading);
-    auto *introLabel = new QLabel(intro, this);
-    introLabel->setProperty("tovraRole", QStringLiteral("muted"));
-    introLabel->setWordWrap(true);
-    m_body->addWidget(introLabel);
+    if (!intro.isEmpty()) {
+        auto *introLabel = new QLabel(intro, this);
+        introLabel->setProperty("tovraRole", QStringLiteral("muted"));
+        introLabel->setWordWrap(true);
+        m_body->addWidget(introLabel);
+    }
     m_body->addStretch(1);
 }
 

@@ -1,5 +1,10 @@
 #pragma once
 
+#include "RepairResultInfo.h"
+
+#include <QMap>
+#include <QString>
+
 // What the shell passed down that a window created later must start with. The controller keeps
 // one of these and replays it whole to each new window; add a field here, not a loose member.
 struct WindowReplayState
@@ -8,4 +13,17 @@ struct WindowReplayState
     bool settingsBusy = false;
     bool splitRulesFetch = false;
     bool splitRulesImport = false;
+    bool accountBusy = false;
+    bool renewalOpening = false;
+    // The account page's message line; empty when cleared.
+    QString accountError;
+    QString daemonUnavailableReason;
+    bool connecting = false;
+    QString connectTargetId;
+    QString connectTargetLabel;
+    // Lines the Settings page shows beside its sections, by note key (SettingsNotes.h).
+    QMap<QString, QString> settingsNotes;
+    RepairResultInfo repairResult;
+    // The update dialog was on screen when the window hid; it comes back with the window.
+    bool updateDialogShown = false;
 };

@@ -1,7 +1,8 @@
 // A second process for the application core tests.
 //   acquire <name>: claim the name like a normal launch; the exit code is the result.
 //   hold <name>:    claim the name, print "ready", and keep it until "quit" arrives on stdin
-//                   (or the process is killed, which leaves a stale socket behind).
+//                   (or the process is killed, which leaves a stale socket behind); prints
+//                   "activated" for each activation.
 //   memlog <text>:  write one diagnostic memory line.
 #include "GuiMemLog.h"
 #include "GuiSingleInstance.h"
@@ -40,6 +41,10 @@ int main(int argc, char **argv)
         const QByteArray line = input.readLine();
         if (line.isEmpty() || line.trimmed() == "quit")
             app.quit();
+    });
+    QObject::connect(&instance, &GuiSingleInstance::activateRequested, &app, [] {
+        std::fputs("activated\n", stdout);
+        std::fflush(stdout);
     });
     std::fputs("ready\n", stdout);
     std::fflush(stdout);

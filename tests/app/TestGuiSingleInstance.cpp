@@ -5,6 +5,8 @@
 #include <QLocalSocket>
 #include <QProcess>
 #include <QSignalSpy>
+#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <QUuid>
 
@@ -56,6 +58,70 @@ private Q_SLOTS:
     {
         QCOMPARE(GuiSingleInstance::defaultServerName(),
                  u"com.tovra.Vpn.gui."_s + QString::number(::getuid()));
+    }
+
+    void defaultServerPathIsPrivate_data()
+    {
+        QTest::addColumn<QString>("runtimeMode"); // "private", "shared" or "unset"
+        QTest::addColumn<bool>("usesRuntimeDir");
+        QTest::addRow("private runtime directory") << u"private"_s << true;
+        QTest::addRow("world-writable runtime directory") << u"shared"_s << false;
+        QTest::addRow("no runtime directory") << u"unset"_s << false;
+    }
+
+    void defaultServerPathIsPrivate()
+    {
+        QFETCH(QString, runtimeMode);
+        QFETCH(bool, usesRuntimeDir);
+        QTemporaryDir runtime;
+        QVERIFY(runtime.isValid());
+        QFile::setPermissions(runtime.path(), runtimeMode == u"shared"
+                                                  ? QFileDevice::Permissions(0x7777)
+                                                  : QFileDevice::ReadOwner |
+                                                        QFileDevice::WriteOwner |
+                                                        QFileDevice::ExeOwner);
+        const QByteArray saved = qgetenv("XDG_RUNTIME_DIR");
+        if (runtimeMode == u"unset")
+            qunsetenv("XDG_RUNTIME_DIR");
+        else
+            qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime.path()));
+        QString error;
+        const QString path = GuiSingleInstance::defaultServerPath(&error);
+        qputenv("XDG_RUNTIME_DIR", saved);
+
+        QVERIFY2(!path.isEmpty(), qPrintable(error));
+        QCOMPARE(QFileInfo(path).fileName(), GuiSingleInstance::defaultServerName());
+        QCOMPARE(QFileInfo(path).path() == runtime.path(), usesRuntimeDir);
+        QVERIFY(GuiSingleInstance::isPrivateDirectory(QFileInfo(path).path()));
+    }
+
+    void squattedNameIsNeitherContactedNorRemoved()
+    {
+        // Another user binds our name in a directory everybody may write to.
+        const QString setpriv = QStandardPaths::findExecutable(u"setpriv"_s);
+        if (::getuid() != 0 || setpriv.isEmpty())
+            QSKIP("needs root and setpriv to act as another user");
+        QTemporaryDir shared;
+        QVERIFY(shared.isValid());
+        QFile::setPermissions(shared.path(), QFileDevice::Permissions(0x7777));
+        const QString name = shared.filePath(uniqueName());
+        QProcess squatter;
+        squatter.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        squatter.start(setpriv, {u"--reuid=65534"_s, u"--regid=65534"_s, u"--clear-groups"_s,
+                                 QStringLiteral(APP_TEST_HELPER), u"hold"_s, name});
+        if (!waitForReady(squatter))
+            QSKIP("the helper cannot run as another user from this build tree");
+
+        GuiSingleInstance instance(name);
+        QString error;
+        QCOMPARE(instance.acquire(&error), SingleInstanceResult::Failed);
+        QVERIFY2(error.contains(u"belongs to uid 65534"_s), qPrintable(error));
+        QVERIFY(!instance.isListening());
+        QVERIFY(QFileInfo::exists(name));
+
+        squatter.write("quit\n");
+        QVERIFY(squatter.waitForFinished());
+        QVERIFY(!squatter.readAllStandardOutput().contains("activated"));
     }
 
     void secondLaunchActivatesPrimary_data()

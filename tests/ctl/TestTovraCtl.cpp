@@ -15,13 +15,16 @@ struct Run
     QByteArray err;
 };
 
-Run runCtl(const QStringList &arguments, const QString &socketOverride = QString())
+Run runCtl(const QStringList &arguments, const QString &socketOverride = QString(),
+           const QByteArray &input = QByteArray())
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert(QStringLiteral("TOVRA_CONTROL_SOCKET"), socketOverride);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TOVRA_BINARY_DIR "/src/ctl/tovra-ctl"), arguments);
+    process.write(input);
+    process.closeWriteChannel();
     if (!process.waitForFinished(10000))
         return {};
     return {process.exitCode(), process.readAllStandardOutput(), process.readAllStandardError()};
@@ -41,6 +44,8 @@ private Q_SLOTS:
     void usageErrors_data();
     void usageErrors();
     void argumentsReachTheWire();
+    void loginPasswordFromStandardInput_data();
+    void loginPasswordFromStandardInput();
     void everyOperationAgainstDemoDaemon_data();
     void everyOperationAgainstDemoDaemon();
 
@@ -181,6 +186,51 @@ void TestTovraCtl::argumentsReachTheWire()
                 QStringLiteral("1.1.1.1, 8.8.8.8,")});
     QCOMPARE(dns.exitCode, 0);
     QVERIFY(peer.lastRequest().endsWith(R"({"local_direct_dns":["1.1.1.1","8.8.8.8"]})"));
+}
+
+void TestTovraCtl::loginPasswordFromStandardInput_data()
+{
+    QTest::addColumn<QStringList>("arguments");
+    QTest::addColumn<QByteArray>("input");
+    QTest::addColumn<int>("exitCode");
+    // The request body when the exchange happened, else the error text expected.
+    QTest::addColumn<QByteArray>("expected");
+    const QString user = QStringLiteral("u@tovra.invalid");
+    QTest::addRow("dash, remember")
+        << QStringList{user, QStringLiteral("-"), QStringLiteral("true")} << QByteArray("s3 cret\n")
+        << 0 << QByteArray(R"("password":"s3 cret","remember_me":true)");
+    QTest::addRow("dash, CRLF, no newline after")
+        << QStringList{user, QStringLiteral("-")} << QByteArray("pw\r\n") << 0
+        << QByteArray(R"("password":"pw","remember_me":false)");
+    QTest::addRow("dash, only the first line")
+        << QStringList{user, QStringLiteral("-")} << QByteArray("first\nsecond\n") << 0
+        << QByteArray(R"("password":"first",)");
+    QTest::addRow("dash, nothing on input")
+        << QStringList{user, QStringLiteral("-")} << QByteArray() << 2
+        << QByteArray("no password on standard input");
+    QTest::addRow("dash, empty line") << QStringList{user, QStringLiteral("-")} << QByteArray("\n")
+                                      << 2 << QByteArray("the password is empty");
+    QTest::addRow("missing, no terminal") << QStringList{user} << QByteArray("pw\n") << 2
+                                          << QByteArray("give - to read it from standard input");
+}
+
+void TestTovraCtl::loginPasswordFromStandardInput()
+{
+    QFETCH(QStringList, arguments);
+    QFETCH(QByteArray, input);
+    QFETCH(int, exitCode);
+    QFETCH(QByteArray, expected);
+    ScriptedPeer peer;
+    peer.setReply(ScriptedPeer::response(200, R"({"auth_state":"logged_in"})"));
+    const Run run =
+        runCtl(QStringList{QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("login")} +
+                   arguments,
+               QString(), input);
+    QVERIFY2(run.exitCode == exitCode, run.err.constData());
+    if (exitCode == 0)
+        QVERIFY2(peer.lastRequest().contains(expected), peer.lastRequest().constData());
+    else
+        QVERIFY2(run.err.contains(expected), run.err.constData());
 }
 
 void TestTovraCtl::everyOperationAgainstDemoDaemon_data()

@@ -1,5 +1,6 @@
 // Pictures of the X screen for the end-to-end test: the whole screen as a PNG, or the average
-// colour of a rectangle (to tell the connected tray icon from the disconnected one).
+// colour of a rectangle (to tell the connected tray icon from the disconnected one), or how many
+// pixels of a rectangle have a given colour.
 #include <QColor>
 #include <QGuiApplication>
 #include <QImage>
@@ -7,6 +8,7 @@
 #include <QScreen>
 
 #include <cstdio>
+#include <cstdlib>
 #include <cstring>
 
 namespace {
@@ -35,6 +37,24 @@ int printAverage(const QImage &image, int x, int y, int width, int height)
     return 0;
 }
 
+// How many pixels of a rectangle are within `tolerance` of a colour in every channel: finds a
+// small coloured mark (a status dot) whatever the font metrics put it.
+int printCount(const QImage &image, const QColor &wanted, int tolerance, const int *rect)
+{
+    long count = 0;
+    for (int row = rect[1]; row < rect[1] + rect[3] && row < image.height(); ++row) {
+        for (int column = rect[0]; column < rect[0] + rect[2] && column < image.width(); ++column) {
+            const QColor colour = image.pixelColor(column, row);
+            if (std::abs(colour.red() - wanted.red()) <= tolerance &&
+                std::abs(colour.green() - wanted.green()) <= tolerance &&
+                std::abs(colour.blue() - wanted.blue()) <= tolerance)
+                ++count;
+        }
+    }
+    std::printf("%ld\n", count);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -48,8 +68,15 @@ int main(int argc, char *argv[])
     if (argc == 6 && std::strcmp(argv[1], "--average") == 0)
         return printAverage(image, std::atoi(argv[2]), std::atoi(argv[3]), std::atoi(argv[4]),
                             std::atoi(argv[5]));
+    if (argc == 8 && std::strcmp(argv[1], "--count") == 0) {
+        const QColor wanted(QString::fromLatin1(argv[2]));
+        const int rect[4] = {std::atoi(argv[4]), std::atoi(argv[5]), std::atoi(argv[6]),
+                             std::atoi(argv[7])};
+        return wanted.isValid() ? printCount(image, wanted, std::atoi(argv[3]), rect) : 2;
+    }
     if (argc != 2) {
-        std::fprintf(stderr, "usage: tovra-e2e-grab OUTPUT.png | --average X Y WIDTH HEIGHT\n");
+        std::fprintf(stderr, "usage: tovra-e2e-grab OUTPUT.png | --average X Y WIDTH HEIGHT |"
+                             " --count #RRGGBB TOLERANCE X Y WIDTH HEIGHT\n");
         return 2;
     }
     if (!image.save(QString::fromLocal8Bit(argv[1]), "PNG")) {

@@ -36,6 +36,9 @@ Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$work/display" 2>"$work
 pids+=($!)
 wait_for 10 test -s "$work/display" || fail "Xvfb did not start"
 export DISPLAY=":$(head -n1 "$work/display")"
+# The tray needs the real X server, whatever platform the caller's environment asks for.
+export QT_QPA_PLATFORM=xcb
+unset WAYLAND_DISPLAY
 
 trayer --edge top --align right --widthtype request --height 28 --SetDockType true \
     --transparent false >"$work/trayer.log" 2>&1 &

@@ -70,15 +70,24 @@ void TestShellRequestFlow::olderStatusAnswerIsDropped()
 
 void TestShellRequestFlow::languageSyncBacksOffWithoutStatus()
 {
+    // The daemon answers status requests with errors only; each failed answer reaches the sync
+    // check, and the retries back off while no status is held.
+    m_peer->setReply(ScriptedPeer::response(503, R"({"error":"daemon starting"})"));
     LanguageFlow *language = m_shell->languageFlow();
-    QList<int> delays;
-    for (int i = 0; i < 7; ++i) {
-        language->checkSystemLanguage();
-        QVERIFY(language->retryTimerActive());
-        delays.append(language->retryTimerIntervalMs());
-    }
-    QCOMPARE(delays, (QList<int>{1000, 2000, 4000, 8000, 16000, 30000, 30000}));
-    QCOMPARE(m_peer->connectionCount(), 0);
+    ControlWorker *worker = m_shell->workers()->control();
+    const auto askStatus = [&] {
+        const quint64 id = m_shell->ledger()->issue(RequestLedger::Kind::Status);
+        QMetaObject::invokeMethod(worker, "fetchStatus", Qt::QueuedConnection, Q_ARG(quint64, id),
+                                  Q_ARG(int, 3000));
+    };
+    askStatus();
+    QTRY_VERIFY(language->retryTimerActive());
+    QCOMPARE(language->retryTimerIntervalMs(), 1000);
+    // Further answers leave the pending retry as it is; the retries themselves back off.
+    askStatus();
+    QTRY_COMPARE_WITH_TIMEOUT(language->retryTimerIntervalMs(), 2000, 3000);
+    QTRY_COMPARE_WITH_TIMEOUT(language->retryTimerIntervalMs(), 4000, 5000);
+    QVERIFY(!m_shell->state()->runtime().valid);
 }
 
 void TestShellRequestFlow::languageSyncSendsDesktopLanguage_data()

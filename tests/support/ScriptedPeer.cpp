@@ -83,14 +83,19 @@ void ScriptedPeer::handleConnection(QLocalSocket *socket)
     auto onData = [this, socket, slot, reply, answered] {
         const QByteArray chunk = socket->readAll();
         bool complete = false;
+        Reply chosen = reply;
         {
             QMutexLocker lock(&m_mutex);
             m_requests[slot].append(chunk);
             complete = requestComplete(m_requests[slot]);
+            for (const auto &[prefix, bytes] : std::as_const(m_routes)) {
+                if (m_requests[slot].startsWith(prefix))
+                    chosen = Reply{{Step{bytes, 0}}, Ending::Close, true};
+            }
         }
         if (complete && !*answered) {
             *answered = true;
-            answer(socket, reply);
+            answer(socket, chosen);
         }
     };
     connect(socket, &QLocalSocket::readyRead, socket, onData);
@@ -127,6 +132,12 @@ void ScriptedPeer::setReplies(const QList<Reply> &replies)
 {
     QMutexLocker lock(&m_mutex);
     m_replies = replies;
+}
+
+void ScriptedPeer::setReplyForRequest(const QByteArray &prefix, const QByteArray &bytes)
+{
+    QMutexLocker lock(&m_mutex);
+    m_routes.append({prefix, bytes});
 }
 
 QList<QByteArray> ScriptedPeer::requests() const

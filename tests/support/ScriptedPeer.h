@@ -8,6 +8,8 @@
 #include <QTemporaryDir>
 #include <QThread>
 
+#include <utility>
+
 class QLocalServer;
 class QLocalSocket;
 
@@ -47,6 +49,10 @@ public:
         setReply(Reply{{Step{bytes, 0}}, Ending::Close, true});
     }
 
+    // Answers every request whose bytes begin with the prefix (such as "GET /v1/kill-switch ")
+    // with these bytes instead of the scripted reply.
+    void setReplyForRequest(const QByteArray &prefix, const QByteArray &bytes);
+
     QList<QByteArray> requests() const;
     QByteArray lastRequest() const;
     int connectionCount() const;
@@ -68,6 +74,7 @@ private:
     QLocalServer *m_server = nullptr;
     mutable QMutex m_mutex;
     QList<Reply> m_replies;
+    QList<std::pair<QByteArray, QByteArray>> m_routes;
     QList<QByteArray> m_requests;
     int m_connections = 0;
     bool m_clientClosed = false;

@@ -64,6 +64,8 @@ private Q_SLOTS:
     void daemonUnavailableWithEmptyError();
     void staleStatusAnswerDropped();
     void statusHeldWhileMenuOpen();
+    void connectEntryWhileConnecting_data();
+    void connectEntryWhileConnecting();
     void modeEntryWhileBusySendsNothing_data();
     void modeEntryWhileBusySendsNothing();
     void killSwitchOnInProxyMode_data();
@@ -71,6 +73,8 @@ private Q_SLOTS:
     void killSwitchEntry_data();
     void killSwitchEntry();
     void refreshNodesDuringCooldown();
+    void catalogueLoadFailureShown_data();
+    void catalogueLoadFailureShown();
     void splitOptionRequestBytes_data();
     void splitOptionRequestBytes();
     void controlUnavailable();
@@ -228,10 +232,11 @@ void TestTovraTrayApp::daemonUnavailableWithEmptyError()
 {
     // The status request stays unanswered, so the answer below is the one the tray awaits.
     m_peer->setReply(ScriptedPeer::Reply{{}, ScriptedPeer::Ending::KeepOpen, true});
+    m_peer->setReplyForRequest("GET /v1/kill-switch ", ScriptedPeer::response(404, "no"));
     m_tray->start();
-    QTRY_COMPARE(m_peer->requests().size(), 1);
-    // The tray's first request number is 1: its numbers stay below the shell's.
-    Q_EMIT m_worker->statusFinished(1, RuntimeInfo(), QString());
+    QTRY_COMPARE(sent("GET /v1/status ").size(), 1);
+    // The tray numbers its requests from 1, below the shell's: the kill switch took 1 at start.
+    Q_EMIT m_worker->statusFinished(2, RuntimeInfo(), QString());
     QCOMPARE(m_tray->menu().statusLine->text(), u"Tovra: daemon unavailable"_s);
     QCOMPARE(m_tray->menu().daemonLine->text(), u"daemon unavailable"_s);
 }
@@ -287,6 +292,30 @@ void TestTovraTrayApp::statusHeldWhileMenuOpen()
     QTRY_COMPARE(m.statusLine->text(), u"Tovra: connected"_s);
     QVERIFY(!m_tray->isMenuOpen());
     QCOMPARE(changes.count(), 1);
+}
+
+void TestTovraTrayApp::connectEntryWhileConnecting_data()
+{
+    QTest::addColumn<bool>("cancellable");
+    QTest::addColumn<QString>("text");
+    QTest::addRow("cancellable") << true << "Cancel";
+    QTest::addRow("not cancellable") << false << "Connect";
+}
+
+void TestTovraTrayApp::connectEntryWhileConnecting()
+{
+    QFETCH(bool, cancellable);
+    QFETCH(QString, text);
+    startWith(plainStatus("disconnected"));
+    m_tray->beginConnect(kShellId, u"Tovra: connecting..."_s, cancellable);
+    QAction *entry = m_tray->menu().connect;
+    QCOMPARE(entry->text(), text);
+    QCOMPARE(entry->isEnabled(), cancellable);
+    QSignalSpy cancel(m_tray.get(), &TovraTrayApp::cancelConnectRequested);
+    QSignalSpy connectAgain(m_tray.get(), &TovraTrayApp::connectRuntimeRequested);
+    entry->trigger();
+    QCOMPARE(cancel.count(), cancellable ? 1 : 0);
+    QCOMPARE(connectAgain.count(), 0);
 }
 
 void TestTovraTrayApp::modeEntryWhileBusySendsNothing_data()
@@ -362,32 +391,44 @@ void TestTovraTrayApp::killSwitchOnInProxyMode()
 
 void TestTovraTrayApp::killSwitchEntry_data()
 {
-    QTest::addColumn<QByteArray>("killSwitch");
+    QTest::addColumn<QByteArray>("killSwitch"); // in the status
+    QTest::addColumn<QByteArray>("endpoint");   // from the kill switch's own endpoint; empty: 404
     QTest::addColumn<QString>("text");
     QTest::addColumn<bool>("enabled");
     QTest::addColumn<bool>("checked");
+    const QByteArray lockdown(R"({"enabled":true,"mode":"lockdown","guard":"active"})");
+    const QByteArray unavailable(R"({"enabled":false,"mode":"lockdown","guard":""})");
+    const QByteArray on(R"({"enabled":true,"mode":"always"})");
+    const QByteArray off(R"({"enabled":false,"mode":"auto"})");
     QTest::addRow("lockdown in force")
-        << QByteArray(R"({"enabled":true,"mode":"lockdown","guard":"active"})")
-        << "Kill Switch: Lockdown" << false << true;
+        << lockdown << lockdown << "Kill Switch: Lockdown" << false << true;
     QTest::addRow("lockdown not in force")
-        << QByteArray(R"({"enabled":false,"mode":"lockdown","guard":""})")
-        << "Kill Switch: Lockdown unavailable" << false << false;
-    QTest::addRow("on") << QByteArray(R"({"enabled":true,"mode":"always"})") << "Kill Switch: On"
-                        << true << true;
-    QTest::addRow("off") << QByteArray(R"({"enabled":false,"mode":"auto"})") << "Kill Switch: Off"
-                         << true << false;
-    QTest::addRow("no record") << QByteArray("{}") << "Kill Switch" << false << false;
+        << unavailable << unavailable << "Kill Switch: Lockdown unavailable" << false << false;
+    QTest::addRow("on") << on << on << "Kill Switch: On" << true << true;
+    QTest::addRow("off") << off << off << "Kill Switch: Off" << true << false;
+    QTest::addRow("no record") << QByteArray("{}") << QByteArray() << "Kill Switch" << false
+                               << false;
+    // A daemon whose status carries no kill switch still gets its entry.
+    QTest::addRow("record from its own endpoint only")
+        << QByteArray("{}") << on << "Kill Switch: On" << true << true;
 }
 
 void TestTovraTrayApp::killSwitchEntry()
 {
     QFETCH(QByteArray, killSwitch);
+    QFETCH(QByteArray, endpoint);
     QFETCH(QString, text);
     QFETCH(bool, enabled);
     QFETCH(bool, checked);
+    m_peer->setReplyForRequest("GET /v1/kill-switch ",
+                               endpoint.isEmpty() ? ScriptedPeer::response(404, "not found")
+                                                  : ScriptedPeer::response(200, endpoint));
     startWith(status(R"("tunnel_state":"connected","mode":{"transport":"auto"},"kill_switch":)" +
                      killSwitch));
     const TrayMenu &m = m_tray->menu();
+    QTRY_COMPARE(m.killSwitch->text(), text);
+    QTRY_VERIFY(!sent("GET /v1/kill-switch ").isEmpty());
+    flushWorker();
     QCOMPARE(m.killSwitch->text(), text);
     QCOMPARE(m.killSwitch->isEnabled(), enabled);
     QCOMPARE(m.killSwitch->isChecked(), checked);
@@ -400,6 +441,28 @@ void TestTovraTrayApp::killSwitchEntry()
         flushWorker();
         QVERIFY(sent("POST /v1/kill-switch").isEmpty());
     }
+}
+
+void TestTovraTrayApp::catalogueLoadFailureShown_data()
+{
+    QTest::addColumn<int>("nodesStatus");
+    QTest::addColumn<int>("groupsStatus");
+    QTest::addColumn<QString>("daemonLine");
+    QTest::addRow("nodes") << 500 << 200 << "Could not load nodes";
+    QTest::addRow("node groups") << 200 << 500 << "Could not load node groups";
+}
+
+void TestTovraTrayApp::catalogueLoadFailureShown()
+{
+    QFETCH(int, nodesStatus);
+    QFETCH(int, groupsStatus);
+    QFETCH(QString, daemonLine);
+    m_peer->setReplyForRequest("GET /v1/nodes HTTP",
+                               ScriptedPeer::response(nodesStatus, R"({"nodes":[]})"));
+    m_peer->setReplyForRequest("GET /v1/nodes/groups ",
+                               ScriptedPeer::response(groupsStatus, R"({"groups":[]})"));
+    startWith(plainStatus("disconnected"));
+    QTRY_COMPARE(m_tray->menu().daemonLine->text(), daemonLine);
 }
 
 void TestTovraTrayApp::refreshNodesDuringCooldown()

@@ -75,6 +75,10 @@ void TestNotificationHost::kinds()
     QCOMPARE(w.host->accessibleName(), QStringLiteral("Notification: Kill switch enabled"));
     const auto *message = w.host->findChild<QLabel *>(QStringLiteral("TovraNotificationMessage"));
     QCOMPARE(message->text(), QStringLiteral("Kill switch enabled"));
+    // Sized for the styled 14px message font, not the default font the host was built with.
+    QCOMPARE(message->font().pixelSize(), 14);
+    const int line = message->fontMetrics().height();
+    QCOMPARE(icon->size(), QSize(line, line));
 
     // The close button dismisses at once and stops the timer.
     auto *close = w.host->findChild<QToolButton *>(QStringLiteral("TovraNotificationClose"));

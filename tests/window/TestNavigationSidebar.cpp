@@ -1,6 +1,7 @@
 #include "NavigationSidebar.h"
 #include "ThemeEngine.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QSignalSpy>
 #include <QTest>
@@ -59,6 +60,22 @@ void TestNavigationSidebar::clickRequestsPage()
     QTest::mouseClick(sidebar.button(index), Qt::LeftButton);
     QCOMPARE(requested.count(), 1);
     QCOMPARE(requested.at(0).at(0).toInt(), index);
+
+    // Screen readers hear a selected page tab in a page tab list, not a checked check box.
+    sidebar.setCurrentIndex(index);
+    QAccessibleInterface *entry = QAccessible::queryAccessibleInterface(sidebar.button(index));
+    QVERIFY(entry);
+    QCOMPARE(entry->role(), QAccessible::PageTab);
+    QCOMPARE(entry->text(QAccessible::Name), text);
+    QVERIFY(entry->state().selected);
+    QVERIFY(!entry->state().checkable);
+    QCOMPARE(entry->parent()->role(), QAccessible::PageTabList);
+    QAccessibleInterface *other =
+        QAccessible::queryAccessibleInterface(sidebar.button((index + 1) % sidebar.count()));
+    QVERIFY(!other->state().selected);
+    other->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    QCOMPARE(requested.count(), 2);
+    QCOMPARE(requested.at(1).at(0).toInt(), (index + 1) % sidebar.count());
 }
 
 void TestNavigationSidebar::iconsFollowTheme_data()
@@ -79,6 +96,16 @@ void TestNavigationSidebar::iconsFollowTheme()
     QCOMPARE(tintOf(icon, QIcon::Active, QIcon::Off), colors.color(ThemeColor::TextPrimary));
     QCOMPARE(tintOf(icon, QIcon::Normal, QIcon::On), colors.color(ThemeColor::SidebarSelectedText));
     QCOMPARE(tintOf(icon, QIcon::Disabled, QIcon::On), colors.color(ThemeColor::DisabledText));
+
+    // Under the mouse the entry shows the primary tint in the mode the style really draws.
+    QToolButton *entry = sidebar.button(2);
+    QEvent enter(QEvent::Enter);
+    QApplication::sendEvent(entry, &enter);
+    QCOMPARE(tintOf(entry->icon(), QIcon::Normal, QIcon::Off),
+             colors.color(ThemeColor::TextPrimary));
+    QEvent leave(QEvent::Leave);
+    QApplication::sendEvent(entry, &leave);
+    QCOMPARE(tintOf(entry->icon(), QIcon::Normal, QIcon::Off), colors.color(ThemeColor::TextMuted));
 }
 
 QTEST_MAIN(TestNavigationSidebar)

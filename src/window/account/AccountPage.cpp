@@ -1,7 +1,130 @@
 #include "AccountPage.h"
 
+#include "AccountSignInCard.h"
+#include "AccountSummaryCard.h"
+#include "AppState.h"
+
+#include <QLabel>
+
+namespace {
+
+bool countsAsSignedIn(const QString &sessionState)
+{
+    // A remembered session is as good as a fresh one here.
+    return sessionState == QLatin1String("logged_in") || sessionState == QLatin1String("cached");
+}
+
+} // namespace
+
 AccountPage::AccountPage(QWidget *parent)
-    : WindowPage(QStringLiteral("TovraAccountPage"), tr("Your account"),
-                 tr("Sign in to your Tovra account to connect and sync available locations."),
-                 parent)
-{}
+    : WindowPage(QStringLiteral("TovraAccountPage"), QString(), QString(), parent)
+    , m_message(new QLabel(this))
+    , m_signInCard(new AccountSignInCard(this))
+    , m_summaryCard(new AccountSummaryCard(this))
+{
+    m_message->setObjectName(QStringLiteral("TovraAccountMessage"));
+    m_message->setWordWrap(true);
+    m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_message->hide();
+    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+    m_summaryCard->hide();
+    addContent(m_message);
+    addContent(m_signInCard);
+    addContent(m_summaryCard);
+
+    connect(m_signInCard, &AccountSignInCard::signInRequested, this, &AccountPage::signIn);
+    connect(m_signInCard, &AccountSignInCard::signUpRequested, this, &AccountPage::signUpRequested);
+    connect(m_signInCard, &AccountSignInCard::forgotPasswordRequested, this,
+            &AccountPage::forgotPasswordRequested);
+    connect(m_summaryCard, &AccountSummaryCard::renewRequested, this, &AccountPage::renewRequested);
+    connect(m_summaryCard, &AccountSummaryCard::logoutRequested, this,
+            &AccountPage::logoutRequested);
+    updateButtons();
+}
+
+void AccountPage::signIn()
+{
+    // Return in a field is not stopped by the disabled button.
+    if (m_operationInProgress || !m_unavailableReason.isEmpty())
+        return;
+    const QString username = m_signInCard->username();
+    if (username.trimmed().isEmpty() || m_signInCard->password().isEmpty()) {
+        showError(tr("Enter account and password."));
+        return;
+    }
+    clearMessage();
+    Q_EMIT loginRequested(username, m_signInCard->password(), m_signInCard->rememberMe());
+}
+
+void AccountPage::refresh(const AppState &state)
+{
+    refresh(state.runtime().authState, state.user());
+}
+
+void AccountPage::refresh(const QString &sessionState, const UserInfo &user)
+{
+    const bool signedIn = countsAsSignedIn(sessionState);
+    m_signInCard->setVisible(!signedIn);
+    m_summaryCard->setVisible(signedIn);
+    if (signedIn) {
+        // The typed password never stays in the page after sign-in.
+        m_signInCard->clearFields();
+        m_summaryCard->setUser(user);
+    }
+    updateButtons();
+}
+
+void AccountPage::showEvent(QShowEvent *event)
+{
+    WindowPage::showEvent(event);
+    // Coming here signed out means coming to sign in: the cursor waits in the form.
+    if (!isSignedInShown())
+        m_signInCard->focusFirstEmptyField();
+}
+
+bool AccountPage::isSignedInShown() const
+{
+    return !m_summaryCard->isHidden();
+}
+
+void AccountPage::setAccountOperationInProgress(bool inProgress)
+{
+    m_operationInProgress = inProgress;
+    updateButtons();
+}
+
+void AccountPage::setRenewalOpening(bool opening)
+{
+    m_renewalOpening = opening;
+    updateButtons();
+}
+
+void AccountPage::setDaemonUnavailableReason(const QString &reason)
+{
+    m_unavailableReason = reason.trimmed();
+    updateButtons();
+}
+
+void AccountPage::showError(const QString &message)
+{
+    const QString text = message.trimmed();
+    m_message->setText(text.isEmpty() ? tr("Account operation failed") : text);
+    m_message->show();
+    // A failed sign-in keeps the account name for the next try, never the password.
+    m_signInCard->clearPassword();
+}
+
+void AccountPage::clearMessage()
+{
+    m_message->clear();
+    m_message->hide();
+    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
+                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+}
+
+void AccountPage::updateButtons()
+{
+    m_signInCard->setSignInState(m_operationInProgress, m_unavailableReason);
+    m_summaryCard->setButtonStates(m_operationInProgress, m_renewalOpening);
+}

@@ -1,8 +1,14 @@
 #pragma once
 
+#include "UserInfo.h"
 #include "WindowPage.h"
 
-// Page 4: signing in to the service account and out again.
+class AccountSignInCard;
+class AccountSummaryCard;
+class QLabel;
+
+// Page 4: signing in to the service account and out again. It holds no account state: the
+// daemon's session state and user record decide which card shows.
 class AccountPage : public WindowPage
 {
     Q_OBJECT
@@ -10,10 +16,37 @@ class AccountPage : public WindowPage
 public:
     explicit AccountPage(QWidget *parent = nullptr);
 
+    void refresh(const AppState &state) override;
+    void refresh(const QString &sessionState, const UserInfo &user);
+
+    void setAccountOperationInProgress(bool inProgress);
+    void setRenewalOpening(bool opening);
+    // Empty while the daemon answers; otherwise why signing in cannot work now.
+    void setDaemonUnavailableReason(const QString &reason);
+    // An empty message shows "Account operation failed".
+    void showError(const QString &message);
+    void clearMessage();
+
+    bool isSignedInShown() const;
+
 Q_SIGNALS:
     void loginRequested(QString username, QString password, bool rememberMe);
     void logoutRequested();
     void renewRequested();
     void signUpRequested();
     void forgotPasswordRequested();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    void signIn();
+    void updateButtons();
+
+    QLabel *m_message;
+    AccountSignInCard *m_signInCard;
+    AccountSummaryCard *m_summaryCard;
+    bool m_operationInProgress = false;
+    bool m_renewalOpening = false;
+    QString m_unavailableReason;
 };

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "CatalogTreeBuilder.h"
+
+#include <QWidget>
+
+class QComboBox;
+class QPushButton;
+class QTabBar;
+class ThemeColors;
+
+// The row above the locations tree: the tabs (All, Free, Premium, Favourites), the sort
+// choice and the refresh button with its cooldown.
+class LocationsToolbar : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit LocationsToolbar(QWidget *parent = nullptr);
+
+    // The daemon's tab word of the chosen tab: "all", "free", "svip" or "favorite".
+    QString tab() const;
+    void setTab(const QString &tab);
+    CatalogSort sort() const;
+    void setSort(CatalogSort sort);
+    // While a search covers every tab, the chosen tab is drawn as not chosen.
+    void setSearchGlobal(bool global);
+    // Seconds until another refresh may be asked for; 0 enables the button.
+    void setCooldown(int seconds);
+    void applyTheme(const ThemeColors &colors);
+
+    static QString sortKey(CatalogSort sort);
+    static CatalogSort sortFromKey(const QString &key);
+
+Q_SIGNALS:
+    void tabChanged(QString tab);
+    void sortChanged(CatalogSort sort);
+    void refreshRequested();
+
+private:
+    QTabBar *m_tabs;
+    QComboBox *m_sort;
+    QPushButton *m_refresh;
+    int m_cooldown = 0;
+};

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QTreeView>
+
+// The locations tree as the keyboard sees it: one Tab stop; arrows move, Enter and a
+// double-click connect, Space stars a node, letters go to the search field, the menu key and a
+// right click open the row's menu.
+class LocationsTreeView : public QTreeView
+{
+    Q_OBJECT
+
+public:
+    explicit LocationsTreeView(QWidget *parent = nullptr);
+
+Q_SIGNALS:
+    void rowActivated(QModelIndex index);
+    void favoriteToggled(QModelIndex index);
+    void menuRequested(QModelIndex index, QPoint globalPos);
+    // Printable text typed while the tree has focus; the search field takes it.
+    void textTyped(QString text);
+
+protected:
+    void keyPressEvent(QKeyEvent *event) override;
+    void mouseDoubleClickEvent(QMouseEvent *event) override;
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void keyboardSearch(const QString &search) override;
+};

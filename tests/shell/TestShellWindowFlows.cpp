@@ -1,0 +1,184 @@
+#include "AccountPage.h"
+#include "AppState.h"
+#include "ConnectionFlow.h"
+#include "ControlEndpoints.h"
+#include "DemoDaemon.h"
+#include "MainWindow.h"
+#include "NotificationHost.h"
+#include "TempXdgDirs.h"
+#include "TovraAppShell.h"
+#include "TovraTrayApp.h"
+#include "WindowController.h"
+
+#include <QAction>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+// A shell without a tray on a fresh demo daemon, its window shown and the daemon known good.
+struct Running
+{
+    DemoDaemon daemon;
+    std::unique_ptr<TovraAppShell> shell;
+    QList<QUrl> opened;
+
+    bool start(const QStringList &daemonArguments, bool signedIn)
+    {
+        if (!daemon.start(daemonArguments))
+            return false;
+        if (signedIn)
+            ControlEndpoints::login(daemon.socketPath(), QStringLiteral("demo@tovra.invalid"),
+                                    QStringLiteral("demo"), false, 3000);
+        shell = std::make_unique<TovraAppShell>(nullptr, daemon.socketPath());
+        shell->setSystemTrayAvailable(false);
+        shell->windowController()->setUrlOpener([this](const QUrl &url) {
+            opened.append(url);
+            return true;
+        });
+        shell->start();
+        return QTest::qWaitFor([this] {
+            return shell->compatibilityState() == TovraAppShell::Compatible &&
+                   shell->state()->runtime().valid && !shell->tray()->isBusy();
+        });
+    }
+    WindowController *controller() const { return shell->windowController(); }
+    template<typename T>
+    T *find(const QString &name) const
+    {
+        return controller()->window()->findChild<T *>(name);
+    }
+    bool windowSays(const QString &text) const
+    {
+        const auto *host = controller()->window()->findChild<NotificationHost *>();
+        const QList<QLabel *> labels = host->findChildren<QLabel *>();
+        return std::any_of(labels.begin(), labels.end(),
+                           [&](const QLabel *label) { return label->text() == text; });
+    }
+};
+
+} // namespace
+
+// What the shell hands the window for its Account and VPN pages, against the demo daemon.
+class TestShellWindowFlows : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void signInThroughTheWindow_data()
+    {
+        QTest::addColumn<QString>("password");
+        QTest::addColumn<QString>("message");
+        QTest::addRow("wrong password") << "nope"
+                                        << "Incorrect email or password.";
+        QTest::addRow("right password") << "demo" << QString();
+    }
+    void signInThroughTheWindow()
+    {
+        QFETCH(QString, password);
+        QFETCH(QString, message);
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start({}, false), qPrintable(run.daemon.errorString()));
+        run.controller()->showAccount();
+        auto *user = run.find<QLineEdit>(QStringLiteral("TovraAccountUsername"));
+        auto *secret = run.find<QLineEdit>(QStringLiteral("TovraAccountPassword"));
+        auto *signIn = run.find<QPushButton>(QStringLiteral("TovraAccountSignIn"));
+        user->setText(QStringLiteral("demo@tovra.invalid"));
+        secret->setText(password);
+        QTest::keyClick(secret, Qt::Key_Return);
+        QVERIFY(run.controller()->replayState().accountBusy);
+        QCOMPARE(signIn->text(), QStringLiteral("Signing in..."));
+        QTest::keyClick(secret, Qt::Key_Return); // nothing twice
+        QTRY_VERIFY(!run.controller()->replayState().accountBusy);
+        QCOMPARE(run.controller()->replayState().accountError, message);
+        auto *label = run.find<QLabel>(QStringLiteral("TovraAccountMessage"));
+        QCOMPARE(label->isHidden() ? QString() : label->text(), message);
+        // The password is gone either way; the account name stays only for another try.
+        QVERIFY(secret->text().isEmpty());
+        if (message.isEmpty()) {
+            QTRY_VERIFY(
+                run.find<AccountPage>(QStringLiteral("TovraAccountPage"))->isSignedInShown());
+            QVERIFY(user->text().isEmpty());
+            QTRY_VERIFY(run.shell->state()->user().valid);
+        } else {
+            QCOMPARE(user->text(), QStringLiteral("demo@tovra.invalid"));
+        }
+    }
+
+    // The window is marked while a connect runs; a refused connect renames nothing.
+    void connectTargetFollowsTheAcceptedConnect()
+    {
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start({QStringLiteral("--connect-ms"), QStringLiteral("1500")}, true),
+                 qPrintable(run.daemon.errorString()));
+        ConnectionFlow *flow = run.shell->connectionFlow();
+        run.shell->connectNode(QStringLiteral("1001"), QStringLiteral("First place"));
+        QVERIFY(flow->connectInProgress());
+        QCOMPARE(run.controller()->replayState().connectTargetLabel, QStringLiteral("First place"));
+        QVERIFY(run.controller()->replayState().connecting);
+        // Refused while the first runs: neither the window nor the tray hears of it.
+        run.shell->connectNode(QStringLiteral("1002"), QStringLiteral("Second place"));
+        QCOMPARE(run.controller()->replayState().connectTargetLabel, QStringLiteral("First place"));
+        QVERIFY(run.shell->tray()->menu().statusLine->text().contains(QStringLiteral("First")));
+        QTRY_VERIFY(!flow->connectInProgress());
+        QVERIFY(!run.controller()->replayState().connecting);
+        QVERIFY(run.controller()->replayState().connectTargetLabel.isEmpty());
+        QTRY_COMPARE(run.shell->state()->runtime().tunnelState, QStringLiteral("connected"));
+
+        // Refused while the shell signs in: the tray must not take the refused target as the
+        // one to name when the daemon next connects on its own.
+        run.shell->loginAccount(QStringLiteral("demo@tovra.invalid"), QStringLiteral("demo"),
+                                false);
+        run.shell->connectNode(QStringLiteral("1002"), QStringLiteral("Second place"));
+        QVERIFY(!flow->connectInProgress());
+        QVERIFY(!run.controller()->replayState().connecting);
+        QTRY_VERIFY(!run.controller()->replayState().accountBusy);
+        ControlEndpoints::connectNode(run.daemon.socketPath(), QStringLiteral("1003"), 3000);
+        run.shell->tray()->refreshStatus();
+        QAction *line = run.shell->tray()->menu().statusLine;
+        QTRY_VERIFY2(line->text().startsWith(QStringLiteral("Tovra: connecting")),
+                     qPrintable(line->text()));
+        QVERIFY2(!line->text().contains(QStringLiteral("Second")), qPrintable(line->text()));
+    }
+
+    void renewal_data()
+    {
+        QTest::addColumn<QStringList>("daemonArguments");
+        QTest::addColumn<QString>("failure");
+        QTest::addRow("opens the link") << QStringList() << QString();
+        QTest::addRow("a link that fails the checks")
+            << QStringList{QStringLiteral("--fail"),
+                           QStringLiteral(
+                               "/v1/account/purchase-url=200:{\"url\":\"https://example.org/x\"}")}
+            << "Could not open renewal page";
+    }
+    void renewal()
+    {
+        QFETCH(QStringList, daemonArguments);
+        QFETCH(QString, failure);
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start(daemonArguments, true), qPrintable(run.daemon.errorString()));
+        run.controller()->showAccount();
+        auto *renew = run.find<QPushButton>(QStringLiteral("TovraAccountRenew"));
+        QTRY_VERIFY(renew->isVisible());
+        QTest::mouseClick(renew, Qt::LeftButton);
+        QVERIFY(run.controller()->replayState().renewalOpening);
+        QCOMPARE(renew->text(), QStringLiteral("Opening\u2026"));
+        QTRY_VERIFY(!run.controller()->replayState().renewalOpening);
+        QCOMPARE(renew->text(), QStringLiteral("Renew"));
+        QCOMPARE(run.opened.size(), failure.isEmpty() ? 1 : 0);
+        if (failure.isEmpty())
+            QCOMPARE(run.opened.constFirst().path(), QStringLiteral("/purchase"));
+        else
+            QVERIFY(run.windowSays(failure));
+    }
+};
+
+QTEST_MAIN(TestShellWindowFlows)
+#include "TestShellWindowFlows.moc"

@@ -1,0 +1,609 @@
+#include "AppSection.h"
+#include "AppState.h"
+#include "ConnectionSection.h"
+#include "ControlEndpoints.h"
+#include "ControlMetaTypes.h"
+#include "DemoDaemon.h"
+#include "DiagnosticsSection.h"
+#include "GuiAutostart.h"
+#include "GuiPreferences.h"
+#include "KillSwitchSection.h"
+#include "LanguageFilterModel.h"
+#include "LanguagePickerDialog.h"
+#include "MainWindow.h"
+#include "NetworkSection.h"
+#include "SettingsNotes.h"
+#include "SettingsPage.h"
+#include "TempXdgDirs.h"
+#include "ThemeEngine.h"
+#include "ToggleSwitch.h"
+#include "TranslationManager.h"
+
+#include <QAbstractItemModelTester>
+#include <QApplication>
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListView>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+constexpr int kTimeoutMs = 3000;
+
+// The records the page shows, fetched from a running demo daemon with the real parsers.
+void loadRecords(AppState &state, const QString &socket)
+{
+    state.setRuntime(ControlEndpoints::fetchStatus(socket, kTimeoutMs));
+    state.setKillSwitch(ControlEndpoints::fetchKillSwitch(socket, kTimeoutMs));
+    state.setAPIURLConfig(ControlEndpoints::fetchAPIURLConfig(socket, kTimeoutMs));
+    state.setLanguageConfig(ControlEndpoints::fetchLanguageConfig(socket, kTimeoutMs));
+    state.setSplitDNS(ControlEndpoints::fetchSplitDNS(socket, kTimeoutMs));
+    state.setConfigPaths(ControlEndpoints::fetchConfigPaths(socket, kTimeoutMs));
+    state.setVersion(ControlEndpoints::fetchVersion(socket, kTimeoutMs));
+}
+
+struct Fixture
+{
+    TempXdgDirs dirs;
+    DemoDaemon daemon;
+    AppState state;
+    GuiPreferences preferences;
+    MainWindow window{&state, &preferences};
+    SettingsPage *page = window.findChild<SettingsPage *>();
+
+    bool start(const QStringList &daemonArguments = {})
+    {
+        if (!daemon.start(daemonArguments))
+            return false;
+        loadRecords(state, daemon.socketPath());
+        window.refreshFromState();
+        return state.runtime().valid && state.splitDNS().valid;
+    }
+    template<typename T>
+    T *find(const QString &name) const
+    {
+        return page->findChild<T *>(name);
+    }
+    QAbstractButton *modeOption(const QString &mode) const
+    {
+        return find<QRadioButton>(QStringLiteral("TovraSettingsKillSwitchMode_") + mode);
+    }
+    void choose(const QString &comboName, const QString &value) const
+    {
+        auto *combo = find<QComboBox>(comboName);
+        const int index = combo->findData(value);
+        combo->setCurrentIndex(index);
+        Q_EMIT combo->activated(index);
+    }
+    void type(const QString &fieldName, const QString &text) const
+    {
+        QLineEdit *edit = find<QLineEdit>(fieldName);
+        edit->clear();
+        QTest::keyClicks(edit, text);
+    }
+    void click(const QString &name) const { find<QAbstractButton>(name)->click(); }
+};
+
+} // namespace
+
+class TestSettingsPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase();
+    void sectionsShowRecords_data();
+    void sectionsShowRecords();
+    void daemonDownSaysSoOnce();
+    void controlsAskForChanges_data();
+    void controlsAskForChanges();
+    void badInputSendsNothing_data();
+    void badInputSendsNothing();
+    void failedChangeSnapsBack();
+    void killSwitchInProxyAsksForVpnMode_data();
+    void killSwitchInProxyAsksForVpnMode();
+    void launchAtLogin_data();
+    void launchAtLogin();
+    void languageSearch_data();
+    void languageSearch();
+    void languageChoice_data();
+    void languageChoice();
+};
+
+void TestSettingsPage::initTestCase()
+{
+    registerControlMetaTypes();
+}
+
+void TestSettingsPage::sectionsShowRecords_data()
+{
+    QTest::addColumn<QStringList>("daemonArguments");
+    QTest::addColumn<bool>("switchOn");
+    QTest::addColumn<bool>("switchEnabled");
+    QTest::addColumn<QString>("checkedMode");
+    QTest::addColumn<bool>("modesEnabled");
+    QTest::addRow("default") << QStringList() << false << true << "auto" << true;
+    QTest::addRow("lockdown") << QStringList{QStringLiteral("--lockdown")} << true << false
+                              << "lockdown" << false;
+}
+
+void TestSettingsPage::sectionsShowRecords()
+{
+    QFETCH(QStringList, daemonArguments);
+    QFETCH(bool, switchOn);
+    QFETCH(bool, switchEnabled);
+    QFETCH(QString, checkedMode);
+    QFETCH(bool, modesEnabled);
+    Fixture f;
+    QVERIFY2(f.start(daemonArguments), qPrintable(f.daemon.errorString()));
+
+    auto *killSwitch = f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"));
+    QCOMPARE(killSwitch->isChecked(), switchOn);
+    QCOMPARE(killSwitch->isEnabled(), switchEnabled);
+    QVERIFY(f.modeOption(checkedMode)->isChecked());
+    QCOMPARE(f.modeOption(QStringLiteral("always"))->isEnabled(), modesEnabled);
+    QVERIFY(!f.modeOption(QStringLiteral("lockdown"))->isEnabled());
+
+    const RuntimeInfo &runtime = f.state.runtime();
+    QCOMPARE(f.find<QComboBox>(QStringLiteral("TovraSettingsSystemProxy"))->currentData(),
+             QVariant(runtime.mode.systemProxy));
+    QCOMPARE(f.find<QComboBox>(QStringLiteral("TovraSettingsLocalNetwork"))->currentData(),
+             QVariant(runtime.mode.localNetwork));
+    QCOMPARE(f.find<QComboBox>(QStringLiteral("TovraSettingsDNSPolicy"))->currentData(),
+             QVariant(f.state.splitDNS().configuredPolicy));
+    QCOMPARE(f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL"))->text(),
+             f.state.apiURLConfig().apiURL);
+    QCOMPARE(f.find<QLabel>(QStringLiteral("TovraSettingsAPIURLValidation"))->text(),
+             QStringLiteral("Validated by the Tovra service"));
+    QCOMPARE(f.find<QLabel>(QStringLiteral("TovraSettingsDaemonVersion"))->text(),
+             f.state.version().daemonVersion);
+    QStringList paths;
+    for (const QLabel *label : f.page->findChildren<QLabel *>(QStringLiteral("TovraSettingsPath")))
+        paths.append(label->text());
+    QVERIFY(paths.contains(f.state.configPaths().logDir));
+    QVERIFY(f.find<QPushButton>(QStringLiteral("TovraSettingsLanguage"))->isEnabled());
+    QVERIFY(!f.find<QLabel>(QStringLiteral("TovraSettingsBanner"))->isVisibleTo(f.page));
+}
+
+void TestSettingsPage::daemonDownSaysSoOnce()
+{
+    Fixture f;
+    QVERIFY(f.start());
+    const QString down = QStringLiteral("Could not connect to Tovra daemon.");
+    for (const QString &key :
+         {SettingsNotes::Status, SettingsNotes::KillSwitch, SettingsNotes::APIURL,
+          SettingsNotes::SplitDNS, SettingsNotes::Language, SettingsNotes::ConfigPaths})
+        f.window.setSettingsNote(key, down);
+
+    const QLabel *banner = f.find<QLabel>(QStringLiteral("TovraSettingsBanner"));
+    QVERIFY(banner->isVisibleTo(f.page));
+    QVERIFY(banner->text().startsWith(down));
+    int shown = 0;
+    for (const QLabel *label : f.page->findChildren<QLabel *>()) {
+        if (label->isVisibleTo(f.page) && label->text().contains(down))
+            ++shown;
+    }
+    QCOMPARE(shown, 1);
+    QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isEnabled());
+    QVERIFY(!f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL"))->isEnabled());
+    QVERIFY(!f.find<QPushButton>(QStringLiteral("TovraSettingsRepair"))->isEnabled());
+    QCOMPARE(f.find<QComboBox>(QStringLiteral("TovraSettingsSystemProxy"))->currentText(),
+             QStringLiteral("Unknown"));
+
+    // Back up: the controls return, and a load that failed on its own is told beside its card.
+    f.window.setSettingsNote(SettingsNotes::Status, QString());
+    QVERIFY(f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isEnabled());
+    QCOMPARE(f.page->connectionSection()->note(), down);
+}
+
+void TestSettingsPage::controlsAskForChanges_data()
+{
+    QTest::addColumn<QString>("action");
+    QTest::addColumn<QByteArray>("signal");
+    QTest::addColumn<QVariantList>("arguments");
+    const auto row = [](const char *name, const char *signal, const QVariantList &arguments) {
+        QTest::addRow("%s", name) << QString::fromLatin1(name) << QByteArray(signal) << arguments;
+    };
+    row("kill switch on", SIGNAL(setKillSwitchEnabledRequested(bool)), {true});
+    row("kill switch always", SIGNAL(setKillSwitchModeRequested(QString)),
+        {QStringLiteral("always")});
+    row("system proxy lock", SIGNAL(setSystemProxyRequested(QString)), {QStringLiteral("lock")});
+    row("local network protected", SIGNAL(setLocalNetworkRequested(QString)),
+        {QStringLiteral("protected")});
+    row("listeners", SIGNAL(setProxyListenersRequested(QString, QString)),
+        {QStringLiteral("127.0.0.1:1081"), QStringLiteral("[::1]:8081")});
+    row("listeners closed", SIGNAL(setProxyListenersRequested(QString, QString)),
+        {QString(), QString()});
+    row("dns servers", SIGNAL(setSplitDNSLocalRequested(QStringList)),
+        {QStringList{QStringLiteral("1.1.1.1"), QStringLiteral("2606:4700::1111")}});
+    row("dns policy", SIGNAL(setSplitDNSPolicyRequested(QString)), {QStringLiteral("remote")});
+    row("dns clear", SIGNAL(clearSplitDNSLocalRequested()), {});
+    row("dns reset", SIGNAL(resetSplitDNSRequested()), {});
+    row("api url", SIGNAL(setAPIURLRequested(QString)),
+        {QStringLiteral("http://api.example.com:8443/v2")});
+    row("api url reset", SIGNAL(resetAPIURLRequested()), {});
+    row("auto connect", SIGNAL(setAutoConnectRequested(QString)), {QStringLiteral("smart")});
+    row("appearance", SIGNAL(appearanceChangeRequested(QString)), {QStringLiteral("dark")});
+    row("check update", SIGNAL(checkUpdateRequested()), {});
+    row("repair", SIGNAL(repairDiagnosticsRequested()), {});
+    row("open logs", SIGNAL(openLogsRequested()), {});
+}
+
+void TestSettingsPage::controlsAskForChanges()
+{
+    QFETCH(QString, action);
+    QFETCH(QByteArray, signal);
+    QFETCH(QVariantList, arguments);
+    Fixture f;
+    QVERIFY(f.start());
+    QSignalSpy spy(f.page, signal.constData());
+
+    if (action == u"kill switch on") {
+        f.click(QStringLiteral("TovraSettingsKillSwitch"));
+        // A request, not a flip: the switch waits for the daemon.
+        QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isChecked());
+    } else if (action == u"kill switch always") {
+        f.modeOption(QStringLiteral("always"))->click();
+    } else if (action == u"system proxy lock") {
+        f.choose(QStringLiteral("TovraSettingsSystemProxy"), QStringLiteral("lock"));
+    } else if (action == u"local network protected") {
+        f.choose(QStringLiteral("TovraSettingsLocalNetwork"), QStringLiteral("protected"));
+    } else if (action == u"listeners") {
+        f.type(QStringLiteral("TovraSettingsSocksListen"), QStringLiteral(" 127.0.0.1:1081 "));
+        f.type(QStringLiteral("TovraSettingsHttpListen"), QStringLiteral("[::1]:8081"));
+        f.click(QStringLiteral("TovraSettingsApplyListeners"));
+    } else if (action == u"listeners closed") {
+        f.type(QStringLiteral("TovraSettingsSocksListen"), QString());
+        f.type(QStringLiteral("TovraSettingsHttpListen"), QString());
+        QTest::keyClick(f.find<QLineEdit>(QStringLiteral("TovraSettingsHttpListen")),
+                        Qt::Key_Return);
+    } else if (action == u"dns servers") {
+        f.type(QStringLiteral("TovraSettingsDNSServers"),
+               QStringLiteral("1.1.1.1,  2606:4700::1111"));
+        f.click(QStringLiteral("TovraSettingsSaveDNS"));
+    } else if (action == u"dns policy") {
+        f.choose(QStringLiteral("TovraSettingsDNSPolicy"), QStringLiteral("remote"));
+    } else if (action == u"dns clear") {
+        f.click(QStringLiteral("TovraSettingsClearDNS"));
+    } else if (action == u"dns reset") {
+        f.click(QStringLiteral("TovraSettingsResetDNS"));
+    } else if (action == u"api url") {
+        f.type(QStringLiteral("TovraSettingsAPIURL"),
+               QStringLiteral("http://api.example.com:8443/v2"));
+        QTest::keyClick(f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL")), Qt::Key_Return);
+    } else if (action == u"api url reset") {
+        f.click(QStringLiteral("TovraSettingsResetAPIURL"));
+    } else if (action == u"auto connect") {
+        f.choose(QStringLiteral("TovraSettingsAutoConnect"), QStringLiteral("smart"));
+    } else if (action == u"appearance") {
+        f.choose(QStringLiteral("TovraSettingsAppearance"), QStringLiteral("dark"));
+    } else if (action == u"check update") {
+        f.click(QStringLiteral("TovraSettingsCheckUpdate"));
+    } else if (action == u"repair") {
+        f.click(QStringLiteral("TovraSettingsRepair"));
+    } else if (action == u"open logs") {
+        f.click(QStringLiteral("TovraSettingsOpenLogs"));
+    } else {
+        QFAIL("unknown action");
+    }
+    QCOMPARE(spy.count(), 1);
+    QCOMPARE(spy.at(0), arguments);
+}
+
+void TestSettingsPage::badInputSendsNothing_data()
+{
+    QTest::addColumn<QString>("field");
+    QTest::addColumn<QString>("input");
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<QString>("message");
+    const QString socks = QStringLiteral("TovraSettingsSocksListen");
+    const QString apply = QStringLiteral("TovraSettingsApplyListeners");
+    QTest::addRow("no port") << socks << "127.0.0.1" << apply << "Add a port";
+    QTest::addRow("empty port") << socks << "localhost:" << apply << "Add a port after";
+    QTest::addRow("port 0") << socks << "127.0.0.1:0" << apply << "from 1 to 65535";
+    QTest::addRow("port too big") << QStringLiteral("TovraSettingsHttpListen") << "127.0.0.1:65536"
+                                  << apply << "from 1 to 65535";
+    QTest::addRow("bare ipv6") << socks << "::1:1080" << apply << "in brackets";
+    QTest::addRow("bad host") << socks << "my host:1080" << apply << "not a host name";
+    const QString api = QStringLiteral("TovraSettingsAPIURL");
+    const QString save = QStringLiteral("TovraSettingsSaveAPIURL");
+    QTest::addRow("ftp url") << api << "ftp://api.example.com" << save << "http:// or https://";
+    QTest::addRow("no scheme") << api << "api.example.com" << save << "http:// or https://";
+    QTest::addRow("empty url") << api << "" << save << "Enter an API URL";
+    const QString dns = QStringLiteral("TovraSettingsDNSServers");
+    const QString saveDns = QStringLiteral("TovraSettingsSaveDNS");
+    QTest::addRow("dns name") << dns << "1.1.1.1, dns.example.com" << saveDns
+                              << "\"dns.example.com\" is not an IP address";
+    QTest::addRow("dns octet") << dns << "300.1.1.1" << saveDns << "is not an IP address";
+    QTest::addRow("dns empty") << dns << " , " << saveDns << "at least one";
+}
+
+void TestSettingsPage::badInputSendsNothing()
+{
+    QFETCH(QString, field);
+    QFETCH(QString, input);
+    QFETCH(QString, button);
+    QFETCH(QString, message);
+    Fixture f;
+    QVERIFY(f.start());
+    QList<QSignalSpy *> spies;
+    for (const char *signal :
+         {SIGNAL(setProxyListenersRequested(QString, QString)), SIGNAL(setAPIURLRequested(QString)),
+          SIGNAL(setSplitDNSLocalRequested(QStringList))})
+        spies.append(new QSignalSpy(f.page, signal));
+
+    f.type(field, input);
+    f.click(button);
+    for (QSignalSpy *spy : std::as_const(spies))
+        QCOMPARE(spy->count(), 0);
+    qDeleteAll(spies);
+    const QLabel *error = f.find<QLabel>(field + QStringLiteral("Error"));
+    QVERIFY(error->isVisibleTo(f.page));
+    QVERIFY2(error->text().contains(message), qPrintable(error->text()));
+    // Typing again clears the complaint.
+    QTest::keyClick(f.find<QLineEdit>(field), Qt::Key_1);
+    QVERIFY(!error->isVisibleTo(f.page));
+}
+
+void TestSettingsPage::failedChangeSnapsBack()
+{
+    Fixture f;
+    QVERIFY(f.start());
+    auto *proxy = f.find<QComboBox>(QStringLiteral("TovraSettingsSystemProxy"));
+    auto *api = f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL"));
+    const QString daemonProxy = proxy->currentData().toString();
+    const QString daemonURL = api->text();
+    f.choose(QStringLiteral("TovraSettingsSystemProxy"), QStringLiteral("lock"));
+    f.type(QStringLiteral("TovraSettingsAPIURL"), QStringLiteral("https://other.example.com"));
+    f.click(QStringLiteral("TovraSettingsSaveAPIURL"));
+    // An unrelated redraw while the answers are on their way keeps the choices.
+    f.window.refreshFromState();
+    QCOMPARE(proxy->currentData().toString(), QStringLiteral("lock"));
+    QCOMPARE(api->text(), QStringLiteral("https://other.example.com"));
+
+    f.window.showSettingsOperationError(QStringLiteral("refused"));
+    QCOMPARE(proxy->currentData().toString(), daemonProxy);
+    QCOMPARE(api->text(), daemonURL);
+}
+
+void TestSettingsPage::killSwitchInProxyAsksForVpnMode_data()
+{
+    QTest::addColumn<int>("answer");
+    QTest::addColumn<QByteArray>("expected");
+    QTest::addRow("switch to auto")
+        << 1 << QByteArray(SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
+    QTest::addRow("choose mode") << 2 << QByteArray(SIGNAL(chooseModeForKillSwitchRequested()));
+    QTest::addRow("cancel") << 0 << QByteArray();
+}
+
+void TestSettingsPage::killSwitchInProxyAsksForVpnMode()
+{
+    QFETCH(int, answer);
+    QFETCH(QByteArray, expected);
+    Fixture f;
+    QVERIFY(f.daemon.start());
+    ModeInfo proxy;
+    proxy.transport = QStringLiteral("proxy");
+    QString error;
+    ControlEndpoints::setMode(f.daemon.socketPath(), proxy, kTimeoutMs, &error);
+    QVERIFY2(error.isEmpty(), qPrintable(error));
+    loadRecords(f.state, f.daemon.socketPath());
+    f.window.refreshFromState();
+
+    int asked = 0;
+    f.page->killSwitchSection()->setConfirm([&](QWidget *) {
+        ++asked;
+        return answer;
+    });
+    QSignalSpy enable(f.page, SIGNAL(setKillSwitchEnabledRequested(bool)));
+    QSignalSpy autoEnable(f.page, SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
+    QSignalSpy choose(f.page, SIGNAL(chooseModeForKillSwitchRequested()));
+    f.click(QStringLiteral("TovraSettingsKillSwitch"));
+    QCOMPARE(asked, 1);
+    QCOMPARE(enable.count(), 0);
+    QCOMPARE(autoEnable.count(), expected == SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
+    QCOMPARE(choose.count(), expected == SIGNAL(chooseModeForKillSwitchRequested()));
+    QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isChecked());
+}
+
+void TestSettingsPage::launchAtLogin_data()
+{
+    QTest::addColumn<bool>("startEnabled");
+    QTest::addColumn<bool>("blockDirectory");
+    QTest::addColumn<bool>("expectEntry");
+    QTest::addColumn<bool>("expectPreference");
+    QTest::addRow("enable") << false << false << true << true;
+    QTest::addRow("disable") << true << false << false << false;
+    QTest::addRow("directory cannot be made") << false << true << false << false;
+}
+
+void TestSettingsPage::launchAtLogin()
+{
+    QFETCH(bool, startEnabled);
+    QFETCH(bool, blockDirectory);
+    QFETCH(bool, expectEntry);
+    QFETCH(bool, expectPreference);
+    Fixture f;
+    const GuiAutostart autostart;
+    QVERIFY(autostart.entryPath().startsWith(f.dirs.configHome()));
+    if (startEnabled) {
+        QVERIFY(autostart.reconcile(true, nullptr));
+        f.preferences.setLaunchAtLogin(true);
+    }
+    if (blockDirectory) {
+        // A plain file where the autostart folder belongs.
+        QVERIFY(QDir().mkpath(f.dirs.configHome()));
+        QFile blocker(f.dirs.configHome() + QStringLiteral("/autostart"));
+        QVERIFY(blocker.open(QIODevice::WriteOnly));
+    }
+    f.window.refreshFromState();
+    auto *toggle = f.find<ToggleSwitch>(QStringLiteral("TovraSettingsLaunchAtLogin"));
+    QCOMPARE(toggle->isChecked(), startEnabled);
+
+    toggle->click();
+    QCOMPARE(QFile::exists(autostart.entryPath()), expectEntry);
+    QCOMPARE(toggle->isChecked(), expectEntry);
+    QCOMPARE(f.preferences.launchAtLogin(), expectPreference);
+    const QLabel *error = f.find<QLabel>(QStringLiteral("TovraSettingsLaunchAtLoginError"));
+    QCOMPARE(error->isVisibleTo(f.page), blockDirectory);
+    if (blockDirectory)
+        QVERIFY(error->text().startsWith(QStringLiteral("Could not update login startup")));
+    if (expectEntry)
+        QCOMPARE(QFile::permissions(autostart.entryPath()),
+                 QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+}
+
+void TestSettingsPage::languageSearch_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<QStringList>("codes");
+    QTest::addRow("all") << "" << QStringList();
+    QTest::addRow("native name") << "deut" << QStringList{QString(), QStringLiteral("de")};
+    QTest::addRow("english name") << "german" << QStringList{QString(), QStringLiteral("de")};
+    QTest::addRow("without accents") << "FRANCAIS" << QStringList{QString(), QStringLiteral("fr")};
+    QTest::addRow("tag") << "zh"
+                         << QStringList{QString(), QStringLiteral("zh-Hans"),
+                                        QStringLiteral("zh-Hant")};
+    QTest::addRow("two words") << "portugues brasil"
+                               << QStringList{QString(), QStringLiteral("pt-BR")};
+    QTest::addRow("nothing") << "klingon" << QStringList{QString()};
+}
+
+void TestSettingsPage::languageSearch()
+{
+    QFETCH(QString, search);
+    QFETCH(QStringList, codes);
+    TempXdgDirs dirs;
+    DemoDaemon daemon;
+    QVERIFY(daemon.start());
+    const LanguageConfigInfo config =
+        ControlEndpoints::fetchLanguageConfig(daemon.socketPath(), kTimeoutMs);
+    QVERIFY(config.valid);
+    LanguagePickerDialog dialog(config.supportedLanguages, config.source, config.language);
+    QAbstractItemModelTester tester(dialog.filterModel(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+    QTest::keyClicks(dialog.searchField(), search);
+
+    QStringList shown;
+    for (int row = 0; row < dialog.filterModel()->rowCount(); ++row)
+        shown.append(
+            dialog.filterModel()->index(row, 0).data(LanguageFilterModel::CodeRole).toString());
+    if (codes.isEmpty())
+        QCOMPARE(shown.size(), config.supportedLanguages.size() + 1);
+    else
+        QCOMPARE(shown, codes);
+}
+
+void TestSettingsPage::languageChoice_data()
+{
+    QTest::addColumn<QString>("search");
+    QTest::addColumn<int>("downPresses");
+    QTest::addColumn<QString>("source");
+    QTest::addColumn<QString>("language");
+    QTest::addRow("first match") << "deutsch" << 0 << "user"
+                                 << "de";
+    QTest::addRow("system") << "" << 0 << "system" << TranslationManager::systemLanguage();
+    QTest::addRow("arrow down") << "" << 2 << "user"
+                                << "de";
+}
+
+void TestSettingsPage::languageChoice()
+{
+    QFETCH(QString, search);
+    QFETCH(int, downPresses);
+    QFETCH(QString, source);
+    QFETCH(QString, language);
+    Fixture f;
+    QVERIFY(f.start());
+    QSignalSpy requested(f.page, SIGNAL(setLanguageRequested(QString, QString)));
+    f.page->appSection()->setPickerRunner([&](LanguagePickerDialog *dialog) {
+        QTest::keyClicks(dialog->searchField(), search);
+        for (int i = 0; i < downPresses; ++i)
+            QTest::keyClick(dialog->searchField(), Qt::Key_Down);
+        QTest::keyClick(dialog->searchField(), Qt::Key_Return);
+        return dialog->result() == QDialog::Accepted;
+    });
+    f.click(QStringLiteral("TovraSettingsLanguage"));
+    QCOMPARE(requested.count(), 1);
+    QCOMPARE(requested.at(0), (QVariantList{source, language}));
+}
+
+namespace {
+
+// Writes the page, scrolled through, and the language picker in light, dark and right to left
+// into dir, for a person to look at.
+int writeScreenshots(const QString &dir)
+{
+    registerControlMetaTypes();
+    QDir().mkpath(dir);
+    for (const Qt::LayoutDirection direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        QApplication::setLayoutDirection(direction);
+        for (const char *appearance : {"light", "dark"}) {
+            Fixture f;
+            if (!f.start())
+                return 1;
+            f.window.setAppearancePreference(QString::fromLatin1(appearance));
+            f.window.resize(900, 720);
+            f.window.show();
+            f.window.showPage(MainWindow::SettingsPageIndex);
+            f.window.setRepairResult(RepairResultInfo{true,
+                                                      {QStringLiteral("kill-switch: repaired"),
+                                                       QStringLiteral("proxy: restarted"),
+                                                       QStringLiteral("vpn: no tunnel to repair")},
+                                                      {}});
+            f.window.setSettingsNote(SettingsNotes::UpdateCheck,
+                                     QStringLiteral("Tovra is up to date"));
+            const QString stem =
+                dir + QLatin1Char('/') + QString::fromLatin1(appearance) +
+                (direction == Qt::RightToLeft ? QStringLiteral("-rtl") : QStringLiteral("-ltr"));
+            QScrollBar *bar = f.page->scrollArea()->verticalScrollBar();
+            for (int part = 0;; ++part) {
+                QApplication::processEvents();
+                f.window.grab().save(stem + QStringLiteral("-page%1.png").arg(part));
+                if (bar->value() >= bar->maximum())
+                    break;
+                bar->setValue(bar->value() + bar->pageStep());
+            }
+            LanguagePickerDialog picker(f.state.languageConfig().supportedLanguages,
+                                        f.state.languageConfig().source,
+                                        f.state.languageConfig().language, &f.window);
+            ThemeEngine::applyToWindow(&picker, f.page->themeColors());
+            picker.show();
+            QTest::keyClicks(picker.searchField(), QStringLiteral("s"));
+            QApplication::processEvents();
+            picker.grab().save(stem + QStringLiteral("-language.png"));
+            // The page with the service away.
+            f.window.setSettingsNote(SettingsNotes::Status,
+                                     QStringLiteral("Could not connect to Tovra daemon."));
+            bar->setValue(0);
+            QApplication::processEvents();
+            f.window.grab().save(stem + QStringLiteral("-down.png"));
+        }
+    }
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char *argv[])
+{
+    QApplication app(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    const qsizetype shots = arguments.indexOf(QStringLiteral("--screenshots"));
+    if (shots > 0 && shots + 1 < arguments.size()) {
+        TempXdgDirs dirs;
+        return writeScreenshots(arguments.at(shots + 1));
+    }
+    TestSettingsPage test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "TestSettingsPage.moc"

@@ -1,0 +1,342 @@
+#include "AppState.h"
+#include "ControlMetaTypes.h"
+#include "GuiPreferences.h"
+#include "QuickEntryField.h"
+#include "RecentActivityStore.h"
+#include "TempXdgDirs.h"
+#include "ToggleSwitch.h"
+#include "VpnKillSwitchRow.h"
+#include "VpnPage.h"
+#include "VpnRecentLocations.h"
+#include "VpnStatusCard.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QSignalSpy>
+#include <QTest>
+
+namespace {
+
+// A status record as the daemon sends it, with `extra` keys merged over a signed-in default.
+RuntimeInfo status(const QByteArray &extra)
+{
+    QByteArray body = R"({"auth_state": "logged_in", "tunnel_state": "disconnected",
+        "mode": {"transport": "auto"},
+        "kill_switch": {"enabled": false, "mode": "auto", "guard": "inactive"},
+        "selected_node": {"id": 1001, "region": "DE", "name": "Frankfurt 01"})";
+    if (!extra.isEmpty())
+        body += ", " + extra;
+    body += '}';
+    return RuntimeInfo::parse(body, nullptr);
+}
+
+NodesInfo catalogueNodes()
+{
+    return NodesInfo::parse(R"({"nodes": [
+        {"id": 1001, "name": "Frankfurt 01", "region": "DE", "type": "svip", "tags": ["SVIP"]},
+        {"id": 1002, "name": "Berlin 01", "region": "DE", "type": "svip", "tags": ["SVIP"]},
+        {"id": 1100, "name": "Tokyo 01", "region": "JP", "type": "free", "tags": ["FREE"]}]})",
+                            nullptr);
+}
+
+NodeGroupsInfo catalogueGroups()
+{
+    return NodeGroupsInfo::parse(R"({"tabs": [{"group_type": "all",
+            "node_ids": ["1001", "1002", "1100"]}],
+        "groups": [
+        {"id": "continent:eu", "name": "Europe", "code": "EU", "level": 1, "rank": 1,
+         "subgroups": [{"id": "country:de", "name": "Germany", "code": "DE", "level": 2,
+            "rank": 2, "subgroups": [
+              {"id": "city:de:fra", "name": "Frankfurt", "code": "FRA", "level": 3, "rank": 3,
+               "node_ids": ["1001"]},
+              {"id": "city:de:ber", "name": "Berlin", "code": "BER", "level": 3, "rank": 4,
+               "node_ids": ["1002"]}]}]},
+        {"id": "continent:as", "name": "Asia", "code": "AS", "level": 1, "rank": 5,
+         "subgroups": [{"id": "country:jp", "name": "Japan", "code": "JP", "level": 2,
+            "rank": 6, "subgroups": [{"id": "city:jp:tyo", "name": "Tokyo", "code": "TYO",
+               "level": 3, "rank": 7, "node_ids": ["1100"]}]}]}]})",
+                                 nullptr);
+}
+
+QStringList texts(std::initializer_list<const char *> list)
+{
+    QStringList result;
+    for (const char *text : list)
+        result << QString::fromUtf8(text);
+    return result;
+}
+
+struct Fixture
+{
+    TempXdgDirs dirs;
+    GuiPreferences preferences;
+    AppState state;
+    VpnPage page{&preferences};
+
+    Fixture()
+    {
+        page.resize(700, 600);
+        page.show();
+    }
+    void apply(const RuntimeInfo &runtime)
+    {
+        state.setRuntime(runtime);
+        page.refresh(state);
+    }
+    QPushButton *primary() const { return page.statusCard()->primaryAction(); }
+    QString label(const char *name) const
+    {
+        return page.findChild<QLabel *>(QString::fromLatin1(name))->text();
+    }
+};
+
+} // namespace
+
+class TestVpnPage : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void initTestCase() { registerControlMetaTypes(); }
+
+    void states_data()
+    {
+        QTest::addColumn<QByteArray>("extra");
+        QTest::addColumn<QString>("unavailable");
+        QTest::addColumn<QString>("pendingLabel");
+        QTest::addColumn<QStringList>("expected"); // dot, title, detail, location, primary
+        QTest::addColumn<QString>("role");
+        QTest::addColumn<bool>("enabled");
+        QTest::addRow("connected")
+            << QByteArray(R"("tunnel_state": "connected", "connected_since": "2026-01-01T10:00:00Z",
+                 "connected_node": {"id": 1002, "region": "DE", "name": "Berlin 01"},
+                 "kill_switch": {"enabled": true, "mode": "auto", "guard": "active"})")
+            << QString() << QString()
+            << texts({"connected", "Connected", "Your traffic goes through the Tovra tunnel.",
+                      "Germany \u00b7 Berlin 01", "Disconnect"})
+            << "disconnect" << true;
+        QTest::addRow("connecting with a target")
+            << QByteArray() << QString() << "Japan"
+            << texts({"disconnected", "Connecting\u2026", "Connecting to Japan", "", "Cancel"})
+            << "disconnect" << true;
+        QTest::addRow("daemon connecting by itself")
+            << QByteArray(R"("tunnel_state": "connecting",
+                 "connected_node": {"id": 1100, "region": "JP", "name": "Tokyo 01"})")
+            << QString() << QString()
+            << texts({"disconnected", "Connecting\u2026", "Connecting to Japan \u00b7 Tokyo 01",
+                      "Japan \u00b7 Tokyo 01", "Cancel"})
+            << "disconnect" << true;
+        QTest::addRow("disconnecting")
+            << QByteArray(R"("tunnel_state": "disconnecting")") << QString() << QString()
+            << texts({"disconnected", "Disconnecting\u2026", "Closing the tunnel.", "",
+                      "Disconnecting\u2026"})
+            << "disconnect" << false;
+        QTest::addRow("disconnected, kill switch guarding")
+            << QByteArray(
+                   R"("kill_switch": {"enabled": true, "mode": "always", "guard": "active"})")
+            << QString() << QString()
+            << texts({"disconnected", "Disconnected",
+                      "Kill Switch blocks traffic until you connect.",
+                      "Germany \u00b7 Frankfurt 01", "Connect"})
+            << "connect" << true;
+        QTest::addRow("daemon unavailable")
+            << QByteArray() << "Tovra daemon is not running." << QString()
+            << texts({"unavailable", "Service unavailable", "Tovra daemon is not running.", "",
+                      "Connect"})
+            << "connect" << false;
+        QTest::addRow("signed out")
+            << QByteArray(R"("auth_state": "logged_out")") << QString() << QString()
+            << texts({"disconnected", "Signed out", "Sign in to your Tovra account to connect.", "",
+                      "Sign In"})
+            << "connect" << true;
+    }
+    void states()
+    {
+        QFETCH(QByteArray, extra);
+        QFETCH(QString, unavailable);
+        QFETCH(QString, pendingLabel);
+        QFETCH(QStringList, expected);
+        QFETCH(QString, role);
+        QFETCH(bool, enabled);
+        Fixture f;
+        f.state.setNodes(catalogueNodes());
+        f.page.setDaemonUnavailableReason(unavailable);
+        if (!pendingLabel.isEmpty())
+            f.page.setConnectInProgress(true, QStringLiteral("country:jp"), pendingLabel);
+        f.apply(status(extra));
+        const QLabel *dot = f.page.findChild<QLabel *>(QStringLiteral("TovraVPNStatusDot"));
+        QCOMPARE(dot->property("tovraStatusState").toString(), expected.at(0));
+        QCOMPARE(f.label("TovraVPNStatusTitle"), expected.at(1));
+        QCOMPARE(f.label("TovraVPNStatusDetail"), expected.at(2));
+        const QLabel *place = f.page.findChild<QLabel *>(QStringLiteral("TovraVPNLocationText"));
+        QCOMPARE(place->isVisible() ? place->text() : QString(), expected.at(3));
+        QCOMPARE(f.primary()->text(), expected.at(4));
+        QCOMPARE(f.primary()->property("tovraPrimaryRole").toString(), role);
+        QCOMPARE(f.primary()->isEnabled(), enabled);
+        // The clock ticks only for a live, visible connection.
+        const bool connected = expected.at(1) == QLatin1String("Connected");
+        QCOMPARE(f.page.statusCard()->isTicking(), connected);
+        if (connected) {
+            QVERIFY(f.label("TovraVPNFacts").startsWith(QStringLiteral("Connected for ")));
+            f.page.hide();
+            QVERIFY(!f.page.statusCard()->isTicking());
+        }
+    }
+
+    void primaryAction_data()
+    {
+        QTest::addColumn<QByteArray>("extra");
+        QTest::addColumn<bool>("pending");
+        QTest::addColumn<QByteArray>("intent");
+        QTest::addRow("connect") << QByteArray() << false
+                                 << QByteArray(SIGNAL(connectRuntimeRequested()));
+        QTest::addRow("cancel our connect")
+            << QByteArray() << true << QByteArray(SIGNAL(cancelConnectRequested()));
+        QTest::addRow("stop the daemon's connect")
+            << QByteArray(R"("tunnel_state": "connecting")") << false
+            << QByteArray(SIGNAL(disconnectRuntimeRequested()));
+        QTest::addRow("disconnect") << QByteArray(R"("tunnel_state": "connected")") << false
+                                    << QByteArray(SIGNAL(disconnectRuntimeRequested()));
+        QTest::addRow("signed out leads to the account page")
+            << QByteArray(R"("auth_state": "logged_out")") << false
+            << QByteArray(SIGNAL(accountPageRequested()));
+    }
+    void primaryAction()
+    {
+        QFETCH(QByteArray, extra);
+        QFETCH(bool, pending);
+        QFETCH(QByteArray, intent);
+        Fixture f;
+        f.page.setConnectInProgress(pending, QString(), QString());
+        f.apply(status(extra));
+        const QList<QByteArray> intents{
+            SIGNAL(connectRuntimeRequested()), SIGNAL(cancelConnectRequested()),
+            SIGNAL(disconnectRuntimeRequested()), SIGNAL(accountPageRequested())};
+        QList<QSharedPointer<QSignalSpy>> spies;
+        for (const QByteArray &signal : intents)
+            spies.append(QSharedPointer<QSignalSpy>::create(&f.page, signal.constData()));
+        QTest::mouseClick(f.primary(), Qt::LeftButton);
+        for (int i = 0; i < intents.size(); ++i)
+            QCOMPARE(spies.at(i)->size(), intents.at(i) == intent ? 1 : 0);
+    }
+
+    // Through the page with the real catalogue: the target is named, then connected.
+    void quickEntryConnects_data()
+    {
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<int>("downs");
+        QTest::addColumn<QByteArray>("intent");
+        QTest::addColumn<QVariantList>("pending");
+        QTest::addRow("a country")
+            << "germany" << 0 << QByteArray(SIGNAL(connectSmartRequested(QString)))
+            << QVariantList{QStringLiteral("country:de"), QStringLiteral("Germany")};
+        QTest::addRow("a node") << "tokyo" << 1
+                                << QByteArray(SIGNAL(connectNodeRequested(QString, QString)))
+                                << QVariantList{QStringLiteral("1100"), QStringLiteral("Tokyo 01")};
+    }
+    void quickEntryConnects()
+    {
+        QFETCH(QString, typed);
+        QFETCH(int, downs);
+        QFETCH(QByteArray, intent);
+        QFETCH(QVariantList, pending);
+        Fixture f;
+        f.state.setNodeGroups(catalogueGroups());
+        f.state.setNodes(catalogueNodes());
+        f.apply(status({}));
+        QSignalSpy named(&f.page, &VpnPage::pendingConnectTargetChanged);
+        QSignalSpy connects(&f.page, intent.constData());
+        QuickEntryField *field = f.page.quickEntry();
+        QTest::keyClicks(field, typed);
+        QTRY_VERIFY(!field->isSearchPending());
+        for (int i = 0; i < downs; ++i)
+            QTest::keyClick(field, Qt::Key_Down);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(named.size(), 1);
+        QCOMPARE(named.first(), pending);
+        QCOMPARE(connects.size(), 1);
+        QCOMPARE(connects.first().first(), pending.first());
+        QVERIFY(!f.page.isQuickEntryPopupOpen());
+    }
+
+    // A connection joins the recent list once; Clear empties it and says so.
+    void recentLocations()
+    {
+        Fixture f;
+        f.state.setNodes(catalogueNodes());
+        const QByteArray tokyo = R"("tunnel_state": "connected",
+            "connected_node": {"id": 1100, "region": "JP", "name": "Tokyo 01"})";
+        f.apply(status(tokyo));
+        f.apply(status(tokyo + R"(, "daemon_version": "poll")"));
+        VpnRecentLocations *card = f.page.recentLocations();
+        QCOMPARE(card->rows().size(), 1);
+        QCOMPARE(card->rows().first()->text(), QStringLiteral("Japan \u00b7 Tokyo 01"));
+
+        QSignalSpy cleared(&f.page, &VpnPage::recentConnectionsCleared);
+        QSignalSpy connects(&f.page, &VpnPage::connectNodeRequested);
+        QTest::mouseClick(card->rows().first(), Qt::LeftButton);
+        QCOMPARE(connects.size(), 1);
+        QCOMPARE(connects.first().first().toString(), QStringLiteral("1100"));
+        QTest::mouseClick(card->clearButton(), Qt::LeftButton);
+        QCOMPARE(cleared.size(), 1);
+        QVERIFY(card->rows().isEmpty());
+        QVERIFY(RecentActivityStore(&f.preferences).recentLocations().isEmpty());
+        QVERIFY(!card->clearButton()->isVisible());
+    }
+
+    void killSwitch_data()
+    {
+        QTest::addColumn<QByteArray>("extra");
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QByteArray>("intent");
+        QTest::addRow("turn on") << QByteArray() << 0
+                                 << QByteArray(SIGNAL(setKillSwitchEnabledRequested(bool)));
+        QTest::addRow("proxy: switch to Auto")
+            << QByteArray(R"("mode": {"transport": "proxy"})") << 1
+            << QByteArray(SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
+        QTest::addRow("proxy: choose a mode")
+            << QByteArray(R"("mode": {"transport": "proxy"})") << 2
+            << QByteArray(SIGNAL(chooseModeForKillSwitchRequested()));
+        QTest::addRow("proxy: cancelled")
+            << QByteArray(R"("mode": {"transport": "proxy"})") << 0 << QByteArray();
+        QTest::addRow("lockdown cannot be turned off")
+            << QByteArray(R"("kill_switch": {"enabled": true, "mode": "lockdown",
+                 "guard": "active"})")
+            << 0 << QByteArray();
+    }
+    void killSwitch()
+    {
+        QFETCH(QByteArray, extra);
+        QFETCH(int, answer);
+        QFETCH(QByteArray, intent);
+        Fixture f;
+        int asked = 0;
+        f.page.setKillSwitchConfirm([&](QWidget *) {
+            ++asked;
+            return answer;
+        });
+        f.apply(status(extra));
+        QSignalSpy set(&f.page, &VpnPage::setKillSwitchEnabledRequested);
+        QSignalSpy toAuto(&f.page, &VpnPage::switchToAutoAndEnableKillSwitchRequested);
+        QSignalSpy choose(&f.page, &VpnPage::chooseModeForKillSwitchRequested);
+        ToggleSwitch *toggle = f.page.statusCard()->killSwitchRow()->toggle();
+        const bool wasOn = toggle->isChecked();
+        // Lockdown keeps the switch disabled; a stray request is refused just the same.
+        if (toggle->isEnabled())
+            QTest::mouseClick(toggle, Qt::LeftButton);
+        else
+            Q_EMIT toggle->toggleRequested(false);
+        QCOMPARE(set.size(), intent == SIGNAL(setKillSwitchEnabledRequested(bool)) ? 1 : 0);
+        QCOMPARE(toAuto.size(),
+                 intent == SIGNAL(switchToAutoAndEnableKillSwitchRequested()) ? 1 : 0);
+        QCOMPARE(choose.size(), intent == SIGNAL(chooseModeForKillSwitchRequested()) ? 1 : 0);
+        QCOMPARE(asked, extra.contains("proxy") ? 1 : 0);
+        if (!set.isEmpty())
+            QCOMPARE(set.first().first().toBool(), true);
+        // The switch follows the record, never the click.
+        QCOMPARE(toggle->isChecked(), wasOn);
+    }
+};
+
+QTEST_MAIN(TestVpnPage)
+#include "TestVpnPage.moc"

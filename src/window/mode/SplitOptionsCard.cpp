@@ -8,7 +8,6 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
-#include <QStackedWidget>
 #include <QVBoxLayout>
 
 namespace {
@@ -30,7 +29,7 @@ QLabel *mutedLabel(QWidget *parent)
 SplitOptionsCard::SplitOptionsCard(QWidget *parent)
     : QFrame(parent)
     , m_title(new QLabel(this))
-    , m_pages(new QStackedWidget(this))
+    , m_none(mutedLabel(this))
     , m_error(new ModeInlineError(this))
 {
     setObjectName(QStringLiteral("TovraModeCard"));
@@ -40,12 +39,11 @@ SplitOptionsCard::SplitOptionsCard(QWidget *parent)
     m_title->setObjectName(QStringLiteral("TovraCardTitle"));
     layout->addWidget(m_title);
 
-    QLabel *none = mutedLabel(m_pages);
-    none->setText(tr("Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: "
-                     "by region, by the GFWList or by your own rules."));
-    m_pages->addWidget(none);
-    m_pages->addWidget(buildOptions());
-    layout->addWidget(m_pages);
+    m_none->setText(tr("Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: "
+                       "by region, by the GFWList or by your own rules."));
+    layout->addWidget(m_none);
+    m_options = buildOptions();
+    layout->addWidget(m_options);
     layout->addWidget(m_error);
     refresh(ModeInfo(), -1);
 }
@@ -70,7 +68,7 @@ QWidget *SplitOptionsCard::row(QWidget *parent, QLabel *title, QLabel *detail, Q
 
 QWidget *SplitOptionsCard::buildOptions()
 {
-    auto *options = new QWidget(m_pages);
+    auto *options = new QWidget(this);
     auto *layout = new QVBoxLayout(options);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(6);
@@ -133,7 +131,8 @@ void SplitOptionsCard::refresh(const ModeInfo &mode, int ruleCount)
     m_title->setText(!m_hasFamily                      ? tr("Split routing")
                      : m_family == SplitFamily::Tunnel ? tr("TovraVPN Split options")
                                                        : tr("Tovra Proxy Split options"));
-    m_pages->setCurrentIndex(m_hasFamily ? 1 : 0);
+    m_none->setVisible(!m_hasFamily);
+    m_options->setVisible(m_hasFamily);
     if (!m_hasFamily)
         return;
 

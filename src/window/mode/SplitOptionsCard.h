@@ -8,7 +8,6 @@ class ModeInlineError;
 class ModeSegmentedBar;
 class QLabel;
 class QPushButton;
-class QStackedWidget;
 class ToggleSwitch;
 
 // The options of the split mode in effect: default route, regions, GFWList and custom rules.
@@ -54,7 +53,9 @@ private:
     bool m_hasFamily = false;
 
     QLabel *m_title;
-    QStackedWidget *m_pages;
+    // Only one shows: the options, or the note on where they come from.
+    QLabel *m_none;
+    QWidget *m_options = nullptr;
     ModeSegmentedBar *m_route = nullptr;
     QLabel *m_routeDetail = nullptr;
     QLabel *m_regionsDetail = nullptr;

@@ -148,6 +148,8 @@ QString TovraSplitRulesEditorDialog::savedText(const QString &kind) const
 
 void TovraSplitRulesEditorDialog::setRules(const SplitRulesInfo &rules)
 {
+    if (rules == m_rules)
+        return;
     m_rules = rules;
     // A draft that now matches what the daemon holds is no longer unsaved.
     for (auto it = m_drafts.begin(); it != m_drafts.end();) {
@@ -175,11 +177,8 @@ void TovraSplitRulesEditorDialog::rebuildKinds()
             m_kindBar->addSegment(kind, kindLabel(kind), description ? tr(description) : QString());
         }
     }
-    QString kind = m_kind;
-    if (!available.contains(kind))
-        kind = available.value(0);
-    m_kind.clear();
-    loadKind(kind);
+    // The kind on show stays, and with it the cursor in its text.
+    loadKind(available.contains(m_kind) ? m_kind : available.value(0));
 }
 
 void TovraSplitRulesEditorDialog::selectKind(const QString &kind)
@@ -234,7 +233,9 @@ void TovraSplitRulesEditorDialog::updateStatus()
                              : tr("Rules are not loaded yet.");
     } else {
         const QString content = m_editor->toPlainText();
-        const int lines = content.isEmpty() ? 0 : m_editor->blockCount();
+        // A closing newline ends the last line; it does not start another.
+        const int lines =
+            content.isEmpty() ? 0 : m_editor->blockCount() - (content.endsWith(u'\n') ? 1 : 0);
         text =
             tr("Rules: %1 \u00b7 Lines: %2").arg(SplitRuleValidator::ruleCount(content)).arg(lines);
         if (m_drafts.contains(m_kind))

@@ -10,6 +10,7 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTextCursor>
 
 using namespace Qt::StringLiterals;
 
@@ -168,15 +169,23 @@ void TestSplitRulesEditor::kindsFromTheRecordAndEditsSurviveASwitch()
 
     dialog.editor()->setPlainText(u"example.cn\nmine.example\n"_s);
     QVERIFY(dialog.hasUnsavedEdits(u"direct"_s));
+    // A poll that brings a new record leaves the text and the cursor where the user has them.
+    QTextCursor cursor = dialog.editor()->textCursor();
+    cursor.setPosition(14);
+    dialog.editor()->setTextCursor(cursor);
+    reported[u"block"_s].append(u"more.example"_s);
+    dialog.setRules(rules(reported));
+    QCOMPARE(dialog.editor()->textCursor().position(), 14);
     QTest::mouseClick(dialog.kindBar()->segment(u"block"_s), Qt::LeftButton);
     QCOMPARE(dialog.currentKind(), u"block"_s);
-    QCOMPARE(dialog.editor()->toPlainText(), u"ads.example\n10.0.0.0/8\n"_s);
+    QCOMPARE(dialog.editor()->toPlainText(), u"ads.example\n10.0.0.0/8\nmore.example\n"_s);
     // A fresh record (a poll, another import) does not overwrite the unsaved text.
     reported[u"direct"_s] = QStringList{u"example.cn"_s, u"other.example"_s};
     dialog.setRules(rules(reported));
     QTest::mouseClick(dialog.kindBar()->segment(u"direct"_s), Qt::LeftButton);
     QCOMPARE(dialog.editor()->toPlainText(), u"example.cn\nmine.example\n"_s);
     QVERIFY(dialog.statusLabel()->text().contains(u"not imported"_s));
+    QVERIFY(dialog.statusLabel()->text().startsWith(u"Rules: 2 \u00b7 Lines: 2"_s));
     // Typing it back to what the daemon holds leaves nothing unsaved.
     dialog.editor()->setPlainText(u"example.cn\nother.example\n"_s);
     QVERIFY(!dialog.hasUnsavedEdits(u"direct"_s));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>
@@ -31,9 +32,26 @@ private:
         QRegularExpression wordStart; // invalid pattern for tokens matched as plain substrings
         bool byWord = false;
     };
+    struct RowResult
+    {
+        quint64 matchedAlongPath = 0; // a bit per token met by the row's or an ancestor's text
+        qint8 accepted = -1;          // -1 not yet known
+    };
 
     bool matches(const QModelIndex &sourceIndex) const;
     bool descendantMatches(const QModelIndex &sourceIndex) const;
+    bool acceptsIndex(const QModelIndex &sourceIndex) const;
+    RowResult &result(const QModelIndex &sourceIndex) const;
+    bool tokenMatches(const Token &token, const QString &text) const;
+    const QString &joinedText(const QModelIndex &sourceIndex) const;
+    void watchSource();
+    void forgetResults();
 
     QList<Token> m_tokens;
+    // Results of the current search, kept until the search or the source changes: a group's
+    // answer is reused for the rows below it instead of being worked out again.
+    mutable QHash<QModelIndex, RowResult> m_results;
+    mutable QHash<QModelIndex, QString> m_joined; // only past 64 tokens
+    QList<QMetaObject::Connection> m_sourceConnections;
+    bool m_refilterQueued = false;
 };

@@ -52,7 +52,8 @@ QString blueprintKey(const CatalogBlueprint &row)
     return row.group ? QLatin1String("g:") + row.id : QLatin1String("n:") + row.id;
 }
 
-QString searchTextFor(const CatalogBlueprint &row, const QString &tier)
+QString searchTextFor(const CatalogBlueprint &row, const QString &tier,
+                      QHash<QString, QStringList> &countryWords)
 {
     QStringList words{row.label};
     if (row.group && row.entry) {
@@ -68,7 +69,13 @@ QString searchTextFor(const CatalogBlueprint &row, const QString &tier)
             words << QCoreApplication::translate("CatalogTreeModel", "Premium");
     }
     if (!row.region.isEmpty() && (!row.group || row.country)) {
-        words << row.region << countryEnglishName(row.region) << countryName(row.region);
+        // The table is scanned once per country, not once per node.
+        auto found = countryWords.constFind(row.region);
+        if (found == countryWords.cend()) {
+            found = countryWords.insert(
+                row.region, {row.region, countryEnglishName(row.region), countryName(row.region)});
+        }
+        words << found.value();
     }
     for (QString &word : words)
         word = word.trimmed().toLower();
@@ -100,7 +107,9 @@ void CatalogTreeModel::setCatalog(const NodeGroupsInfo &groups, const NodesInfo 
 
 void CatalogTreeModel::setTab(const QString &tab)
 {
-    const QString next = tab.trimmed().toLower();
+    QString next = tab.trimmed().toLower();
+    if (next == QLatin1String("all"))
+        next.clear(); // the same rows, so no rebuild
     if (next == m_tab)
         return;
     m_tab = next;
@@ -335,7 +344,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->tier = CatalogTreeBuilder::tierOf(node);
             item->label = blueprint.label;
             item->region = blueprint.region;
-            item->searchText = searchTextFor(blueprint, item->tier);
+            item->searchText = searchTextFor(blueprint, item->tier, m_countryWords);
             change |= TextChange;
         }
         set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1, StateChange);
@@ -356,7 +365,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->groupName = name;
             item->groupCode = code;
             item->country = blueprint.country;
-            item->searchText = searchTextFor(blueprint, QString());
+            item->searchText = searchTextFor(blueprint, QString(), m_countryWords);
             change |= TextChange;
         }
         set(item->pingMs, blueprint.bestPingMs, StateChange);

@@ -24,7 +24,8 @@ public:
 
     // Applies both records; the tree is rebuilt only when the groups change shape.
     void setCatalog(const NodeGroupsInfo &groups, const NodesInfo &nodes);
-    // "all", "free", "svip", "favorite" (the daemon's tab words), or empty for everything.
+    // "all", "free", "svip", "favorite" (the daemon's tab words), or empty for everything;
+    // "all" reads back as empty.
     void setTab(const QString &tab);
     QString tab() const { return m_tab; }
     // Tiers the account may use ("FREE", "SVIP"); rows of other tiers read as locked.
@@ -80,4 +81,5 @@ private:
     mutable QHash<QString, const Item *> m_byNode;
     mutable QHash<QString, const Item *> m_bySelector;
     mutable bool m_lookupValid = false;
+    mutable QHash<QString, QStringList> m_countryWords; // region -> its words for the search
 };

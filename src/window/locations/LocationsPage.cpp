@@ -21,6 +21,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QTimer>
 
 namespace {
 
@@ -121,6 +122,10 @@ QWidget *LocationsPage::buildContent()
     m_stack->addWidget(m_empty);
     column->addWidget(m_stack, 1);
 
+    m_statusTimer = new QTimer(this);
+    m_statusTimer->setSingleShot(true);
+    m_statusTimer->setInterval(150);
+    connect(m_statusTimer, &QTimer::timeout, this, &LocationsPage::updateStatusLine);
     m_status = new QLabel(content);
     m_status->setProperty("tovraRole", QStringLiteral("muted"));
     m_status->setWordWrap(true);
@@ -162,15 +167,17 @@ QWidget *LocationsPage::buildContent()
     }
     connect(m_filter, &QAbstractItemModel::modelReset, this, [this] { updateEmptyState(); });
     connect(m_filter, &QAbstractItemModel::layoutChanged, this, [this] { updateEmptyState(); });
-    // Rows that arrive during a search open like the rest of the results.
-    connect(m_filter, &QAbstractItemModel::rowsInserted, this,
-            [this](const QModelIndex &parent, int first, int last) {
-                if (!m_filter->isSearching())
-                    return;
-                m_tree->expand(parent);
-                for (int row = first; row <= last; ++row)
-                    m_tree->expandRecursively(m_filter->index(row, 0, parent));
-            });
+    // Rows that arrive during a search open like the rest of the results, once per batch.
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, [this] {
+        if (!m_filter->isSearching() || m_expandPending)
+            return;
+        m_expandPending = true;
+        QTimer::singleShot(0, this, [this] {
+            m_expandPending = false;
+            if (m_filter->isSearching())
+                expandResults();
+        });
+    });
     return content;
 }
 
@@ -261,11 +268,37 @@ void LocationsPage::searchChanged(const QString &text)
         m_expandedBeforeSearch.clear();
         m_tree->scrollTo(m_tree->currentIndex());
     } else if (searching && m_filter->tokens() != before) {
-        m_tree->expandAll();
+        expandResults();
         selectFirstMatch();
     }
     updateEmptyState();
-    updateStatusLine();
+    // Counting the matches walks every row: once typing pauses, not on each key.
+    m_statusTimer->start();
+}
+
+void LocationsPage::expandResults()
+{
+    // Level by level while the opened rows still fit a few screens: a narrow search opens down
+    // to its nodes, a one-letter one opens its groups without laying out the whole catalogue.
+    constexpr int kMaxOpenRows = 400;
+    m_tree->collapseAll();
+    int open = m_filter->rowCount();
+    QModelIndexList level;
+    for (int row = 0; row < m_filter->rowCount(); ++row)
+        level.append(m_filter->index(row, 0));
+    while (!level.isEmpty() && open < kMaxOpenRows) {
+        QModelIndexList next;
+        for (const QModelIndex &group : std::as_const(level)) {
+            const int rows = m_filter->rowCount(group);
+            if (rows == 0 || open + rows > kMaxOpenRows)
+                continue;
+            m_tree->expand(group);
+            open += rows;
+            for (int row = 0; row < rows; ++row)
+                next.append(m_filter->index(row, 0, group));
+        }
+        level = next;
+    }
 }
 
 void LocationsPage::selectFirstMatch()

@@ -14,6 +14,7 @@ class LocationsTreeView;
 class QLabel;
 class QLineEdit;
 class QStackedWidget;
+class QTimer;
 struct UserInfo;
 
 // Page 1: the catalogue of locations with favourites and search.
@@ -55,6 +56,7 @@ private:
     void showRowMenu(const QModelIndex &index, const QPoint &globalPos);
     void typeIntoSearch(const QString &text);
     void selectFirstMatch();
+    void expandResults();
     QSet<QString> expandedSelectors() const;
     void restoreExpansion(const QSet<QString> &selectors);
     void updateEmptyState();
@@ -71,10 +73,12 @@ private:
     LocationsEmptyState *m_empty = nullptr;
     QStackedWidget *m_stack = nullptr;
     QLabel *m_status = nullptr;
+    QTimer *m_statusTimer = nullptr;
     QAction *m_searchIcon = nullptr;
     GuiPreferences *m_preferences = nullptr;
     QSet<QString> m_expandedBeforeSearch;
     QString m_hint;
+    bool m_expandPending = false;
     bool m_serviceKnown = false;
     bool m_catalogueKnown = false;
     bool m_groupsKnown = false;

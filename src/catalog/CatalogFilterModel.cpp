@@ -32,15 +32,20 @@ void CatalogFilterModel::watchSource()
         disconnect(connection);
     m_sourceConnections.clear();
     forgetResults();
+    m_subtreeTexts.clear();
     const QAbstractItemModel *source = sourceModel();
     if (!source)
         return;
     // Kept results name rows by position, so any change of rows or texts drops them all.
-    const auto forget = [this] { forgetResults(); };
+    const auto forget = [this] {
+        forgetResults();
+        m_subtreeTexts.clear();
+    };
     // The base class filters new or changed rows but never asks again about the groups above
     // them, which may have to appear or go; one full pass once the change is over settles them.
     const auto refilter = [this] {
         forgetResults();
+        m_subtreeTexts.clear();
         if (m_tokens.isEmpty() || m_refilterQueued)
             return;
         m_refilterQueued = true;
@@ -130,13 +135,13 @@ void CatalogFilterModel::setFilterText(const QString &text)
 const QString &CatalogFilterModel::joinedText(const QModelIndex &sourceIndex) const
 {
     // The outermost group's text first, then each level down, joined by single spaces.
-    auto found = m_joined.constFind(sourceIndex);
+    auto found = m_joined.constFind(keyOf(sourceIndex));
     if (found != m_joined.cend())
         return found.value();
     const QString own = sourceIndex.data(LocationSearchTextRole).toString();
     const QModelIndex parent = sourceIndex.parent();
     QString joined = parent.isValid() ? joinedText(parent) + QLatin1Char(' ') + own : own;
-    return m_joined.insert(sourceIndex, joined).value();
+    return m_joined.insert(keyOf(sourceIndex), joined).value();
 }
 
 bool CatalogFilterModel::tokenMatches(const Token &token, const QString &text) const
@@ -150,7 +155,7 @@ bool CatalogFilterModel::tokenMatches(const Token &token, const QString &text) c
 
 CatalogFilterModel::RowResult &CatalogFilterModel::result(const QModelIndex &sourceIndex) const
 {
-    auto found = m_results.find(sourceIndex);
+    auto found = m_results.find(keyOf(sourceIndex));
     if (found != m_results.end())
         return found.value();
     const QModelIndex parent = sourceIndex.parent();
@@ -162,7 +167,7 @@ CatalogFilterModel::RowResult &CatalogFilterModel::result(const QModelIndex &sou
         if (!(row.matchedAlongPath & bit) && tokenMatches(m_tokens.at(i), own))
             row.matchedAlongPath |= bit;
     }
-    return m_results.insert(sourceIndex, row).value();
+    return m_results.insert(keyOf(sourceIndex), row).value();
 }
 
 bool CatalogFilterModel::matches(const QModelIndex &sourceIndex) const
@@ -184,9 +189,33 @@ bool CatalogFilterModel::matches(const QModelIndex &sourceIndex) const
     return true;
 }
 
+const QString &CatalogFilterModel::subtreeText(const QModelIndex &sourceIndex) const
+{
+    auto found = m_subtreeTexts.constFind(keyOf(sourceIndex));
+    if (found != m_subtreeTexts.cend())
+        return found.value();
+    QString text = sourceIndex.data(LocationSearchTextRole).toString();
+    const QAbstractItemModel *model = sourceModel();
+    const int rows = model->rowCount(sourceIndex);
+    for (int row = 0; row < rows; ++row) {
+        const QString &below = subtreeText(model->index(row, 0, sourceIndex));
+        text += QLatin1Char(' ') + below;
+    }
+    return m_subtreeTexts.insert(keyOf(sourceIndex), text).value();
+}
+
 bool CatalogFilterModel::descendantMatches(const QModelIndex &sourceIndex) const
 {
     const QAbstractItemModel *model = sourceModel();
+    // A word that neither the path down to here nor any text below holds rules out every row
+    // below at once; narrow searches skip most of the catalogue this way.
+    const quint64 onPath = m_tokens.size() <= 64 ? result(sourceIndex).matchedAlongPath : 0;
+    for (qsizetype i = 0; i < m_tokens.size(); ++i) {
+        if (i < 64 && (onPath & (quint64(1) << i)))
+            continue;
+        if (!subtreeText(sourceIndex).contains(m_tokens.at(i).text))
+            return false;
+    }
     const int rows = model->rowCount(sourceIndex);
     for (int row = 0; row < rows; ++row) {
         if (acceptsIndex(model->index(row, 0, sourceIndex))) {

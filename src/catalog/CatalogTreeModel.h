@@ -58,6 +58,8 @@ private:
     enum Change : int { NoChange = 0, StateChange = 1, TextChange = 2 };
 
     void rebuild();
+    bool sameNodes(const NodesInfo &nodes) const;
+    void updateStates(Item *parent);
     void sync(Item *parent, std::vector<CatalogBlueprint> &rows);
     bool sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const;
     void removeMissing(Item *parent, const std::vector<CatalogBlueprint> &rows);

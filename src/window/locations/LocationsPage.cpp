@@ -25,16 +25,20 @@
 
 namespace {
 
-// Calls visit(index) for every row of the model, parents before children.
+// Calls visit(index) for every row of the model, parents before children, until it returns
+// false; returns false when it was stopped.
 template<typename Visit>
-void forEachRow(const QAbstractItemModel *model, const QModelIndex &parent, Visit &&visit)
+bool forEachRow(const QAbstractItemModel *model, const QModelIndex &parent, Visit &&visit)
 {
     for (int row = 0; row < model->rowCount(parent); ++row) {
         const QModelIndex index = model->index(row, 0, parent);
         if (!visit(index))
-            return;
-        forEachRow(model, index, visit);
+            return false;
+        // Asked first, so that a proxy sets up no row table for each childless node.
+        if (model->hasChildren(index) && !forEachRow(model, index, visit))
+            return false;
     }
+    return true;
 }
 
 // Down moves from the search field into the tree; Escape empties the field.
@@ -263,7 +267,6 @@ void LocationsPage::searchChanged(const QString &text)
         m_toolbar->setSearchGlobal(searching);
     }
     if (!searching && wasSearching) {
-        m_tree->collapseAll();
         restoreExpansion(m_expandedBeforeSearch);
         m_expandedBeforeSearch.clear();
         m_tree->scrollTo(m_tree->currentIndex());
@@ -281,7 +284,7 @@ void LocationsPage::expandResults()
     // Level by level while the opened rows still fit a few screens: a narrow search opens down
     // to its nodes, a one-letter one opens its groups without laying out the whole catalogue.
     constexpr int kMaxOpenRows = 400;
-    m_tree->collapseAll();
+    QModelIndexList groups;
     int open = m_filter->rowCount();
     QModelIndexList level;
     for (int row = 0; row < m_filter->rowCount(); ++row)
@@ -292,13 +295,14 @@ void LocationsPage::expandResults()
             const int rows = m_filter->rowCount(group);
             if (rows == 0 || open + rows > kMaxOpenRows)
                 continue;
-            m_tree->expand(group);
+            groups.append(group);
             open += rows;
             for (int row = 0; row < rows; ++row)
                 next.append(m_filter->index(row, 0, group));
         }
         level = next;
     }
+    m_tree->expandOnly(groups);
 }
 
 void LocationsPage::selectFirstMatch()
@@ -398,14 +402,16 @@ QSet<QString> LocationsPage::expandedSelectors() const
 
 void LocationsPage::restoreExpansion(const QSet<QString> &selectors)
 {
-    if (selectors.isEmpty())
-        return;
-    forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-        if (index.data(LocationIsGroupRole).toBool() &&
-            selectors.contains(index.data(LocationSelectorRole).toString()))
-            m_tree->expand(index);
-        return true;
-    });
+    QModelIndexList groups;
+    if (!selectors.isEmpty()) {
+        forEachRow(m_filter, {}, [&](const QModelIndex &index) {
+            if (index.data(LocationIsGroupRole).toBool() &&
+                selectors.contains(index.data(LocationSelectorRole).toString()))
+                groups.append(index);
+            return true;
+        });
+    }
+    m_tree->expandOnly(groups);
 }
 
 void LocationsPage::updateEmptyState()

@@ -212,7 +212,8 @@ void LocationsPage::refresh(const AppState &state)
     m_groupsKnown = state.nodeGroups().valid;
     m_model->setAvailableTiers(tiersFor(state.user()));
     m_model->setCatalog(state.nodeGroups(), state.nodes());
-    m_toolbar->setCooldown(state.nodesRefreshCooldown());
+    m_cooldown = state.nodesRefreshCooldown();
+    m_toolbar->setCooldown(m_cooldown);
     updateEmptyState();
     updateStatusLine();
 }
@@ -241,8 +242,8 @@ void LocationsPage::applyTheme(const ThemeColors &colors)
 void LocationsPage::pageShown()
 {
     ++m_shownCount;
-    if (!m_catalogueKnown || !m_groupsKnown)
-        Q_EMIT loadLocationsRequested();
+    if (m_serviceKnown && !m_catalogueKnown && m_cooldown == 0)
+        Q_EMIT refreshLocationsRequested();
 }
 
 void LocationsPage::tabChanged(const QString &tab)

@@ -30,7 +30,8 @@ public:
     void refresh(const AppState &state) override;
     void applyTheme(const ThemeColors &colors) override;
 
-    // The window calls this each time the page becomes current.
+    // The window calls this each time the page becomes current; with no catalogue yet from a
+    // running service, it asks for one (the refresh cooldown keeps that from repeating).
     void pageShown();
     int shownCount() const { return m_shownCount; }
 
@@ -39,8 +40,6 @@ public:
 
 Q_SIGNALS:
     void refreshLocationsRequested();
-    // The catalogue or its groups are missing: fetch them, without a forced refresh.
-    void loadLocationsRequested();
     void connectNodeRequested(QString nodeID, QString label);
     void connectSmartRequested(QString selector);
     void setNodeFavoriteRequested(QString nodeID, bool favorite);
@@ -82,5 +81,6 @@ private:
     bool m_serviceKnown = false;
     bool m_catalogueKnown = false;
     bool m_groupsKnown = false;
+    int m_cooldown = 0;
     int m_shownCount = 0;
 };

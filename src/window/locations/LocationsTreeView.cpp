@@ -101,11 +101,13 @@ void LocationsTreeView::contextMenuEvent(QContextMenuEvent *event)
         if (index.isValid())
             setCurrentIndex(index);
     } else {
-        // From the keyboard: the current row, the menu at its bottom edge.
+        // From the keyboard: the current row, the menu below its name.
         index = currentIndex();
         const QRect row = visualRect(index);
-        if (row.isValid())
-            at = viewport()->mapToGlobal(QPoint(row.center().x() / 2, row.bottom()));
+        if (row.isValid()) {
+            const int x = isRightToLeft() ? row.right() - 40 : row.left() + 40;
+            at = viewport()->mapToGlobal(QPoint(x, row.bottom()));
+        }
     }
     if (index.isValid()) {
         Q_EMIT menuRequested(index, at);

@@ -35,6 +35,8 @@ struct CatalogTreeModel::Item
     int pingMs = -1;
     int signalLevel = -1;
     int nodeCount = 0;
+    qsizetype nodeIndex = -1; // nodes: the entry's position in the nodes record
+    bool pingChanged = false; // groups: the fastest ping below changed, not yet announced
     bool favorite = false;
     bool connected = false;
     bool selected = false;
@@ -52,7 +54,8 @@ QString blueprintKey(const CatalogBlueprint &row)
     return row.group ? QLatin1String("g:") + row.id : QLatin1String("n:") + row.id;
 }
 
-QString searchTextFor(const CatalogBlueprint &row, const QString &tier)
+QString searchTextFor(const CatalogBlueprint &row, const QString &tier,
+                      QHash<QString, QStringList> &countryWords)
 {
     QStringList words{row.label};
     if (row.group && row.entry) {
@@ -68,7 +71,13 @@ QString searchTextFor(const CatalogBlueprint &row, const QString &tier)
             words << QCoreApplication::translate("CatalogTreeModel", "Premium");
     }
     if (!row.region.isEmpty() && (!row.group || row.country)) {
-        words << row.region << countryEnglishName(row.region) << countryName(row.region);
+        // The table is scanned once per country, not once per node.
+        auto found = countryWords.constFind(row.region);
+        if (found == countryWords.cend()) {
+            found = countryWords.insert(
+                row.region, {row.region, countryEnglishName(row.region), countryName(row.region)});
+        }
+        words << found.value();
     }
     for (QString &word : words)
         word = word.trimmed().toLower();
@@ -93,14 +102,88 @@ void CatalogTreeModel::setCatalog(const NodeGroupsInfo &groups, const NodesInfo 
     // Cheap when the records share their data, as copies of the same answer do.
     if (groups == m_groups && nodes == m_nodes)
         return;
+    const bool sameShape = !m_root->children.empty() && groups == m_groups &&
+                           m_sort != CatalogSort::Latency && sameNodes(nodes);
     m_groups = groups;
     m_nodes = nodes;
-    rebuild();
+    if (sameShape)
+        updateStates(m_root.get()); // the ping poll: no tree to build again
+    else
+        rebuild();
+}
+
+bool CatalogTreeModel::sameNodes(const NodesInfo &nodes) const
+{
+    // Same nodes in the same order with the same names, regions and tags (favourites are tags):
+    // only measurements and the connection can differ, and they change no row's place.
+    if (nodes.nodes.size() != m_nodes.nodes.size())
+        return false;
+    for (qsizetype i = 0; i < nodes.nodes.size(); ++i) {
+        const NodeEntry &a = nodes.nodes.at(i);
+        const NodeEntry &b = m_nodes.nodes.at(i);
+        if (a.valid != b.valid || a.id != b.id || a.name != b.name || a.region != b.region ||
+            a.type != b.type || a.tags != b.tags)
+            return false;
+    }
+    return true;
+}
+
+void CatalogTreeModel::updateStates(Item *parent)
+{
+    const bool stale = m_nodes.stale || m_groups.stale;
+    int runStart = -1;
+    const auto flush = [&](int end) {
+        if (runStart < 0)
+            return;
+        Q_EMIT dataChanged(createIndex(runStart, 0, parent->children[size_t(runStart)].get()),
+                           createIndex(end, 0, parent->children[size_t(end)].get()), kStateRoles);
+        runStart = -1;
+    };
+    int best = -1;
+    for (size_t i = 0; i < parent->children.size(); ++i) {
+        Item *item = parent->children[i].get();
+        bool changed = false;
+        const auto set = [&changed](auto &field, const auto &value) {
+            if (field != value) {
+                field = value;
+                changed = true;
+            }
+        };
+        if (item->group) {
+            updateStates(item);
+        } else {
+            const NodeEntry &node = m_nodes.nodes.at(item->nodeIndex);
+            item->node = node;
+            set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1);
+            set(item->signalLevel, node.signalLevel >= 0 ? node.signalLevel : -1);
+            set(item->connected, m_nodes.connected.valid && m_nodes.connected.id == node.id);
+            set(item->selected, m_nodes.selected.valid && m_nodes.selected.id == node.id);
+        }
+        set(item->stale, stale);
+        if (item->group)
+            changed = changed || item->pingChanged;
+        item->pingChanged = false;
+        if (item->pingMs >= 0 && (best < 0 || item->pingMs < best))
+            best = item->pingMs;
+        if (!changed) {
+            flush(int(i) - 1);
+        } else if (runStart < 0) {
+            runStart = int(i);
+        }
+    }
+    flush(int(parent->children.size()) - 1);
+    // A group's ping is its fastest node's; the group's own row is flushed by its parent.
+    if (parent != m_root.get() && parent->pingMs != best) {
+        parent->pingMs = best;
+        parent->pingChanged = true;
+    }
 }
 
 void CatalogTreeModel::setTab(const QString &tab)
 {
-    const QString next = tab.trimmed().toLower();
+    QString next = tab.trimmed().toLower();
+    if (next == QLatin1String("all"))
+        next.clear(); // the same rows, so no rebuild
     if (next == m_tab)
         return;
     m_tab = next;
@@ -327,6 +410,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
     };
     if (blueprint.node) {
         const NodeEntry &node = *blueprint.node;
+        item->nodeIndex = blueprint.node - m_nodes.nodes.constData();
         const bool textsStale = item->searchText.isEmpty() || item->node.name != node.name ||
                                 item->node.region != node.region || item->node.tags != node.tags ||
                                 item->node.type != node.type;
@@ -335,7 +419,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->tier = CatalogTreeBuilder::tierOf(node);
             item->label = blueprint.label;
             item->region = blueprint.region;
-            item->searchText = searchTextFor(blueprint, item->tier);
+            item->searchText = searchTextFor(blueprint, item->tier, m_countryWords);
             change |= TextChange;
         }
         set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1, StateChange);
@@ -356,7 +440,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->groupName = name;
             item->groupCode = code;
             item->country = blueprint.country;
-            item->searchText = searchTextFor(blueprint, QString());
+            item->searchText = searchTextFor(blueprint, QString(), m_countryWords);
             change |= TextChange;
         }
         set(item->pingMs, blueprint.bestPingMs, StateChange);

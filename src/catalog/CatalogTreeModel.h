@@ -24,7 +24,8 @@ public:
 
     // Applies both records; the tree is rebuilt only when the groups change shape.
     void setCatalog(const NodeGroupsInfo &groups, const NodesInfo &nodes);
-    // "all", "free", "svip", "favorite" (the daemon's tab words), or empty for everything.
+    // "all", "free", "svip", "favorite" (the daemon's tab words), or empty for everything;
+    // "all" reads back as empty.
     void setTab(const QString &tab);
     QString tab() const { return m_tab; }
     // Tiers the account may use ("FREE", "SVIP"); rows of other tiers read as locked.
@@ -57,6 +58,8 @@ private:
     enum Change : int { NoChange = 0, StateChange = 1, TextChange = 2 };
 
     void rebuild();
+    bool sameNodes(const NodesInfo &nodes) const;
+    void updateStates(Item *parent);
     void sync(Item *parent, std::vector<CatalogBlueprint> &rows);
     bool sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const;
     void removeMissing(Item *parent, const std::vector<CatalogBlueprint> &rows);
@@ -80,4 +83,5 @@ private:
     mutable QHash<QString, const Item *> m_byNode;
     mutable QHash<QString, const Item *> m_bySelector;
     mutable bool m_lookupValid = false;
+    mutable QHash<QString, QStringList> m_countryWords; // region -> its words for the search
 };

@@ -281,6 +281,14 @@ QSet<QString> &insertedFlagKeys()
     return keys;
 }
 
+// Codes with no flag of their own, so that their next lookup goes straight to the fallback
+// instead of searching the resources again.
+QSet<QString> &codesWithoutFlag()
+{
+    static QSet<QString> codes;
+    return codes;
+}
+
 QString normalized(const QString &code)
 {
     return code.trimmed().toLower();
@@ -325,8 +333,11 @@ QPixmap countryFlag(const QString &code)
     if (QPixmapCache::find(flagKey(key), &pixmap)) {
         return pixmap;
     }
-    QImage image(QStringLiteral(":/flags/%1.png").arg(key));
+    QImage image;
+    if (!codesWithoutFlag().contains(key))
+        image.load(QStringLiteral(":/flags/%1.png").arg(key));
     if (image.isNull() && key != QLatin1String("unknown")) {
+        codesWithoutFlag().insert(key);
         key = QStringLiteral("unknown");
         if (QPixmapCache::find(flagKey(key), &pixmap)) {
             return pixmap;
@@ -353,6 +364,7 @@ void clearFlagCache()
         QPixmapCache::remove(key);
     }
     insertedFlagKeys().clear();
+    codesWithoutFlag().clear();
 }
 
 QStringList countryCodes()

@@ -78,14 +78,6 @@ void CatalogFlow::refreshLocations()
     fetchNodes(true);
 }
 
-void CatalogFlow::loadMissing()
-{
-    if (!m_context.state->nodeGroups().valid)
-        fetchNodeGroups(false);
-    if (!m_context.state->nodes().valid)
-        fetchNodes(false); // deferred while the groups are in flight
-}
-
 void CatalogFlow::setFavorite(const QString &nodeID, bool favorite)
 {
     if (m_refreshInProgress) {

@@ -28,8 +28,6 @@ public:
     bool fetchNodes(bool refresh = false);
     void fetchNodeGroups(bool userVisible);
     void refreshLocations();
-    // Asks for whichever of the two records the store lacks; nodes follow the groups.
-    void loadMissing();
     void setFavorite(const QString &nodeID, bool favorite);
 
     void armNodePingPoll();

@@ -100,7 +100,6 @@ void ShellWiring::connectWindow(TovraAppShell *shell, const ShellContext &contex
     QObject::connect(w, &W::importSplitRulesRequested, shell, &S::importModeSplitRules);
     QObject::connect(w, &W::setLocalNetworkRequested, shell, &S::setLocalNetworkPreference);
     QObject::connect(w, &W::refreshLocationsRequested, shell, &S::refreshLocations);
-    QObject::connect(w, &W::loadLocationsRequested, shell, &S::loadLocations);
     QObject::connect(w, &W::connectNodeRequested, shell, &S::connectNode);
     QObject::connect(w, &W::connectSmartRequested, shell, &S::connectSmart);
     QObject::connect(w, &W::setNodeFavoriteRequested, shell, &S::setLocationFavorite);

@@ -386,11 +386,6 @@ void TovraAppShell::requestPurchaseURL(QString lang)
     m_account->requestPurchaseURL(lang);
 }
 
-void TovraAppShell::loadLocations()
-{
-    m_catalog->loadMissing();
-}
-
 void TovraAppShell::pollWindowNodePing()
 {
     m_catalog->pollNodePing();

@@ -149,8 +149,6 @@ public Q_SLOTS:
     void handleWindowUserFinished(quint64 requestId, UserInfo user, QString errorMessage);
     void handleWindowPurchaseURLFinished(quint64 requestId, PurchaseURLInfo info,
                                          QString errorMessage);
-    // Fetches the catalogue or its groups when the store has none (no forced refresh).
-    void loadLocations();
 
 private:
     void setCompatibility(CompatibilityState state, const QString &text = QString());

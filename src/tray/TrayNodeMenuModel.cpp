@@ -1,5 +1,7 @@
 #include "TrayNodeMenuModel.h"
 
+#include "Countries.h"
+
 #include <QCoreApplication>
 #include <QSet>
 
@@ -236,11 +238,16 @@ QString TrayNodeMenuModel::formatDuration(qint64 seconds)
 
 QString TrayNodeMenuModel::nodeLabel(const NodeEntry &node, const NodeGroupsInfo &groups)
 {
-    // The country names the place; a node without one is placed by the group that lists it.
-    const NodeGroupEntry *group = findByCode(groups.groups, node.region);
-    if (!group)
-        group = findHolding(groups.groups, node.id);
-    const QString place = group ? groupLabel(group->name) : node.region;
+    // The country names the place, in the same words as the Locations page; a node of a code
+    // the table lacks is placed by the group of that code or the group that lists it.
+    QString place =
+        countryEnglishName(node.region).isEmpty() ? QString() : countryName(node.region);
+    if (place.isEmpty()) {
+        const NodeGroupEntry *group = findByCode(groups.groups, node.region);
+        if (!group)
+            group = findHolding(groups.groups, node.id);
+        place = group ? groupLabel(group->name) : countryName(node.region);
+    }
     const QString name = node.name.trimmed().isEmpty() ? node.id : node.name;
     return joinLabel(place, name);
 }

@@ -168,8 +168,12 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
     } else if (decoration.userType() == QMetaType::QIcon) {
         flag = decoration.value<QIcon>().pixmap(kFlagSize, painter->device()->devicePixelRatioF());
     }
+    // A row of a tier the plan lacks stays readable but steps back.
+    const bool locked = index.data(LocationLockedRole).toBool();
     if (!flag.isNull()) {
+        painter->setOpacity(locked ? 0.45 : 1.0);
         painter->drawPixmap(row.flag, flag);
+        painter->setOpacity(1.0);
     } else {
         painter->setPen(QPen(pick(m_subtleBorder, pal.color(QPalette::Mid)), 1));
         painter->setBrush(pick(m_subtleFill, pal.color(QPalette::AlternateBase)));
@@ -185,8 +189,9 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
     // Names and ping come from the daemon in any script: let their own text pick the reading
     // direction, so "24 ms" stays "24 ms" in a mirrored row.
     painter->setLayoutDirection(Qt::LayoutDirectionAuto);
-    const QColor textColor =
-        connected ? pick(m_accent, pal.color(QPalette::Highlight)) : pal.color(QPalette::Text);
+    const QColor textColor = connected ? pick(m_accent, pal.color(QPalette::Highlight))
+                             : locked  ? pick(m_muted, pal.color(QPalette::PlaceholderText))
+                                       : pal.color(QPalette::Text);
     painter->setPen(textColor);
     const QString name =
         QFontMetrics(nameFont).elidedText(opt.text, Qt::ElideRight, row.name.width());

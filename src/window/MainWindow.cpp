@@ -167,8 +167,6 @@ void MainWindow::connectPages()
             &MainWindow::setNodeFavoriteRequested);
     connect(m_locationsPage, &LocationsPage::pendingConnectTargetChanged, this,
             &MainWindow::pendingConnectTargetChanged);
-    connect(m_locationsPage, &LocationsPage::loadLocationsRequested, this,
-            &MainWindow::loadLocationsRequested);
 
     connect(m_modePage, &ModePage::setModeRequested, this, &MainWindow::setModeRequested);
     connect(m_modePage, &ModePage::splitRulesRequested, this, &MainWindow::splitRulesRequested);

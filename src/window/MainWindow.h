@@ -129,8 +129,6 @@ Q_SIGNALS:
     void logoutRequested();
     void purchaseURLRequested(QString lang);
     void appearancePreferenceChanged();
-    // The Locations page found the catalogue or its groups missing.
-    void loadLocationsRequested();
 
 protected:
     void closeEvent(QCloseEvent *event) override;

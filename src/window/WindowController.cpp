@@ -121,8 +121,6 @@ void WindowController::forwardIntents(MainWindow *window)
             &WindowController::setLocalNetworkRequested);
     connect(window, &MainWindow::refreshLocationsRequested, this,
             &WindowController::refreshLocationsRequested);
-    connect(window, &MainWindow::loadLocationsRequested, this,
-            &WindowController::loadLocationsRequested);
     connect(window, &MainWindow::connectNodeRequested, this,
             &WindowController::connectNodeRequested);
     connect(window, &MainWindow::recentConnectionsCleared, this,

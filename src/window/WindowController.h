@@ -138,7 +138,6 @@ Q_SIGNALS:
     void logoutRequested();
     void purchaseURLRequested(QString lang);
     void forceUpdateExitRequested();
-    void loadLocationsRequested();
 
 private:
     MainWindow *ensureWindow();

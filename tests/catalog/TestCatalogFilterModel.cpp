@@ -76,6 +76,7 @@ private Q_SLOTS:
     void filters_data();
     void filters();
     void sameTokensDoNotFilterAgain();
+    void changedSourceIsFilteredAgain();
 };
 
 void TestCatalogFilterModel::tokenize_data()
@@ -131,6 +132,9 @@ void TestCatalogFilterModel::filters_data()
     QTest::addRow("digits start a word too") << QStringLiteral("japan 0") << QStringList();
     QTest::addRow("punctuation as plain text") << QStringLiteral("k.") << QStringList();
     QTest::addRow("nothing matches") << QStringLiteral("atlantis") << QStringList();
+    QTest::addRow("more words than a row keeps bits for")
+        << QStringLiteral("jp ").repeated(64) + QStringLiteral("osaka")
+        << QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")});
 }
 
 void TestCatalogFilterModel::filters()
@@ -169,6 +173,33 @@ void TestCatalogFilterModel::sameTokensDoNotFilterAgain()
     QCOMPARE(layout.size() + removed.size(), 0);
     filter.setFilterText(QStringLiteral("tokyo 2"));
     QVERIFY(source.searchReads > 0);
+}
+
+void TestCatalogFilterModel::changedSourceIsFilteredAgain()
+{
+    QStandardItemModel source;
+    fill(source);
+    CatalogFilterModel filter;
+    QAbstractItemModelTester tester(&filter,
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+    filter.setSourceModel(&source);
+    filter.setFilterText(QStringLiteral("tokyo"));
+    QCOMPARE(visible(filter), QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")}));
+    QStandardItem *japan = source.item(3);
+    // A node renamed into the search, another out of it, a new one, a whole group gone.
+    japan->child(1)->setData(QStringLiteral("osaka tokyo 10"), LocationSearchTextRole);
+    japan->child(0)->setData(QStringLiteral("kyoto 2"), LocationSearchTextRole);
+    QTRY_COMPARE(visible(filter),
+                 QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")}));
+    source.item(0)->child(0)->appendRow(
+        row(QStringLiteral("Tokyo Lane"), QStringLiteral("tokyo lane")));
+    QTRY_COMPARE(
+        visible(filter),
+        QStringList({QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("Tokyo Lane"),
+                     QStringLiteral("Japan"), QStringLiteral("Osaka 10")}));
+    source.removeRow(3);
+    QTRY_COMPARE(visible(filter), QStringList({QStringLiteral("US"), QStringLiteral("New York"),
+                                               QStringLiteral("Tokyo Lane")}));
 }
 
 QTEST_MAIN(TestCatalogFilterModel)

@@ -117,19 +117,21 @@ void TestTrayNodeMenuModel::nodeLabel_data()
     world.groups = {
         group("Europe", "EU", {},
               {group("Germany", "DE", {}, {group("Frankfurt", "", {QStringLiteral("1001")})}),
-               group("", "NL", {QStringLiteral("2001")})}),
+               group("", "XK", {QStringLiteral("2001")})}),
         group("Japan", "JP", {})};
 
     QTest::addRow("country by region")
         << node("1001", "Frankfurt 1", "DE") << world << "Germany - Frankfurt 1";
     QTest::addRow("region code in another case")
         << node("3001", "Tokyo 1", "jp") << world << "Japan - Tokyo 1";
-    QTest::addRow("unnamed group")
-        << node("2001", "Amsterdam 1", "NL") << world << "Group - Amsterdam 1";
+    QTest::addRow("code the country table lacks: its unnamed group")
+        << node("2001", "Pristina 1", "XK") << world << "Group - Pristina 1";
     QTest::addRow("held by a city only") << node("1001", "Frankfurt 1") << world << "Frankfurt 1";
-    QTest::addRow("no group: region code")
-        << node("4001", "Lima 1", "PE") << world << "PE - Lima 1";
-    QTest::addRow("no name: id") << node("4002", "", "PE") << NodeGroupsInfo() << "PE - 4002";
+    QTest::addRow("no group: the country table's name")
+        << node("4001", "Lima 1", "PE") << world << "Peru - Lima 1";
+    QTest::addRow("unknown code, no group: the code as the page shows it")
+        << node("4003", "Atlantis 1", "zz") << world << "ZZ - Atlantis 1";
+    QTest::addRow("no name: id") << node("4002", "", "PE") << NodeGroupsInfo() << "Peru - 4002";
 }
 
 void TestTrayNodeMenuModel::nodeLabel()
@@ -208,14 +210,15 @@ void TestTrayNodeMenuModel::currentLine_data()
         QTest::newRow(name) << connected << stale << since << line << firstEntry;
     };
     row("connected two hours", true, false, "2024-05-01T10:00:00Z",
-        "Location: DE - Berlin 1 · 2h 5m", "DE - Berlin 1 · 2h 5m");
+        "Location: Germany - Berlin 1 · 2h 5m", "Germany - Berlin 1 · 2h 5m");
     // 2024-05-01T12:04:30Z, thirty seconds before now.
     row("connected, epoch seconds", true, false, "1714565070",
-        "Location: DE - Berlin 1 · less than 1m", "DE - Berlin 1 · less than 1m");
-    row("connected, since unknown", true, false, "", "Location: DE - Berlin 1", "DE - Berlin 1");
-    row("selected", false, false, "", "Current: NL - Delft 2", "NL - Delft 2");
-    row("selected from the cached list", false, true, "", "Current: NL - Delft 2 (stale)",
-        "NL - Delft 2");
+        "Location: Germany - Berlin 1 · less than 1m", "Germany - Berlin 1 · less than 1m");
+    row("connected, since unknown", true, false, "", "Location: Germany - Berlin 1",
+        "Germany - Berlin 1");
+    row("selected", false, false, "", "Current: Netherlands - Delft 2", "Netherlands - Delft 2");
+    row("selected from the cached list", false, true, "", "Current: Netherlands - Delft 2 (stale)",
+        "Netherlands - Delft 2");
 }
 
 void TestTrayNodeMenuModel::currentLine()

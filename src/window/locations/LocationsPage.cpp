@@ -21,19 +21,24 @@
 #include <QMenu>
 #include <QPainter>
 #include <QStackedWidget>
+#include <QTimer>
 
 namespace {
 
-// Calls visit(index) for every row of the model, parents before children.
+// Calls visit(index) for every row of the model, parents before children, until it returns
+// false; returns false when it was stopped.
 template<typename Visit>
-void forEachRow(const QAbstractItemModel *model, const QModelIndex &parent, Visit &&visit)
+bool forEachRow(const QAbstractItemModel *model, const QModelIndex &parent, Visit &&visit)
 {
     for (int row = 0; row < model->rowCount(parent); ++row) {
         const QModelIndex index = model->index(row, 0, parent);
         if (!visit(index))
-            return;
-        forEachRow(model, index, visit);
+            return false;
+        // Asked first, so that a proxy sets up no row table for each childless node.
+        if (model->hasChildren(index) && !forEachRow(model, index, visit))
+            return false;
     }
+    return true;
 }
 
 // Down moves from the search field into the tree; Escape empties the field.
@@ -121,6 +126,10 @@ QWidget *LocationsPage::buildContent()
     m_stack->addWidget(m_empty);
     column->addWidget(m_stack, 1);
 
+    m_statusTimer = new QTimer(this);
+    m_statusTimer->setSingleShot(true);
+    m_statusTimer->setInterval(150);
+    connect(m_statusTimer, &QTimer::timeout, this, &LocationsPage::updateStatusLine);
     m_status = new QLabel(content);
     m_status->setProperty("tovraRole", QStringLiteral("muted"));
     m_status->setWordWrap(true);
@@ -162,15 +171,17 @@ QWidget *LocationsPage::buildContent()
     }
     connect(m_filter, &QAbstractItemModel::modelReset, this, [this] { updateEmptyState(); });
     connect(m_filter, &QAbstractItemModel::layoutChanged, this, [this] { updateEmptyState(); });
-    // Rows that arrive during a search open like the rest of the results.
-    connect(m_filter, &QAbstractItemModel::rowsInserted, this,
-            [this](const QModelIndex &parent, int first, int last) {
-                if (!m_filter->isSearching())
-                    return;
-                m_tree->expand(parent);
-                for (int row = first; row <= last; ++row)
-                    m_tree->expandRecursively(m_filter->index(row, 0, parent));
-            });
+    // Rows that arrive during a search open like the rest of the results, once per batch.
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, [this] {
+        if (!m_filter->isSearching() || m_expandPending)
+            return;
+        m_expandPending = true;
+        QTimer::singleShot(0, this, [this] {
+            m_expandPending = false;
+            if (m_filter->isSearching())
+                expandResults();
+        });
+    });
     return content;
 }
 
@@ -201,7 +212,8 @@ void LocationsPage::refresh(const AppState &state)
     m_groupsKnown = state.nodeGroups().valid;
     m_model->setAvailableTiers(tiersFor(state.user()));
     m_model->setCatalog(state.nodeGroups(), state.nodes());
-    m_toolbar->setCooldown(state.nodesRefreshCooldown());
+    m_cooldown = state.nodesRefreshCooldown();
+    m_toolbar->setCooldown(m_cooldown);
     updateEmptyState();
     updateStatusLine();
 }
@@ -230,8 +242,8 @@ void LocationsPage::applyTheme(const ThemeColors &colors)
 void LocationsPage::pageShown()
 {
     ++m_shownCount;
-    if (!m_catalogueKnown || !m_groupsKnown)
-        Q_EMIT loadLocationsRequested();
+    if (m_serviceKnown && !m_catalogueKnown && m_cooldown == 0)
+        Q_EMIT refreshLocationsRequested();
 }
 
 void LocationsPage::tabChanged(const QString &tab)
@@ -256,16 +268,42 @@ void LocationsPage::searchChanged(const QString &text)
         m_toolbar->setSearchGlobal(searching);
     }
     if (!searching && wasSearching) {
-        m_tree->collapseAll();
         restoreExpansion(m_expandedBeforeSearch);
         m_expandedBeforeSearch.clear();
         m_tree->scrollTo(m_tree->currentIndex());
     } else if (searching && m_filter->tokens() != before) {
-        m_tree->expandAll();
+        expandResults();
         selectFirstMatch();
     }
     updateEmptyState();
-    updateStatusLine();
+    // Counting the matches walks every row: once typing pauses, not on each key.
+    m_statusTimer->start();
+}
+
+void LocationsPage::expandResults()
+{
+    // Level by level while the opened rows still fit a few screens: a narrow search opens down
+    // to its nodes, a one-letter one opens its groups without laying out the whole catalogue.
+    constexpr int kMaxOpenRows = 400;
+    QModelIndexList groups;
+    int open = m_filter->rowCount();
+    QModelIndexList level;
+    for (int row = 0; row < m_filter->rowCount(); ++row)
+        level.append(m_filter->index(row, 0));
+    while (!level.isEmpty() && open < kMaxOpenRows) {
+        QModelIndexList next;
+        for (const QModelIndex &group : std::as_const(level)) {
+            const int rows = m_filter->rowCount(group);
+            if (rows == 0 || open + rows > kMaxOpenRows)
+                continue;
+            groups.append(group);
+            open += rows;
+            for (int row = 0; row < rows; ++row)
+                next.append(m_filter->index(row, 0, group));
+        }
+        level = next;
+    }
+    m_tree->expandOnly(groups);
 }
 
 void LocationsPage::selectFirstMatch()
@@ -365,14 +403,16 @@ QSet<QString> LocationsPage::expandedSelectors() const
 
 void LocationsPage::restoreExpansion(const QSet<QString> &selectors)
 {
-    if (selectors.isEmpty())
-        return;
-    forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-        if (index.data(LocationIsGroupRole).toBool() &&
-            selectors.contains(index.data(LocationSelectorRole).toString()))
-            m_tree->expand(index);
-        return true;
-    });
+    QModelIndexList groups;
+    if (!selectors.isEmpty()) {
+        forEachRow(m_filter, {}, [&](const QModelIndex &index) {
+            if (index.data(LocationIsGroupRole).toBool() &&
+                selectors.contains(index.data(LocationSelectorRole).toString()))
+                groups.append(index);
+            return true;
+        });
+    }
+    m_tree->expandOnly(groups);
 }
 
 void LocationsPage::updateEmptyState()

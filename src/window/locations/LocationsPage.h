@@ -14,6 +14,7 @@ class LocationsTreeView;
 class QLabel;
 class QLineEdit;
 class QStackedWidget;
+class QTimer;
 struct UserInfo;
 
 // Page 1: the catalogue of locations with favourites and search.
@@ -29,7 +30,8 @@ public:
     void refresh(const AppState &state) override;
     void applyTheme(const ThemeColors &colors) override;
 
-    // The window calls this each time the page becomes current.
+    // The window calls this each time the page becomes current; with no catalogue yet from a
+    // running service, it asks for one (the refresh cooldown keeps that from repeating).
     void pageShown();
     int shownCount() const { return m_shownCount; }
 
@@ -38,8 +40,6 @@ public:
 
 Q_SIGNALS:
     void refreshLocationsRequested();
-    // The catalogue or its groups are missing: fetch them, without a forced refresh.
-    void loadLocationsRequested();
     void connectNodeRequested(QString nodeID, QString label);
     void connectSmartRequested(QString selector);
     void setNodeFavoriteRequested(QString nodeID, bool favorite);
@@ -55,6 +55,7 @@ private:
     void showRowMenu(const QModelIndex &index, const QPoint &globalPos);
     void typeIntoSearch(const QString &text);
     void selectFirstMatch();
+    void expandResults();
     QSet<QString> expandedSelectors() const;
     void restoreExpansion(const QSet<QString> &selectors);
     void updateEmptyState();
@@ -71,12 +72,15 @@ private:
     LocationsEmptyState *m_empty = nullptr;
     QStackedWidget *m_stack = nullptr;
     QLabel *m_status = nullptr;
+    QTimer *m_statusTimer = nullptr;
     QAction *m_searchIcon = nullptr;
     GuiPreferences *m_preferences = nullptr;
     QSet<QString> m_expandedBeforeSearch;
     QString m_hint;
+    bool m_expandPending = false;
     bool m_serviceKnown = false;
     bool m_catalogueKnown = false;
     bool m_groupsKnown = false;
+    int m_cooldown = 0;
     int m_shownCount = 0;
 };

@@ -26,6 +26,28 @@ LocationsTreeView::LocationsTreeView(QWidget *parent)
     setAccessibleName(tr("Locations"));
 }
 
+void LocationsTreeView::expandOnly(const QModelIndexList &groups)
+{
+    collapseAll();
+    // With a layout pending, expand() only records the group; one layout follows for all.
+    scheduleDelayedItemsLayout();
+    for (const QModelIndex &group : groups)
+        expand(group);
+    executeDelayedItemsLayout();
+}
+
+void LocationsTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                                    const QList<int> &roles)
+{
+    // A ping update touches every node; rows under a folded group are not on screen, and
+    // finding where they would be costs the view a search each.
+    for (QModelIndex parent = topLeft.parent(); parent.isValid(); parent = parent.parent()) {
+        if (!isExpanded(parent))
+            return;
+    }
+    QTreeView::dataChanged(topLeft, bottomRight, roles);
+}
+
 void LocationsTreeView::keyPressEvent(QKeyEvent *event)
 {
     const QModelIndex current = currentIndex();
@@ -79,11 +101,13 @@ void LocationsTreeView::contextMenuEvent(QContextMenuEvent *event)
         if (index.isValid())
             setCurrentIndex(index);
     } else {
-        // From the keyboard: the current row, the menu at its bottom edge.
+        // From the keyboard: the current row, the menu below its name.
         index = currentIndex();
         const QRect row = visualRect(index);
-        if (row.isValid())
-            at = viewport()->mapToGlobal(QPoint(row.center().x() / 2, row.bottom()));
+        if (row.isValid()) {
+            const int x = isRightToLeft() ? row.right() - 40 : row.left() + 40;
+            at = viewport()->mapToGlobal(QPoint(x, row.bottom()));
+        }
     }
     if (index.isValid()) {
         Q_EMIT menuRequested(index, at);

@@ -12,6 +12,9 @@ class LocationsTreeView : public QTreeView
 public:
     explicit LocationsTreeView(QWidget *parent = nullptr);
 
+    // Exactly these groups open, everything else folded, in one layout pass.
+    void expandOnly(const QModelIndexList &groups);
+
 Q_SIGNALS:
     void rowActivated(QModelIndex index);
     void favoriteToggled(QModelIndex index);
@@ -20,6 +23,8 @@ Q_SIGNALS:
     void textTyped(QString text);
 
 protected:
+    void dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,
+                     const QList<int> &roles = {}) override;
     void keyPressEvent(QKeyEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;

@@ -111,7 +111,7 @@ int main(int argc, char **argv)
                 page->catalogModel()->indexForNode(QStringLiteral("1003"))));
             tree->setFocus();
         }
-        settle();
+        settle(300); // past the status line's pause after typing
         const QString file = QStringLiteral("%1/%2.png").arg(out, QString::fromLatin1(shot.name));
         window.grab().save(file);
         std::printf("%s\n", qPrintable(file));

@@ -176,12 +176,22 @@ void TestLocationsPage::refreshShowsCooldown()
 {
     auto *refresh = m_page->findChild<QPushButton *>(QStringLiteral("TovraLocationsRefresh"));
     QSignalSpy asked(m_page, &LocationsPage::refreshLocationsRequested);
-    refresh->click();
+    // Shown before the service answers: nothing to ask yet; once it runs, the missing
+    // catalogue is asked for.
+    m_page->pageShown();
+    QCOMPARE(asked.size(), 0);
+    m_state->setRuntime(runningDaemon());
+    m_page->refresh(*m_state);
+    m_page->pageShown();
     QCOMPARE(asked.size(), 1);
+    refresh->click();
+    QCOMPARE(asked.size(), 2);
     m_state->startNodesRefreshCooldown(42);
     m_page->refresh(*m_state);
     QCOMPARE(refresh->text(), QStringLiteral("Refresh (42s)"));
     QVERIFY(!refresh->isEnabled());
+    m_page->pageShown(); // not again within the cooldown
+    QCOMPARE(asked.size(), 2);
     m_state->startNodesRefreshCooldown(0);
     m_page->refresh(*m_state);
     QCOMPARE(refresh->text(), QStringLiteral("Refresh"));

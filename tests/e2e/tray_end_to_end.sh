@@ -63,9 +63,14 @@ pids+=("$client_pid")
 icon_line() { xwininfo -root -tree 2>/dev/null | grep -E '\("tovra" "Tovra"\) +[0-9]{1,2}x[0-9]{1,2}\+' | head -n1; }
 wait_for 20 icon_line >/dev/null || fail "tray icon did not appear"
 echo "tray icon shown after $(( ($(date +%s%N) - start_ns) / 1000000 )) ms"
-read -r icon_left icon_top icon_width icon_height < <(icon_line \
-    | sed -E 's/.* ([0-9]+)x([0-9]+)\+-?[0-9]+\+-?[0-9]+ +\+(-?[0-9]+)\+(-?[0-9]+).*/\3 \4 \1 \2/')
-icon_x=$(( icon_left + icon_width / 2 )) icon_y=$(( icon_top + icon_height / 2 ))
+# The panel may still lay the icon out after it first appears, so its place is read again before
+# every click.
+locate_icon() {
+    read -r icon_left icon_top icon_width icon_height < <(icon_line \
+        | sed -E 's/.* ([0-9]+)x([0-9]+)\+-?[0-9]+\+-?[0-9]+ +\+(-?[0-9]+)\+(-?[0-9]+).*/\3 \4 \1 \2/')
+    icon_x=$(( icon_left + icon_width / 2 )) icon_y=$(( icon_top + icon_height / 2 ))
+}
+locate_icon
 # The connected icon is the green one: its average green clearly above its red.
 icon_is_on() {
     local red green blue
@@ -84,14 +89,25 @@ window_visible() {
 }
 window_visible && fail "the window showed although showOnLaunch is off"
 
-visible_count() { xdotool search --onlyvisible --class tovra 2>/dev/null | wc -l; }
-# Right-clicks the icon until a new popup shows; xdotool itself can fail to reach a busy server.
+# The context menu: a visible window of the client, taller than the icon and narrower than the
+# main window. (Counting the client's windows misleads: the menu warmed up off screen at start
+# can hide just as the real one shows.)
+menu_visible() {
+    local id size
+    for id in $(xdotool search --onlyvisible --class tovra 2>/dev/null); do
+        size=$(xdotool getwindowgeometry "$id" | sed -n 's/.*Geometry: \([0-9]*\)x\([0-9]*\).*/\1 \2/p')
+        read -r width height <<<"${size:-0 0}"
+        (( height >= 150 && width < 600 )) && return 0
+    done
+    return 1
+}
+# Right-clicks the icon until the menu shows; xdotool itself can fail to reach a busy server.
 open_menu() {
-    local before attempt
-    before=$(visible_count)
-    for attempt in 1 2 3; do
+    local attempt
+    for attempt in 1 2 3 4 5; do
+        locate_icon
         xdo mousemove "$icon_x" "$icon_y" click 3 || continue
-        wait_for 3 test "$(visible_count)" -gt "$before" && return 0
+        wait_for 3 menu_visible && return 0
     done
     return 1
 }
@@ -119,6 +135,7 @@ open_menu || fail "tray menu did not open after connecting"
 xdo key Escape
 
 # A plain click on the icon opens the window.
+locate_icon
 xdo mousemove "$icon_x" "$icon_y" click 1
 wait_for 10 window_visible || fail "a click on the tray icon did not open the window"
 "$grab" "$shots/window.png" || fail "could not take the window picture"

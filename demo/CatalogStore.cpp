@@ -33,14 +33,16 @@ QString cityCode(const QString &city)
 
 } // namespace
 
-CatalogStore::CatalogStore(QObject *parent)
+CatalogStore::CatalogStore(int size, QObject *parent)
     : QObject(parent)
 {
     const QList<CatalogData::City> cities = CatalogData::cities();
     qint64 nextId = 1001;
     for (qsizetype c = 0; c < cities.size(); ++c) {
         const CatalogData::City &city = cities.at(c);
-        for (int k = 0; k < city.nodes; ++k) {
+        const qsizetype count =
+            size <= 0 ? city.nodes : size / cities.size() + (c < size % cities.size() ? 1 : 0);
+        for (int k = 0; k < count; ++k) {
             Node node;
             node.id = nextId++;
             node.name = QStringLiteral("%1 %2").arg(city.name).arg(k + 1, 2, 10, QLatin1Char('0'));
@@ -53,7 +55,7 @@ CatalogStore::CatalogStore(QObject *parent)
             node.svip = !(k == 0 && c % 2 == 0);
             if (k == 1)
                 node.features.append(QStringLiteral("P2P"));
-            if (k == city.nodes - 1 && city.nodes > 2)
+            if (k == count - 1 && count > 2)
                 node.features.append(QStringLiteral("STREAMING"));
             node.basePingMs = city.basePingMs + k * 3;
             m_nodes.append(node);

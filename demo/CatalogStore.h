@@ -31,7 +31,8 @@ public:
         bool favorite = false;
     };
 
-    explicit CatalogStore(QObject *parent = nullptr);
+    // size 0: the fixed catalogue; else size nodes spread evenly over the same cities.
+    explicit CatalogStore(int size = 0, QObject *parent = nullptr);
 
     const Node *node(qint64 id) const;
     // Accepts the id as a JSON string or number.

@@ -28,6 +28,9 @@ Fault injection (PATH is a request path without query, such as /v1/status;
   --incompatible             speak control version 2: 409 to every request
   --no-kill-switch-mode      an older daemon: plain 404 for /v1/kill-switch/mode
 
+Load (for benchmarks):
+  --catalog-size N           a generated catalogue of N nodes over the same cities
+
 Prints "listening on PATH" once ready; SIGINT or SIGTERM stop it cleanly.)";
 
 QSet<QString> pathSet(const QStringList &values)
@@ -88,6 +91,10 @@ bool DemoOptions::parse(const QCoreApplication &app, DemoOptions *options)
         QStringLiteral("connect-ms"),
         QStringLiteral("Time from \"connecting\" to \"connected\" (default 1500)."),
         QStringLiteral("MS"), QStringLiteral("1500"));
+    const QCommandLineOption catalogSize(
+        QStringLiteral("catalog-size"),
+        QStringLiteral("Generate N nodes over the same cities instead of the 154 fixed ones."),
+        QStringLiteral("N"), QStringLiteral("0"));
     const QCommandLineOption fail(QStringLiteral("fail"),
                                   QStringLiteral("Answer PATH with STATUS and BODY."),
                                   QStringLiteral("PATH=STATUS[:BODY]"));
@@ -114,7 +121,8 @@ bool DemoOptions::parse(const QCoreApplication &app, DemoOptions *options)
         QStringLiteral("force-upgrade"),
         QStringLiteral("Offer the GUI update as a required upgrade."));
     parser.addOptions({socket, dataDir, vendorHost, latency, connectMs, fail, truncate, hang,
-                       garbage, chunked, incompatible, noKillSwitchMode, lockdown, forceUpgrade});
+                       garbage, chunked, incompatible, noKillSwitchMode, lockdown, forceUpgrade,
+                       catalogSize});
     parser.process(app);
 
     QTextStream err(stderr);
@@ -135,6 +143,12 @@ bool DemoOptions::parse(const QCoreApplication &app, DemoOptions *options)
     options->connectMs = parser.value(connectMs).toInt(&ok);
     if (!ok || options->connectMs < 0) {
         err << "tovra-demo-daemon: --connect-ms needs a number of milliseconds" << Qt::endl;
+        return false;
+    }
+    options->catalogSize = parser.value(catalogSize).toInt(&ok);
+    if (!ok || options->catalogSize < 0 || options->catalogSize > 1000000) {
+        err << "tovra-demo-daemon: --catalog-size needs a number of nodes up to 1000000"
+            << Qt::endl;
         return false;
     }
     if (options->vendorHost.isEmpty() || options->vendorHost.contains(QLatin1Char('/'))) {

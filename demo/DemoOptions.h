@@ -22,6 +22,7 @@ struct DemoOptions
     QString vendorHost;
     int latencyMs = 0;
     int connectMs = 1500;
+    int catalogSize = 0; // 0: the fixed 154-node catalogue
     bool chunked = false;
     bool incompatible = false;
     bool noKillSwitchMode = false;

@@ -48,6 +48,7 @@ DemoService::DemoService(const DemoOptions &options, const QString &rootDir, QOb
     , m_options(options)
     , m_config(rootDir, options.socketPath)
     , m_log(m_config.logFile())
+    , m_catalog(options.catalogSize)
     , m_tunnel(options.connectMs)
     , m_killSwitch(options.lockdown)
     , m_split(m_config.configDir())

@@ -6,6 +6,7 @@
 #include "GuiRestartLauncher.h"
 #include "GuiRestartScheduler.h"
 #include "GuiSingleInstance.h"
+#include "GuiStallMonitor.h"
 #include "TovraAppShell.h"
 #include "TranslationManager.h"
 
@@ -118,6 +119,9 @@ int main(int argc, char *argv[])
         QTimer::singleShot(0, &shell, &TovraAppShell::activateFromSecondary);
         QTimer::singleShot(0, &shell, &TovraAppShell::refreshLocationsAfterGUIRestart);
     }
+
+    // "TOVRA_GUI_STALL_MS" turns on the freeze report users can attach to a bug; off, it costs nothing.
+    const std::unique_ptr<GuiStallMonitor> stallMonitor = GuiStallMonitor::fromEnvironment();
 
     const int exitCode = QApplication::exec();
     shell.shutdown();

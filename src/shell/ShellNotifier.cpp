@@ -1,5 +1,6 @@
 #include "ShellNotifier.h"
 
+#include "GuiTextLog.h"
 #include "MainWindow.h"
 #include "TovraTrayApp.h"
 #include "WindowController.h"
@@ -39,5 +40,6 @@ void ShellNotifier::post(const QString &text, const QString &kind, int durationM
         icon->showMessage(QStringLiteral("Tovra"), text, trayIconFor(kind), durationMs);
     else // no window on screen and no balloon to show: the log is the last place to look
         qInfo("tovra: %s: %s", qUtf8Printable(kind), qUtf8Printable(text));
+    guiTextLog("notice", kind + QStringLiteral(": ") + text, false);
     Q_EMIT posted(text, kind);
 }

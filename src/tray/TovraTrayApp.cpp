@@ -4,6 +4,7 @@
 #include "ControlMetaTypes.h"
 #include "ControlWorker.h"
 #include "GuiPreferences.h"
+#include "GuiTextLog.h"
 #include "KillSwitchConfirm.h"
 #include "RoutingMode.h"
 #include "TrayAccountLookup.h"
@@ -171,6 +172,15 @@ void TovraTrayApp::start()
 {
     m_started = true;
     m_icon->setContextMenu(m_menu.menu);
+    if (guiTextLogEnabled()) {
+        for (QAction *line : {m_menu.statusLine, m_menu.daemonLine, m_menu.account}) {
+            connect(line, &QAction::changed, this, [this] {
+                guiTextLog("tray", m_menu.statusLine->text() + QStringLiteral(" | ") +
+                                       m_menu.daemonLine->text() + QStringLiteral(" | ") +
+                                       m_menu.account->text());
+            });
+        }
+    }
     m_painter->drawIdleIcon();
     m_icon->show();
     redraw();

@@ -6,6 +6,7 @@
 #include "DesktopColorScheme.h"
 #include "GuiMemLog.h"
 #include "GuiPreferences.h"
+#include "GuiTextLog.h"
 #include "LocationsPage.h"
 #include "ModePage.h"
 #include "NavigationSidebar.h"
@@ -297,6 +298,7 @@ void MainWindow::showPage(int index)
 
     m_sidebar->setCurrentIndex(index);
     m_pageTitle->setText(m_sidebar->entryText(index));
+    guiTextLog("window.page", m_pageTitle->text());
     // The VPN page carries its own status heading.
     m_pageTitle->setVisible(index != VpnPageIndex);
 

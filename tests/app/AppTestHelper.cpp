@@ -4,14 +4,19 @@
 //                   (or the process is killed, which leaves a stale socket behind); prints
 //                   "activated" for each activation.
 //   memlog <text>:  write one diagnostic memory line.
+//   stall <ms>:     run the stall monitor as the client does, block the event loop for <ms>
+//                   once it runs, then quit after a few more turns of the loop.
 #include "GuiMemLog.h"
 #include "GuiSingleInstance.h"
+#include "GuiStallMonitor.h"
 
 #include <QCoreApplication>
 #include <QFile>
 #include <QSocketNotifier>
+#include <QTimer>
 
 #include <cstdio>
+#include <thread>
 
 int main(int argc, char **argv)
 {
@@ -22,6 +27,15 @@ int main(int argc, char **argv)
     if (args.at(1) == u"memlog") {
         guiMemLog(args.at(2));
         return 0;
+    }
+    if (args.at(1) == u"stall") {
+        const auto monitor = GuiStallMonitor::fromEnvironment();
+        QTimer::singleShot(20, &app, [&] {
+            // The deliberate freeze the monitor has to see.
+            std::this_thread::sleep_for(std::chrono::milliseconds(args.at(2).toInt()));
+            QTimer::singleShot(100, &app, &QCoreApplication::quit);
+        });
+        return app.exec();
     }
     GuiSingleInstance instance(args.at(2));
     QString error;

@@ -1,5 +1,7 @@
 #include "LocationsEmptyState.h"
 
+#include "GuiTextLog.h"
+
 LocationsEmptyState::LocationsEmptyState(QWidget *parent)
     : QLabel(parent)
 {
@@ -42,4 +44,5 @@ void LocationsEmptyState::setReason(Reason reason, const QString &search)
     }
     setText(text);
     setAccessibleName(text);
+    guiTextLog("window.locations.empty", text);
 }

@@ -1,5 +1,6 @@
 #include "LocationsPage.h"
 
+#include "GuiTextLog.h"
 #include "LocationsEmptyState.h"
 #include "LocationsToolbar.h"
 #include "LocationsTreeView.h"
@@ -471,5 +472,6 @@ void LocationsPage::updateStatusLine()
             parts << tr("Grouping by region until the service's groups arrive.");
     }
     m_status->setText(parts.join(QStringLiteral(" \u00b7 ")));
+    guiTextLog("window.locations", m_status->text());
     m_status->setVisible(!parts.isEmpty());
 }

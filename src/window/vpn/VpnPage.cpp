@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "CatalogTreeModel.h"
 #include "GuiPreferences.h"
+#include "GuiTextLog.h"
 #include "KillSwitchConfirm.h"
 #include "QuickEntryField.h"
 #include "RecentActivityStore.h"
@@ -94,6 +95,7 @@ void VpnPage::redraw()
     m_summary =
         VpnStatusSummary::build(m_runtime, m_nodes, m_killSwitch, m_unavailableReason, m_pending);
     m_status->setSummary(m_summary);
+    guiTextLog("window.status", m_summary.title + QStringLiteral(" | ") + m_summary.detail);
     updatePrimaryAction();
     updateKillSwitch();
     m_recentCard->setConnectEnabled(m_summary.phase != Phase::Unavailable);

@@ -23,6 +23,7 @@
 namespace {
 
 constexpr int kVersionTimeoutMs = 3000;
+constexpr int kIncompatibleRecheckMs = 10000;
 constexpr int kFirstUpdateCheckDelayMs = 30000;
 
 } // namespace
@@ -452,7 +453,15 @@ void TovraAppShell::handleWindowVersionFinished(quint64 requestId, VersionInfo i
         setCompatibility(Compatible);
         return;
     }
+    const bool wasIncompatible = m_compatibility == Incompatible;
     setCompatibility(Incompatible);
+    // The daemon may be updated under a running client: ask again until it speaks our version.
+    QTimer::singleShot(kIncompatibleRecheckMs, this, [this] {
+        if (m_compatibility == Incompatible)
+            requestVersion();
+    });
+    if (wasIncompatible)
+        return;
     m_context.window->showOrRaise();
     m_context.notifier->error(shellText(QT_TRANSLATE_NOOP(
         "TovraAppShell",

@@ -456,6 +456,8 @@ void TovraTrayApp::applyStatus(const RuntimeInfo &info, const QString &errorMess
     m_accountLookup->follow(info);
     if (!m_state->nodes().valid)
         m_nodeLoader->load(false);
+    else // a groups answer lost to a daemon fault is asked for again with each poll
+        m_nodeLoader->loadMissingGroups();
     redraw();
 }
 

@@ -84,6 +84,12 @@ void TrayNodeLoader::handleNodesFinished(quint64 requestId, const NodesInfo &nod
     Q_EMIT nodesAnswered();
 }
 
+void TrayNodeLoader::loadMissingGroups()
+{
+    if (!isLoading() && m_state->nodes().valid && !m_state->nodeGroups().valid)
+        loadGroups();
+}
+
 void TrayNodeLoader::loadGroups()
 {
     if (m_groupsInFlight)

@@ -33,6 +33,8 @@ public:
     // Asks for the catalogue unless a load or refresh is under way; refresh asks the daemon
     // to fetch a fresh one.
     void load(bool refresh);
+    // Fetches the node groups alone, when nodes are known but their groups never arrived.
+    void loadMissingGroups();
     // A refresh, unless one is under way or the cooldown still runs; starts the cooldown.
     void refresh();
 

@@ -416,6 +416,7 @@ void MainWindow::showNotification(const QString &text, const QString &kind, int 
 {
     m_notifications->showMessage(text, kind, durationMs);
     placeNotificationHost();
+    guiTextLog("window.notice", kind + QStringLiteral(": ") + text, false);
 }
 
 void MainWindow::setAccountOperationInProgress(bool inProgress)

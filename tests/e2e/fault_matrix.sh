@@ -37,7 +37,10 @@ run_case() {
     # Not local: the exit trap runs after this function has returned.
     pids=() daemon_pid="" client_pid=""
     cleanup() {
-        for pid in $client_pid $daemon_pid "${pids[@]}"; do kill -9 "$pid" 2>/dev/null; done
+        local pid
+        for pid in $client_pid $daemon_pid; do kill -9 "$pid" 2>/dev/null; done
+        # TERM, so that the X server removes its lock and socket for the next one.
+        for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
         wait 2>/dev/null
     }
     trap cleanup EXIT
@@ -55,18 +58,29 @@ run_case() {
     now_ms() { echo $(( $(date +%s%N) / 1000000 )); }
 
     # One X server starts at a time: two that pick a display number together can pick the same.
-    exec 8>"$top/xvfb.lock"
-    flock 8
-    Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$work/display" 2>"$work/xvfb.log" &
-    pids+=($!)
-    wait_for 10 test -s "$work/display" || fail "Xvfb did not start"
-    flock -u 8
-    export DISPLAY=":$(head -n1 "$work/display")" QT_QPA_PLATFORM=xcb
-    unset WAYLAND_DISPLAY
-    trayer --edge top --align right --widthtype request --height 28 --SetDockType true \
-        --transparent false >"$work/trayer.log" 2>&1 &
-    pids+=($!)
-    wait_for 10 xdotool search --class trayer >/dev/null || fail "trayer did not start"
+    # An X server that another one, exiting, robs of its socket is started again.
+    local attempt x_pid tray_pid
+    for attempt in 1 2 3; do
+        exec 8>"$top/xvfb.lock"
+        flock 8
+        rm -f "$work/display"
+        Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$work/display" 2>"$work/xvfb.log" &
+        x_pid=$!
+        wait_for 10 test -s "$work/display" || fail "Xvfb did not start"
+        flock -u 8
+        export DISPLAY=":$(head -n1 "$work/display")" QT_QPA_PLATFORM=xcb
+        unset WAYLAND_DISPLAY
+        trayer --edge top --align right --widthtype request --height 28 --SetDockType true \
+            --transparent false >"$work/trayer.log" 2>&1 &
+        tray_pid=$!
+        if wait_for 10 xdotool search --class trayer >/dev/null; then
+            pids+=("$x_pid" "$tray_pid")
+            break
+        fi
+        kill "$tray_pid" "$x_pid" 2>/dev/null
+        wait "$tray_pid" "$x_pid" 2>/dev/null
+        (( attempt < 3 )) || fail "trayer did not start: $(head -n3 "$work/trayer.log")"
+    done
 
     # The socket sits in its own folder, so that the permission case can close it.
     mkdir -p "$work/sock"

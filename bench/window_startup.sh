@@ -73,6 +73,7 @@ done
 locations_rss() { # NODE_COUNT
     local pid
     fresh_config
+    : >"$work/client.log"
     TOVRA_GUI_TEXT_LOG=1 "${client_env[@]}" "$client" >"$work/client.log" 2>&1 &
     pid=$!
     wait_for 20 grep -q '^tovra.text: window.page: VPN' "$work/client.log"

@@ -120,7 +120,8 @@ int main(int argc, char *argv[])
         QTimer::singleShot(0, &shell, &TovraAppShell::refreshLocationsAfterGUIRestart);
     }
 
-    // "TOVRA_GUI_STALL_MS" turns on the freeze report users can attach to a bug; off, it costs nothing.
+    // "TOVRA_GUI_STALL_MS" turns on the freeze report users can attach to a bug; off, it costs
+    // nothing.
     const std::unique_ptr<GuiStallMonitor> stallMonitor = GuiStallMonitor::fromEnvironment();
 
     const int exitCode = QApplication::exec();

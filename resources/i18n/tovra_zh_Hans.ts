@@ -4,11 +4,199 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
+        <source>Enter account and password.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
+        <source>Account operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -16,6 +204,69 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished">关</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -974,6 +1225,109 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -1068,9 +1422,154 @@
     </message>
 </context>
 <context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished">自动</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as ᳞”.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1081,7 +1580,141 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1105,6 +1738,53 @@
     </message>
     <message>
         <source>Mode operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1142,10 +1822,6 @@
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
-    </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
@@ -1171,6 +1847,204 @@
     </message>
 </context>
 <context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished">关</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished">开</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished">关</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished">开</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
@@ -1178,6 +2052,68 @@
     </message>
     <message>
         <source>Notification: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1192,11 +2128,197 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
+        <source>Applying settings...</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Applying settings...</source>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1309,10 +2431,6 @@
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1362,10 +2480,6 @@
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1429,15 +2543,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1445,7 +2551,175 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
+        <source>Could not load kill switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1467,15 +2741,799 @@
         <source>Error: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished">自动</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished">关</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished">开</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
+        <source>Connect</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
+        <source>Sign In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1495,6 +3553,10 @@
     </message>
     <message>
         <source>Could not open log directory: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

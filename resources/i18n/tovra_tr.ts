@@ -1,0 +1,3563 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="tr">
+<context>
+    <name>AccountPage</name>
+    <message>
+        <source>Enter account and password.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConfirmDialog</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ControlClient</name>
+    <message>
+        <source>Tovra daemon is not running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not connect to Tovra daemon.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>Countries</name>
+    <message>
+        <source>Afghanistan</source>
+        <translation>Afganistan</translation>
+    </message>
+    <message>
+        <source>Land Islands</source>
+        <translation>Åland Adaları</translation>
+    </message>
+    <message>
+        <source>Albania</source>
+        <translation>Arnavutluk</translation>
+    </message>
+    <message>
+        <source>Algeria</source>
+        <translation>Cezayir</translation>
+    </message>
+    <message>
+        <source>American Samoa</source>
+        <translation>Amerikan Samoası</translation>
+    </message>
+    <message>
+        <source>Andorra</source>
+        <translation>Andorra</translation>
+    </message>
+    <message>
+        <source>Angola</source>
+        <translation>Angola</translation>
+    </message>
+    <message>
+        <source>Anguilla</source>
+        <translation>Anguilla</translation>
+    </message>
+    <message>
+        <source>Antigua and Barbuda</source>
+        <translation>Antigua ve Barbuda</translation>
+    </message>
+    <message>
+        <source>Argentina</source>
+        <translation>Arjantin</translation>
+    </message>
+    <message>
+        <source>Armenia</source>
+        <translation>Ermenistan</translation>
+    </message>
+    <message>
+        <source>Aruba</source>
+        <translation>Aruba</translation>
+    </message>
+    <message>
+        <source>Australia</source>
+        <translation>Avustralya</translation>
+    </message>
+    <message>
+        <source>Austria</source>
+        <translation>Avusturya</translation>
+    </message>
+    <message>
+        <source>Azerbaijan</source>
+        <translation>Azerbaycan</translation>
+    </message>
+    <message>
+        <source>Bahamas</source>
+        <translation>Bahamalar</translation>
+    </message>
+    <message>
+        <source>Bahrain</source>
+        <translation>Bahreyn</translation>
+    </message>
+    <message>
+        <source>Bangladesh</source>
+        <translation>Bangladeş</translation>
+    </message>
+    <message>
+        <source>Barbados</source>
+        <translation>Barbados</translation>
+    </message>
+    <message>
+        <source>Belarus</source>
+        <translation>Belarus</translation>
+    </message>
+    <message>
+        <source>Belgium</source>
+        <translation>Belçika</translation>
+    </message>
+    <message>
+        <source>Belize</source>
+        <translation>Belize</translation>
+    </message>
+    <message>
+        <source>Benin</source>
+        <translation>Benin</translation>
+    </message>
+    <message>
+        <source>Bermuda</source>
+        <translation>Bermuda</translation>
+    </message>
+    <message>
+        <source>Bhutan</source>
+        <translation>Bhutan</translation>
+    </message>
+    <message>
+        <source>Bolivia</source>
+        <translation>Bolivya</translation>
+    </message>
+    <message>
+        <source>Bosnia and Herzegovina</source>
+        <translation>Bosna-Hersek</translation>
+    </message>
+    <message>
+        <source>Botswana</source>
+        <translation>Botsvana</translation>
+    </message>
+    <message>
+        <source>Brazil</source>
+        <translation>Brezilya</translation>
+    </message>
+    <message>
+        <source>Brunei Darussalam</source>
+        <translation>Brunei Krallığı</translation>
+    </message>
+    <message>
+        <source>Bulgaria</source>
+        <translation>Bulgaristan</translation>
+    </message>
+    <message>
+        <source>Burkina Faso</source>
+        <translation>Burkina Faso</translation>
+    </message>
+    <message>
+        <source>Burundi</source>
+        <translation>Burundi</translation>
+    </message>
+    <message>
+        <source>Cambodia</source>
+        <translation>Kamboçya</translation>
+    </message>
+    <message>
+        <source>Cameroon</source>
+        <translation>Kamerun</translation>
+    </message>
+    <message>
+        <source>Canada</source>
+        <translation>Kanada</translation>
+    </message>
+    <message>
+        <source>Cape Verde</source>
+        <translation>Yeşil Burun Adaları</translation>
+    </message>
+    <message>
+        <source>Cayman Islands</source>
+        <translation>Cayman Adaları</translation>
+    </message>
+    <message>
+        <source>Central African Republic</source>
+        <translation>Orta Afrika Cumhuriyeti</translation>
+    </message>
+    <message>
+        <source>Chad</source>
+        <translation>Çad</translation>
+    </message>
+    <message>
+        <source>Chile</source>
+        <translation>Şili</translation>
+    </message>
+    <message>
+        <source>China</source>
+        <translation>Çin</translation>
+    </message>
+    <message>
+        <source>Colombia</source>
+        <translation>Kolombiya</translation>
+    </message>
+    <message>
+        <source>Comoros</source>
+        <translation>Komorlar</translation>
+    </message>
+    <message>
+        <source>Congo</source>
+        <translation>Kongo</translation>
+    </message>
+    <message>
+        <source>Congo, The Democratic Republic of the</source>
+        <translation>Kongo Demokratik Cumhuriyeti</translation>
+    </message>
+    <message>
+        <source>Cook Islands</source>
+        <translation>Cook Adaları</translation>
+    </message>
+    <message>
+        <source>Costa Rica</source>
+        <translation>Kosta Rika</translation>
+    </message>
+    <message>
+        <source>Cote D&apos;Ivoire</source>
+        <translation>Fildişi Sahili</translation>
+    </message>
+    <message>
+        <source>Croatia</source>
+        <translation>Hırvatistan</translation>
+    </message>
+    <message>
+        <source>Cuba</source>
+        <translation>Küba</translation>
+    </message>
+    <message>
+        <source>Cyprus</source>
+        <translation>Kıbrıs</translation>
+    </message>
+    <message>
+        <source>Czech Republic</source>
+        <translation>Çekya</translation>
+    </message>
+    <message>
+        <source>Denmark</source>
+        <translation>Danimarka</translation>
+    </message>
+    <message>
+        <source>Djibouti</source>
+        <translation>Cibuti</translation>
+    </message>
+    <message>
+        <source>Dominica</source>
+        <translation>Dominika</translation>
+    </message>
+    <message>
+        <source>Dominican Republic</source>
+        <translation>Dominik Cumhuriyeti</translation>
+    </message>
+    <message>
+        <source>Ecuador</source>
+        <translation>Ekvador</translation>
+    </message>
+    <message>
+        <source>Egypt</source>
+        <translation>Mısır</translation>
+    </message>
+    <message>
+        <source>El Salvador</source>
+        <translation>El Salvador</translation>
+    </message>
+    <message>
+        <source>Equatorial Guinea</source>
+        <translation>Ekvator Ginesi</translation>
+    </message>
+    <message>
+        <source>Eritrea</source>
+        <translation>Eritre</translation>
+    </message>
+    <message>
+        <source>Estonia</source>
+        <translation>Estonya</translation>
+    </message>
+    <message>
+        <source>Ethiopia</source>
+        <translation>Etiyopya</translation>
+    </message>
+    <message>
+        <source>Falkland Islands (Malvinas)</source>
+        <translation>Falkland Adaları (Malvinas)</translation>
+    </message>
+    <message>
+        <source>Faroe Islands</source>
+        <translation>Faroe Adaları</translation>
+    </message>
+    <message>
+        <source>Fiji</source>
+        <translation>Fiji</translation>
+    </message>
+    <message>
+        <source>Finland</source>
+        <translation>Finlandiya</translation>
+    </message>
+    <message>
+        <source>France</source>
+        <translation>Fransa</translation>
+    </message>
+    <message>
+        <source>French Guiana</source>
+        <translation>Fransız Guyanası</translation>
+    </message>
+    <message>
+        <source>French Polynesia</source>
+        <translation>Fransız Polinezyası</translation>
+    </message>
+    <message>
+        <source>Gabon</source>
+        <translation>Gabon</translation>
+    </message>
+    <message>
+        <source>Gambia</source>
+        <translation>Gambiya</translation>
+    </message>
+    <message>
+        <source>Georgia</source>
+        <translation>Gürcistan</translation>
+    </message>
+    <message>
+        <source>Germany</source>
+        <translation>Almanya</translation>
+    </message>
+    <message>
+        <source>Ghana</source>
+        <translation>Gana</translation>
+    </message>
+    <message>
+        <source>Gibraltar</source>
+        <translation>Cebelitarık</translation>
+    </message>
+    <message>
+        <source>Greece</source>
+        <translation>Yunanistan</translation>
+    </message>
+    <message>
+        <source>Greenland</source>
+        <translation>Grönland</translation>
+    </message>
+    <message>
+        <source>Grenada</source>
+        <translation>Grenada</translation>
+    </message>
+    <message>
+        <source>Guadeloupe</source>
+        <translation>Guadeloupe</translation>
+    </message>
+    <message>
+        <source>Guam</source>
+        <translation>Guam</translation>
+    </message>
+    <message>
+        <source>Guatemala</source>
+        <translation>Guatemala</translation>
+    </message>
+    <message>
+        <source>Guernsey</source>
+        <translation>Guernsey</translation>
+    </message>
+    <message>
+        <source>Guinea</source>
+        <translation>Gine</translation>
+    </message>
+    <message>
+        <source>Guinea-Bissau</source>
+        <translation>Gine-Bissau</translation>
+    </message>
+    <message>
+        <source>Guyana</source>
+        <translation>Guyana</translation>
+    </message>
+    <message>
+        <source>Haiti</source>
+        <translation>Haiti</translation>
+    </message>
+    <message>
+        <source>Holy See (Vatican City State)</source>
+        <translation>Holy See (Vatikan Şehir Devleti)</translation>
+    </message>
+    <message>
+        <source>Honduras</source>
+        <translation>Honduras</translation>
+    </message>
+    <message>
+        <source>Hong Kong (China)</source>
+        <translation>Hong Kong</translation>
+    </message>
+    <message>
+        <source>Hungary</source>
+        <translation>Macaristan</translation>
+    </message>
+    <message>
+        <source>Iceland</source>
+        <translation>İzlanda</translation>
+    </message>
+    <message>
+        <source>India</source>
+        <translation>Hindistan</translation>
+    </message>
+    <message>
+        <source>Indonesia</source>
+        <translation>Endonezya</translation>
+    </message>
+    <message>
+        <source>Iran, Islamic Republic of</source>
+        <translation>İran</translation>
+    </message>
+    <message>
+        <source>Iraq</source>
+        <translation>Irak</translation>
+    </message>
+    <message>
+        <source>Ireland</source>
+        <translation>İrlanda</translation>
+    </message>
+    <message>
+        <source>Isle of Man</source>
+        <translation>Man Adası</translation>
+    </message>
+    <message>
+        <source>Israel</source>
+        <translation>İsrail</translation>
+    </message>
+    <message>
+        <source>Italy</source>
+        <translation>İtalya</translation>
+    </message>
+    <message>
+        <source>Jamaica</source>
+        <translation>Jamaika</translation>
+    </message>
+    <message>
+        <source>Japan</source>
+        <translation>Japonya</translation>
+    </message>
+    <message>
+        <source>Jersey</source>
+        <translation>Jersey</translation>
+    </message>
+    <message>
+        <source>Jordan</source>
+        <translation>Ürdün</translation>
+    </message>
+    <message>
+        <source>Kazakhstan</source>
+        <translation>Kazakistan</translation>
+    </message>
+    <message>
+        <source>Kenya</source>
+        <translation>Kenya</translation>
+    </message>
+    <message>
+        <source>Kiribati</source>
+        <translation>Kiribati</translation>
+    </message>
+    <message>
+        <source>Korea, Democratic People&apos;S Republic of</source>
+        <translation>Kuzey Kore</translation>
+    </message>
+    <message>
+        <source>Korea, Republic of</source>
+        <translation>Güney Kore</translation>
+    </message>
+    <message>
+        <source>Kuwait</source>
+        <translation>Kuveyt</translation>
+    </message>
+    <message>
+        <source>Kyrgyzstan</source>
+        <translation>Kırgızistan</translation>
+    </message>
+    <message>
+        <source>Lao People&apos;S Democratic Republic</source>
+        <translation>Laos</translation>
+    </message>
+    <message>
+        <source>Latvia</source>
+        <translation>Letonya</translation>
+    </message>
+    <message>
+        <source>Lebanon</source>
+        <translation>Lübnan</translation>
+    </message>
+    <message>
+        <source>Lesotho</source>
+        <translation>Lesoto</translation>
+    </message>
+    <message>
+        <source>Liberia</source>
+        <translation>Liberya</translation>
+    </message>
+    <message>
+        <source>Libyan Arab Jamahiriya</source>
+        <translation>Libya</translation>
+    </message>
+    <message>
+        <source>Liechtenstein</source>
+        <translation>Lihtenştayn</translation>
+    </message>
+    <message>
+        <source>Lithuania</source>
+        <translation>Litvanya</translation>
+    </message>
+    <message>
+        <source>Luxembourg</source>
+        <translation>Lüksemburg</translation>
+    </message>
+    <message>
+        <source>Macao (China)</source>
+        <translation>Makao</translation>
+    </message>
+    <message>
+        <source>Macedonia, The Former Yugoslav Republic of</source>
+        <translation>Kuzey Makedonya</translation>
+    </message>
+    <message>
+        <source>Madagascar</source>
+        <translation>Madagaskar</translation>
+    </message>
+    <message>
+        <source>Malawi</source>
+        <translation>Malavi</translation>
+    </message>
+    <message>
+        <source>Malaysia</source>
+        <translation>Malezya</translation>
+    </message>
+    <message>
+        <source>Maldives</source>
+        <translation>Maldivler</translation>
+    </message>
+    <message>
+        <source>Mali</source>
+        <translation>Mali</translation>
+    </message>
+    <message>
+        <source>Malta</source>
+        <translation>Malta</translation>
+    </message>
+    <message>
+        <source>Marshall Islands</source>
+        <translation>Marşal Adaları</translation>
+    </message>
+    <message>
+        <source>Martinique</source>
+        <translation>Martinique</translation>
+    </message>
+    <message>
+        <source>Mauritania</source>
+        <translation>Moritanya</translation>
+    </message>
+    <message>
+        <source>Mauritius</source>
+        <translation>Mauritius</translation>
+    </message>
+    <message>
+        <source>Mayotte</source>
+        <translation>Mayotte</translation>
+    </message>
+    <message>
+        <source>Mexico</source>
+        <translation>Meksika</translation>
+    </message>
+    <message>
+        <source>Micronesia, Federated States of</source>
+        <translation>Mikronezya Federe Devletleri</translation>
+    </message>
+    <message>
+        <source>Moldova, Republic of</source>
+        <translation>Moldova</translation>
+    </message>
+    <message>
+        <source>Monaco</source>
+        <translation>Monako</translation>
+    </message>
+    <message>
+        <source>Mongolia</source>
+        <translation>Moğolistan</translation>
+    </message>
+    <message>
+        <source>Montenegro</source>
+        <translation>Karadağ</translation>
+    </message>
+    <message>
+        <source>Montserrat</source>
+        <translation>Montserrat</translation>
+    </message>
+    <message>
+        <source>Morocco</source>
+        <translation>Fas</translation>
+    </message>
+    <message>
+        <source>Mozambique</source>
+        <translation>Mozambik</translation>
+    </message>
+    <message>
+        <source>Myanmar</source>
+        <translation>Myanmar</translation>
+    </message>
+    <message>
+        <source>Namibia</source>
+        <translation>Namibya</translation>
+    </message>
+    <message>
+        <source>Nauru</source>
+        <translation>Nauru</translation>
+    </message>
+    <message>
+        <source>Nepal</source>
+        <translation>Nepal</translation>
+    </message>
+    <message>
+        <source>Netherlands</source>
+        <translation>Hollanda</translation>
+    </message>
+    <message>
+        <source>New Caledonia</source>
+        <translation>Yeni Kaledonya</translation>
+    </message>
+    <message>
+        <source>New Zealand</source>
+        <translation>Yeni Zelanda</translation>
+    </message>
+    <message>
+        <source>Nicaragua</source>
+        <translation>Nikaragua</translation>
+    </message>
+    <message>
+        <source>Niger</source>
+        <translation>Nijer</translation>
+    </message>
+    <message>
+        <source>Nigeria</source>
+        <translation>Nijerya</translation>
+    </message>
+    <message>
+        <source>Niue</source>
+        <translation>Niue</translation>
+    </message>
+    <message>
+        <source>Norfolk Island</source>
+        <translation>Norfolk Adası</translation>
+    </message>
+    <message>
+        <source>Northern Mariana Islands</source>
+        <translation>Kuzey Mariana Adaları</translation>
+    </message>
+    <message>
+        <source>Norway</source>
+        <translation>Norveç</translation>
+    </message>
+    <message>
+        <source>Oman</source>
+        <translation>Umman</translation>
+    </message>
+    <message>
+        <source>Pakistan</source>
+        <translation>Pakistan</translation>
+    </message>
+    <message>
+        <source>Palau</source>
+        <translation>Palau</translation>
+    </message>
+    <message>
+        <source>Palestinian Territory, Occupied</source>
+        <translation>Filistin Devleti</translation>
+    </message>
+    <message>
+        <source>Panama</source>
+        <translation>Panama</translation>
+    </message>
+    <message>
+        <source>Papua New Guinea</source>
+        <translation>Papua Yeni Gine</translation>
+    </message>
+    <message>
+        <source>Paraguay</source>
+        <translation>Paraguay</translation>
+    </message>
+    <message>
+        <source>Peru</source>
+        <translation>Peru</translation>
+    </message>
+    <message>
+        <source>Philippines</source>
+        <translation>Filipinler</translation>
+    </message>
+    <message>
+        <source>Poland</source>
+        <translation>Polonya</translation>
+    </message>
+    <message>
+        <source>Portugal</source>
+        <translation>Portekiz</translation>
+    </message>
+    <message>
+        <source>Puerto Rico</source>
+        <translation>Porto Riko</translation>
+    </message>
+    <message>
+        <source>Qatar</source>
+        <translation>Katar</translation>
+    </message>
+    <message>
+        <source>Reunion</source>
+        <translation>Réunion</translation>
+    </message>
+    <message>
+        <source>Romania</source>
+        <translation>Romanya</translation>
+    </message>
+    <message>
+        <source>Russian Federation</source>
+        <translation>Rusya Federasyonu</translation>
+    </message>
+    <message>
+        <source>Rwanda</source>
+        <translation>Ruanda</translation>
+    </message>
+    <message>
+        <source>Saint Helena</source>
+        <translation>Saint Helena, Ascension ve Tristan da Cunha</translation>
+    </message>
+    <message>
+        <source>Saint Kitts and Nevis</source>
+        <translation>Saint Kitts ve Nevis</translation>
+    </message>
+    <message>
+        <source>Saint Lucia</source>
+        <translation>Saint Lucia</translation>
+    </message>
+    <message>
+        <source>Saint Pierre and Miquelon</source>
+        <translation>Saint Pierre ve Miquelon</translation>
+    </message>
+    <message>
+        <source>Saint Vincent and the Grenadines</source>
+        <translation>Saint Vincent ve Grenadinler</translation>
+    </message>
+    <message>
+        <source>Samoa</source>
+        <translation>Samoa</translation>
+    </message>
+    <message>
+        <source>San Marino</source>
+        <translation>San Marino</translation>
+    </message>
+    <message>
+        <source>Sao Tome and Principe</source>
+        <translation>Sao Tome ve Principe</translation>
+    </message>
+    <message>
+        <source>Saudi Arabia</source>
+        <translation>Suudi Arabistan</translation>
+    </message>
+    <message>
+        <source>Senegal</source>
+        <translation>Senegal</translation>
+    </message>
+    <message>
+        <source>Serbia</source>
+        <translation>Sırbistan</translation>
+    </message>
+    <message>
+        <source>Seychelles</source>
+        <translation>Seyşeller</translation>
+    </message>
+    <message>
+        <source>Sierra Leone</source>
+        <translation>Sierra Leone</translation>
+    </message>
+    <message>
+        <source>Singapore</source>
+        <translation>Singapur</translation>
+    </message>
+    <message>
+        <source>Slovakia</source>
+        <translation>Slovakya</translation>
+    </message>
+    <message>
+        <source>Slovenia</source>
+        <translation>Slovenya</translation>
+    </message>
+    <message>
+        <source>Solomon Islands</source>
+        <translation>Solomon Adaları</translation>
+    </message>
+    <message>
+        <source>Somalia</source>
+        <translation>Somali</translation>
+    </message>
+    <message>
+        <source>South Africa</source>
+        <translation>Güney Afrika</translation>
+    </message>
+    <message>
+        <source>South Sudan</source>
+        <translation>Güney Sudan</translation>
+    </message>
+    <message>
+        <source>Spain</source>
+        <translation>İspanya</translation>
+    </message>
+    <message>
+        <source>Sri Lanka</source>
+        <translation>Sri Lanka</translation>
+    </message>
+    <message>
+        <source>Sudan</source>
+        <translation>Sudan</translation>
+    </message>
+    <message>
+        <source>Suriname</source>
+        <translation>Surinam</translation>
+    </message>
+    <message>
+        <source>Swaziland</source>
+        <translation>Eswatini</translation>
+    </message>
+    <message>
+        <source>Sweden</source>
+        <translation>İsveç</translation>
+    </message>
+    <message>
+        <source>Switzerland</source>
+        <translation>İsviçre</translation>
+    </message>
+    <message>
+        <source>Syrian Arab Republic</source>
+        <translation>Suriye</translation>
+    </message>
+    <message>
+        <source>Taiwan (China)</source>
+        <translation>Tayvan</translation>
+    </message>
+    <message>
+        <source>Tajikistan</source>
+        <translation>Tacikistan</translation>
+    </message>
+    <message>
+        <source>Tanzania, United Republic of</source>
+        <translation>Tanzanya</translation>
+    </message>
+    <message>
+        <source>Thailand</source>
+        <translation>Tayland</translation>
+    </message>
+    <message>
+        <source>Timor-Leste</source>
+        <translation>Timor-Leste</translation>
+    </message>
+    <message>
+        <source>Togo</source>
+        <translation>Togo</translation>
+    </message>
+    <message>
+        <source>Tokelau</source>
+        <translation>Tokelau</translation>
+    </message>
+    <message>
+        <source>Tonga</source>
+        <translation>Tonga</translation>
+    </message>
+    <message>
+        <source>Trinidad and Tobago</source>
+        <translation>Trinidad ve Tobago</translation>
+    </message>
+    <message>
+        <source>Tunisia</source>
+        <translation>Tunus</translation>
+    </message>
+    <message>
+        <source>Turkey</source>
+        <translation>Türkiye</translation>
+    </message>
+    <message>
+        <source>Turkmenistan</source>
+        <translation>Türkmenistan</translation>
+    </message>
+    <message>
+        <source>Turks and Caicos Islands</source>
+        <translation>Turks ve Caicos Adaları</translation>
+    </message>
+    <message>
+        <source>Tuvalu</source>
+        <translation>Tuvalu</translation>
+    </message>
+    <message>
+        <source>Uganda</source>
+        <translation>Uganda</translation>
+    </message>
+    <message>
+        <source>Ukraine</source>
+        <translation>Ukrayna</translation>
+    </message>
+    <message>
+        <source>United Arab Emirates</source>
+        <translation>Birleşik Arap Emirlikleri</translation>
+    </message>
+    <message>
+        <source>United Kingdom</source>
+        <translation>Birleşik Krallık</translation>
+    </message>
+    <message>
+        <source>United States</source>
+        <translation>Amerika Birleşik Devletleri</translation>
+    </message>
+    <message>
+        <source>Uruguay</source>
+        <translation>Uruguay</translation>
+    </message>
+    <message>
+        <source>Uzbekistan</source>
+        <translation>Özbekistan</translation>
+    </message>
+    <message>
+        <source>Vanuatu</source>
+        <translation>Vanuatu</translation>
+    </message>
+    <message>
+        <source>Venezuela</source>
+        <translation>Venezuela</translation>
+    </message>
+    <message>
+        <source>Viet Nam</source>
+        <translation>Vietnam</translation>
+    </message>
+    <message>
+        <source>Virgin Islands, British</source>
+        <translation>İngiliz Virgin Adaları</translation>
+    </message>
+    <message>
+        <source>Virgin Islands, U.S.</source>
+        <translation>Virgin Adaları, A.B.D.</translation>
+    </message>
+    <message>
+        <source>Wallis and Futuna</source>
+        <translation>Wallis ve Futuna Adaları</translation>
+    </message>
+    <message>
+        <source>Western Sahara</source>
+        <translation>Batı Sahra</translation>
+    </message>
+    <message>
+        <source>Yemen</source>
+        <translation>Yemen</translation>
+    </message>
+    <message>
+        <source>Zambia</source>
+        <translation>Zambiya</translation>
+    </message>
+    <message>
+        <source>Zimbabwe</source>
+        <translation>Zimbabve</translation>
+    </message>
+</context>
+<context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>GuiAutostart</name>
+    <message>
+        <source>Login startup is not supported on this platform.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not resolve the Tovra executable for login startup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not prepare the login startup directory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update Tovra login startup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not secure Tovra login startup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not remove Tovra from login startup.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchConfirm</name>
+    <message>
+        <source>Unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lockdown unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch to Auto and enable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Switch to Auto and enable Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose mode…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a mode for Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy needs Kill Switch off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Settings to turn off Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationItemDelegate</name>
+    <message>
+        <source>%1 ms</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as ᳞”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationsPage</name>
+    <message>
+        <source>All locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>MainWindow</name>
+    <message>
+        <source>Tovra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ModePage</name>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TovraVPN Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TovraVPN Global</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Global</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Routing mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NavigationSidebar</name>
+    <message>
+        <source>Locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>VPN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NotificationHost</name>
+    <message>
+        <source>Dismiss notification</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Notification: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsPage</name>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preferences</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Applying settings...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TovraAppShell</name>
+    <message>
+        <source>Could not sign in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not sign out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not open renewal page</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refreshing locations...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A locations update is already in progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update favorite</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not refresh locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not refresh location groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locations updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not connect to this location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not disconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Restarting Tovra to apply the interface language.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not restart Tovra. Please restart the app manually.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not switch mode</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update local network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update system proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please wait for the current operation to finish</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pick a VPN mode to turn on Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load kill switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update kill switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom split rules updated, but rules could not be refreshed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not import split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>Custom split rules updated (%n rule(s))</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>Could not load config paths</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update API URL</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>API URL reset to default</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>API URL validated and saved</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>API URL saved but not validated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update auto connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update proxy listen address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy listen address saved for reconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy listen address updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not update split DNS</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split DNS updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Repair completed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not check for updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra is up to date</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checking Tovra service compatibility...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load version</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not start the update download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not confirm that the download started. Checking its status...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not confirm cancellation. Retrying...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not read download progress. Retrying...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download belongs to a different update release. Check for updates again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download completed before it could be canceled. The installer was not opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Update information is unavailable. Check for updates again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The update was downloaded, but the installer could not be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GUI version is unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A required Tovra update is being checked before connecting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Finishing the latest update check before starting the download...</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>TrayMenuText</name>
+    <message>
+        <source>Tovra: connecting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: connecting %1...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>[ %1 ]</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Error: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VpnPage</name>
+    <message>
+        <source>Connect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>WindowController</name>
+    <message>
+        <source>Account operation failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not open link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log directory is unavailable</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log directory does not exist: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not open log directory: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+</TS>

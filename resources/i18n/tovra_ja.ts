@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Forgot password?</source>
-        <translation>パスワードをお忘れですか?</translation>
+        <translation>パスワードをお忘れですか？</translation>
     </message>
     <message>
         <source>Signing in...</source>
@@ -146,7 +146,7 @@
     </message>
     <message>
         <source>%1, following the desktop</source>
-        <translation>%1 (デスクトップの設定)</translation>
+        <translation>%1 (デスクトップの設定に従う)</translation>
     </message>
     <message>
         <source>Could not update login startup</source>
@@ -1343,7 +1343,7 @@
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation>Tovra のログイン時の起動を更新できませんでした。</translation>
+        <translation>Tovra のログイン時の起動を変更できませんでした。</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
@@ -2354,7 +2354,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation>お気に入りを更新できませんでした</translation>
+        <translation>お気に入りを変更できませんでした</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
@@ -2749,31 +2749,31 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation>Tovra: TovraVPN スプリットを更新しています...</translation>
+        <translation>Tovra: TovraVPN スプリットを変更しています...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
-        <translation>Tovra: TovraVPN の地域を更新しています...</translation>
+        <translation>Tovra: TovraVPN の地域を変更しています...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN GFWList...</source>
-        <translation>Tovra: TovraVPN の GFWList を更新しています...</translation>
+        <translation>Tovra: TovraVPN の GFWList 設定を変更しています...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN custom rules...</source>
-        <translation>Tovra: TovraVPN のカスタムルールを更新しています...</translation>
+        <translation>Tovra: TovraVPN のカスタムルールを変更しています...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy Split...</source>
-        <translation>Tovra: Tovra Proxy スプリットを更新しています...</translation>
+        <translation>Tovra: Tovra Proxy スプリットを変更しています...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy regions...</source>
-        <translation>Tovra: Tovra Proxy の地域を更新しています...</translation>
+        <translation>Tovra: Tovra Proxy の地域を変更しています...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy GFWList...</source>
-        <translation>Tovra: Tovra Proxy の GFWList を更新しています...</translation>
+        <translation>Tovra: Tovra Proxy の GFWList 設定を変更しています...</translation>
     </message>
     <message>
         <source>operation failed</source>
@@ -3105,11 +3105,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Tovra: updating system proxy...</source>
-        <translation>Tovra: システムプロキシを更新しています...</translation>
+        <translation>Tovra: システムプロキシを変更しています...</translation>
     </message>
     <message>
         <source>Tovra: updating local network routing...</source>
-        <translation>Tovra: ローカルネットワークのルーティングを更新しています...</translation>
+        <translation>Tovra: ローカルネットワークのルーティングを変更しています...</translation>
     </message>
     <message>
         <source>Tovra: enabling kill switch...</source>

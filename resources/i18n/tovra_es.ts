@@ -5,288 +5,288 @@
     <name>AccountPage</name>
     <message>
         <source>Enter account and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduce la cuenta y la contraseña.</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en la operación de la cuenta</translation>
     </message>
 </context>
 <context>
     <name>AccountSignInCard</name>
     <message>
         <source>Remember this account</source>
-        <translation type="unfinished"></translation>
+        <translation>Recordar esta cuenta</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar sesión</translation>
     </message>
     <message>
         <source>Sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar sesión</translation>
     </message>
     <message>
         <source>Use your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa tu cuenta de Tovra para conectarte y sincronizar las ubicaciones disponibles.</translation>
     </message>
     <message>
         <source>Email or user ID</source>
-        <translation type="unfinished"></translation>
+        <translation>Correo electrónico o ID de usuario</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraseña</translation>
     </message>
     <message>
         <source>Sign Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Crear cuenta</translation>
     </message>
     <message>
         <source>Forgot password?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Has olvidado la contraseña?</translation>
     </message>
     <message>
         <source>Signing in...</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciando sesión...</translation>
     </message>
 </context>
 <context>
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
-        <translation type="unfinished"></translation>
+        <translation>Renovar</translation>
     </message>
     <message>
         <source>Sign Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar sesión</translation>
     </message>
     <message>
         <source>Signed in</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión iniciada</translation>
     </message>
     <message>
         <source>User ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ID de usuario: %1</translation>
     </message>
     <message>
         <source>Plan: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Plan: %1</translation>
     </message>
     <message>
         <source>Days left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Días restantes: %1</translation>
     </message>
     <message>
         <source>Max simultaneous devices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Máximo de dispositivos simultáneos: %1</translation>
     </message>
     <message>
         <source>Signing out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrando sesión...</translation>
     </message>
     <message>
         <source>Opening…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abriendo…</translation>
     </message>
 </context>
 <context>
     <name>AppSection</name>
     <message>
         <source>App</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicación</translation>
     </message>
     <message>
         <source>Change…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar…</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Iniciar al acceder</translation>
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicia Tovra en la bandeja del sistema al iniciar sesión en el escritorio.</translation>
     </message>
     <message>
         <source>Show window at launch</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar la ventana al iniciar</translation>
     </message>
     <message>
         <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>Abre esta ventana al iniciarse Tovra; si no, solo aparece el icono de la bandeja.</translation>
     </message>
     <message>
         <source>Same as desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Igual que el escritorio</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apariencia</translation>
     </message>
     <message>
         <source>Light, dark, or following the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro, oscuro o según el escritorio.</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar idioma</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>%1, following the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, según el escritorio</translation>
     </message>
     <message>
         <source>Could not update login startup</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar el inicio al acceder</translation>
     </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
     <message>
         <source>Location %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación %1</translation>
     </message>
     <message>
         <source>Other locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras ubicaciones</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>Premium</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ubicaciones: %1</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>latency not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>latencia sin medir</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>favorito</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>conectado</translation>
     </message>
     <message>
         <source>not in your plan</source>
-        <translation type="unfinished"></translation>
+        <translation>no incluido en tu plan</translation>
     </message>
     <message>
         <source>Your plan does not include this location. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tu plan no incluye esta ubicación. Mejora tu plan para usarla.</translation>
     </message>
     <message>
         <source>This list may be out of date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puede que esta lista no esté actualizada.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
 </context>
 <context>
     <name>ConnectionSection</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión</translation>
     </message>
     <message>
         <source>API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de la API</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer valor predeterminado</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Desactivada</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation>Última ubicación</translation>
     </message>
     <message>
         <source>Fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación más rápida</translation>
     </message>
     <message>
         <source>Auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Conexión automática</translation>
     </message>
     <message>
         <source>What the Tovra service connects to when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>A qué se conecta el servicio de Tovra cuando se inicia.</translation>
     </message>
     <message>
         <source>Save API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar la URL de la API</translation>
     </message>
     <message>
         <source>Reset API URL to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer la URL de la API predeterminada</translation>
     </message>
     <message>
         <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección con la que el servicio de Tovra accede a los servidores de cuentas y ubicaciones. Cámbiala solo si te lo pide el soporte técnico.</translation>
     </message>
     <message>
         <source>Validation: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Validación: %1</translation>
     </message>
     <message>
         <source>Validated by the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>Validada por el servicio de Tovra</translation>
     </message>
     <message>
         <source>Not validated: the Tovra service saved this address but could not confirm it</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin validar: el servicio de Tovra guardó esta dirección, pero no pudo confirmarla</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio de Tovra no está en ejecución.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso denegado al servicio de Tovra. Añade este usuario al grupo tovracli y vuelve a iniciar sesión.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo conectar con el servicio de Tovra.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio de Tovra es demasiado antiguo para los modos de Kill Switch. Actualiza Tovra.</translation>
     </message>
 </context>
 <context>
@@ -1228,130 +1228,130 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>Ejecución</translation>
     </message>
     <message>
         <source>Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Registros</translation>
     </message>
     <message>
         <source>State file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de estado</translation>
     </message>
     <message>
         <source>Credentials key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clave de credenciales</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historial</translation>
     </message>
     <message>
         <source>Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Perfiles</translation>
     </message>
     <message>
         <source>Control socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Socket de control</translation>
     </message>
     <message>
         <source>PID file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo PID</translation>
     </message>
     <message>
         <source>Control address</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección de control</translation>
     </message>
     <message>
         <source>Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnóstico</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparar</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir registros</translation>
     </message>
     <message>
         <source>Repair connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparar la conexión</translation>
     </message>
     <message>
         <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablece el Kill Switch, el proxy local y el túnel cuando el tráfico se queda atascado.</translation>
     </message>
     <message>
         <source>The Tovra service&apos;s log folder, for support.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de registros del servicio de Tovra, para el soporte técnico.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar la ruta de %1</translation>
     </message>
     <message>
         <source>Service paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Rutas del servicio</translation>
     </message>
     <message>
         <source>Where the Tovra service keeps its files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dónde guarda sus archivos el servicio de Tovra.</translation>
     </message>
     <message>
         <source>Tovra service version</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión del servicio de Tovra</translation>
     </message>
     <message>
         <source>Control protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>Protocolo de control</translation>
     </message>
     <message>
         <source>This app speaks version 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta aplicación usa la versión 1.</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin definir</translation>
     </message>
     <message>
         <source>%1, not compatible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, no compatible</translation>
     </message>
 </context>
 <context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>El inicio al acceder no es compatible con esta plataforma.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo encontrar el ejecutable de Tovra para el inicio al acceder.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo preparar la carpeta de inicio al acceder.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar el inicio de Tovra al acceder.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo proteger el inicio de Tovra al acceder.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo quitar Tovra del inicio al acceder.</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1362,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueo total</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueo total no disponible</translation>
     </message>
     <message>
         <source>On</source>
@@ -1378,168 +1378,168 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>El Kill Switch necesita un modo VPN</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El Kill Switch no funciona con Tovra Proxy. Cambia a Automático (recomendado), TovraVPN o WireGuard para activarlo.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar a Automático y activar</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar a Automático y activar el Kill Switch</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir modo…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un modo para el Kill Switch</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy necesita el Kill Switch desactivado</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>El Kill Switch bloquea Tovra Proxy. Desactiva primero el Kill Switch en Configuración y después cambia de modo.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Configuración</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Configuración para desactivar el Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>KillSwitchSection</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch</translation>
     </message>
     <message>
         <source>Block traffic outside the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear el tráfico fuera del túnel</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">Automático</translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquea el tráfico fuera del túnel mientras Tovra está conectado o conectándose.</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Siempre</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquea el tráfico fuera del túnel siempre que el Kill Switch esté activado, incluso sin conexión.</translation>
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueo total</translation>
     </message>
     <message>
         <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Definido por el servicio de Tovra: el tráfico fuera del túnel sigue bloqueado y el Kill Switch no se puede desactivar aquí.</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo</translation>
     </message>
     <message>
         <source>When Kill Switch blocks traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuándo bloquea el tráfico el Kill Switch.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red local</translation>
     </message>
     <message>
         <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si las impresoras, las carpetas compartidas y otros dispositivos cercanos siguen accesibles mientras el tráfico está bloqueado.</translation>
     </message>
     <message>
         <source>Kill Switch mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo del Kill Switch: %1</translation>
     </message>
     <message>
         <source>Now: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora: %1</translation>
     </message>
     <message>
         <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. El servicio de Tovra mantiene activado el Kill Switch; no se puede desactivar aquí.</translation>
     </message>
     <message>
         <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy está en uso: el Kill Switch necesita un modo VPN.</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Accesible</translation>
     </message>
     <message>
         <source>Blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueada</translation>
     </message>
 </context>
 <context>
     <name>LanguagePickerDialog</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>Use system language</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar el idioma del sistema</translation>
     </message>
     <message>
         <source>Use system language (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar el idioma del sistema (%1)</translation>
     </message>
     <message>
         <source>Follow the desktop&apos;s language</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguir el idioma del escritorio</translation>
     </message>
     <message>
         <source>Choose a language</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un idioma</translation>
     </message>
     <message>
         <source>Tovra restarts to show the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra se reinicia para mostrar el nuevo idioma.</translation>
     </message>
     <message>
         <source>Search languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar idiomas</translation>
     </message>
     <message>
         <source>Languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Idiomas</translation>
     </message>
     <message>
         <source>Use language</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar idioma</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
 </context>
 <context>
@@ -1547,168 +1547,172 @@
     <message>
         <source>The Tovra service is not available.
 Locations appear here as soon as it responds.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio de Tovra no está disponible.
+Las ubicaciones aparecerán aquí en cuanto responda.</translation>
     </message>
     <message>
         <source>Loading locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando ubicaciones...</translation>
     </message>
     <message>
         <source>The service has no locations to offer right now.
 Try Refresh in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio no ofrece ninguna ubicación por ahora.
+Prueba a actualizar dentro de un momento.</translation>
     </message>
     <message>
         <source>No favourites yet.
 Star a location (or select it and press Space) to keep it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no hay favoritos.
+Marca una ubicación con la estrella (o selecciónala y pulsa Espacio) para tenerla aquí.</translation>
     </message>
     <message>
         <source>No locations in this tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ubicaciones en esta pestaña.</translation>
     </message>
     <message>
         <source>Nothing matches “%1”.
 Try a country, a city or a code such as ᳞”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nada coincide con «%1».
+Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las ubicaciones</translation>
     </message>
     <message>
         <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haz doble clic en una ubicación para conectarte a ella, o en un país o una ciudad para conectarte a su ubicación más rápida.</translation>
     </message>
     <message>
         <source>Search countries, cities, locations or P2P</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar países, ciudades, ubicaciones o P2P</translation>
     </message>
     <message>
         <source>Search locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar ubicaciones</translation>
     </message>
     <message>
         <source>None of the locations in %1 is included in your plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna de las ubicaciones de %1 está incluida en tu plan.</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 no está incluida en tu plan. Mejora tu plan para usarla.</translation>
     </message>
     <message>
         <source>Location actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Acciones de ubicación</translation>
     </message>
     <message>
         <source>Connect to the fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectarse a la ubicación más rápida</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectar</translation>
     </message>
     <message>
         <source>Collapse</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraer</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>Expandir</translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar de favoritos</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir a favoritos</translation>
     </message>
     <message>
         <source>Matches in every tab: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Coincidencias en todas las pestañas: %1</translation>
     </message>
     <message>
         <source>Locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicaciones: %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
-        <translation type="unfinished"></translation>
+        <translation>Midiendo la latencia...</translation>
     </message>
     <message>
         <source>This list may be out of date; Refresh fetches a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Puede que esta lista no esté actualizada; Actualizar descarga una nueva.</translation>
     </message>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Agrupando por región hasta que lleguen los grupos del servicio.</translation>
     </message>
 </context>
 <context>
     <name>LocationsToolbar</name>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas</translation>
     </message>
     <message>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>Gratis</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>Premium</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoritos</translation>
     </message>
     <message>
         <source>Location tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Pestañas de ubicaciones</translation>
     </message>
     <message>
         <source>Sort locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordenar ubicaciones</translation>
     </message>
     <message>
         <source>Service order</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden del servicio</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>Latency</source>
-        <translation type="unfinished"></translation>
+        <translation>Latencia</translation>
     </message>
     <message>
         <source>Order of the locations within each group</source>
-        <translation type="unfinished"></translation>
+        <translation>Orden de las ubicaciones dentro de cada grupo</translation>
     </message>
     <message>
         <source>Fetch the list of locations again and measure their latency</source>
-        <translation type="unfinished"></translation>
+        <translation>Volver a obtener la lista de ubicaciones y medir su latencia</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar (%1 s)</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar</translation>
     </message>
     <message>
         <source>Refresh locations, possible again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar ubicaciones; disponible de nuevo en %1 s</translation>
     </message>
     <message>
         <source>Refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar ubicaciones</translation>
     </message>
 </context>
 <context>
@@ -1831,7 +1835,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modo</translation>
     </message>
     <message>
         <source>VPN</source>
@@ -1850,7 +1854,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Red local</translation>
     </message>
     <message>
         <source>System proxy</source>
@@ -1977,7 +1981,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Red local</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
@@ -2066,7 +2070,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conectar</translation>
     </message>
 </context>
 <context>
@@ -2121,7 +2125,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar</translation>
     </message>
     <message>
         <source>Preferences</source>
@@ -2584,7 +2588,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Guardar</translation>
     </message>
     <message>
         <source>Choose regions</source>
@@ -2600,7 +2604,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
@@ -2872,7 +2876,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conectar</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -2916,7 +2920,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kill Switch</translation>
     </message>
     <message>
         <source>Refresh Status</source>
@@ -3160,7 +3164,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">conectado</translation>
     </message>
     <message>
         <source>disconnected</source>
@@ -3414,22 +3418,22 @@ Available version: %2</source>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Conectar</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Iniciar sesión</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelar</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -3465,7 +3469,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Última ubicación</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -3558,7 +3562,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Error en la operación de la cuenta</translation>
     </message>
 </context>
 </TS>

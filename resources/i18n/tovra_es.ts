@@ -1719,77 +1719,77 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <name>LocationsTreeView</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicaciones</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en la operación</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en la operación de configuración</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en la operación de modo</translation>
     </message>
 </context>
 <context>
     <name>ModeChoiceCard</name>
     <message>
         <source>Tovra picks the protocol that works best here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra elige el protocolo que mejor funciona aquí.</translation>
     </message>
     <message>
         <source>A fast, modern tunnel for all your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un túnel rápido y moderno para todo tu tráfico.</translation>
     </message>
     <message>
         <source>All traffic goes through the TovraVPN tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo el tráfico pasa por el túnel de TovraVPN.</translation>
     </message>
     <message>
         <source>The tunnel by default; chosen regions and sites go direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>El túnel de forma predeterminada; las regiones y los sitios elegidos van directos.</translation>
     </message>
     <message>
         <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin túnel: las aplicaciones que usan el proxy local acceden a Internet a través de Tovra.</translation>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy local, con las regiones y los sitios elegidos yendo directos.</translation>
     </message>
     <message>
         <source>Applying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicando…</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
-        <translation type="unfinished"></translation>
+        <translation>El Kill Switch necesita un modo VPN: elige Automático, WireGuard o TovraVPN para activarlo.</translation>
     </message>
     <message>
         <source>Choose a mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un modo</translation>
     </message>
     <message>
         <source>The current mode shows once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>El modo actual se mostrará cuando responda el servicio de Tovra.</translation>
     </message>
     <message>
         <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo actual: %1. Esta versión de Tovra no lo reconoce; elige uno de los modos de arriba para sustituirlo.</translation>
     </message>
 </context>
 <context>
@@ -1800,530 +1800,530 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN dividido</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Global</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy dividido</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Global</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de enrutamiento</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige cómo se enruta tu tráfico y qué sitios evitan el túnel.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicaciones</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished">Modo</translation>
+        <translation>Modo</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta</translation>
     </message>
 </context>
 <context>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">Red local</translation>
+        <translation>Red local</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy del sistema</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Directa</translation>
     </message>
     <message>
         <source>Printers, shares and other devices on your network stay reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Las impresoras, las carpetas compartidas y otros dispositivos de tu red siguen accesibles</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Protegida</translation>
     </message>
     <message>
         <source>Local network traffic is protected like the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico de la red local se protege igual que el resto</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Desactivado</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings are left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>No se modifica la configuración de proxy del escritorio</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Activado</translation>
+        <translation>Activado</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuración de proxy del escritorio apunta a Tovra</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueado</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
-        <translation type="unfinished"></translation>
+        <translation>La configuración de proxy del escritorio apunta a Tovra y se mantiene así</translation>
     </message>
     <message>
         <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si los dispositivos de tu red local siguen accesibles mientras Tovra enruta tu tráfico.</translation>
     </message>
     <message>
         <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Haz que la configuración de proxy del escritorio apunte a Tovra, o impide además que otros programas la cambien.</translation>
     </message>
 </context>
 <context>
     <name>NetworkSection</name>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red</translation>
     </message>
     <message>
         <source>SOCKS5 listener</source>
-        <translation type="unfinished"></translation>
+        <translation>Escucha SOCKS5</translation>
     </message>
     <message>
         <source>HTTP listener</source>
-        <translation type="unfinished"></translation>
+        <translation>Escucha HTTP</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar direcciones de escucha</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Servidores DNS locales</translation>
     </message>
     <message>
         <source>For example 192.168.1.1, ::1</source>
-        <translation type="unfinished"></translation>
+        <translation>Por ejemplo, 192.168.1.1, ::1</translation>
     </message>
     <message>
         <source>Save servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar servidores</translation>
     </message>
     <message>
         <source>Clear servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar servidores</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer el DNS dividido</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Desactivado</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Activado</translation>
+        <translation>Activado</translation>
     </message>
     <message>
         <source>On and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Activado y bloqueado</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy del sistema</translation>
     </message>
     <message>
         <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hace que la configuración de proxy del escritorio apunte a Tovra; «bloqueado» impide que otros programas la cambien.</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Directa</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Protegida</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">Red local</translation>
+        <translation>Red local</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«Directa» accede a los dispositivos cercanos fuera del túnel; «protegida» lo envía todo a través de él.</translation>
     </message>
     <message>
         <source>SOCKS5</source>
-        <translation type="unfinished"></translation>
+        <translation>SOCKS5</translation>
     </message>
     <message>
         <source>HTTP</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP</translation>
     </message>
     <message>
         <source>Local proxy listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>Escuchas del proxy local</translation>
     </message>
     <message>
         <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
-        <translation type="unfinished"></translation>
+        <translation>Direcciones en las que el servicio acepta conexiones de proxy, como host:puerto. Deja un campo vacío para cerrar esa escucha.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>Local DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS local</translation>
     </message>
     <message>
         <source>Remote DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS remoto</translation>
     </message>
     <message>
         <source>Split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS dividido</translation>
     </message>
     <message>
         <source>Which resolver answers for names that stay outside the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué resolutor responde a los nombres que quedan fuera del túnel.</translation>
     </message>
     <message>
         <source>IP addresses of the resolvers for local names, separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>Direcciones IP de los resolutores para nombres locales, separadas por comas.</translation>
     </message>
     <message>
         <source>In effect: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En uso: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>ninguno</translation>
     </message>
     <message>
         <source>In effect: %1, servers %2</source>
-        <translation type="unfinished"></translation>
+        <translation>En uso: %1, servidores %2</translation>
     </message>
     <message>
         <source>(from %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(de %1)</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconocido</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Descartar notificación</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notificación: %1</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::ShellText</name>
     <message>
         <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>Reglas de división personalizadas sin cambios</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Conectar</translation>
+        <translation>Conectar</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryField</name>
     <message>
         <source>Search for a country, city or location</source>
-        <translation type="unfinished"></translation>
+        <translation>Busca un país, una ciudad o una ubicación</translation>
     </message>
     <message>
         <source>Quick connect search</source>
-        <translation type="unfinished"></translation>
+        <translation>Búsqueda de conexión rápida</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryModel</name>
     <message>
         <source>Recent searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Búsquedas recientes</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicaciones recientes</translation>
     </message>
     <message>
         <source>Type a country, city or location name</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe el nombre de un país, una ciudad o una ubicación</translation>
     </message>
     <message>
         <source>No locations match “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna ubicación coincide con «%1»</translation>
     </message>
     <message>
         <source>%1  ·  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  %2</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryPopup</name>
     <message>
         <source>Search results</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultados de la búsqueda</translation>
     </message>
 </context>
 <context>
     <name>SettingsCard</name>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconocido</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferencias</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicando la configuración...</translation>
     </message>
     <message>
         <source>Changes take effect once the Tovra service confirms them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los cambios se aplican cuando el servicio de Tovra los confirma.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuración</translation>
     </message>
     <message>
         <source>Settings can be changed again once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Podrás volver a cambiar la configuración cuando responda el servicio de Tovra.</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service...</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando al servicio de Tovra...</translation>
     </message>
 </context>
 <context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un puerto: host:puerto, por ejemplo 127.0.0.1:1080.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IPv6 address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una dirección IPv6.</translation>
     </message>
     <message>
         <source>Write an IPv6 address in brackets: [::1]:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>Escribe la dirección IPv6 entre corchetes: [::1]:1080.</translation>
     </message>
     <message>
         <source>Add a host before the port: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un host antes del puerto: host:puerto.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a host name or IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es un nombre de host ni una dirección IP.</translation>
     </message>
     <message>
         <source>Add a port after the colon: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Añade un puerto después de los dos puntos: host:puerto.</translation>
     </message>
     <message>
         <source>The port must be a number from 1 to 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>El puerto debe ser un número entre 1 y 65535.</translation>
     </message>
     <message>
         <source>Enter an API URL, or reset it to the default.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduce una URL de la API o restablece la predeterminada.</translation>
     </message>
     <message>
         <source>The API URL must start with http:// or https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>La URL de la API debe empezar por http:// o https://.</translation>
     </message>
     <message>
         <source>The API URL needs a host, for example https://api.example.com.</source>
-        <translation type="unfinished"></translation>
+        <translation>La URL de la API necesita un host, por ejemplo https://api.example.com.</translation>
     </message>
     <message>
         <source>Enter at least one DNS server, or clear the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Introduce al menos un servidor DNS o vacía la lista.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» no es una dirección IP.</translation>
     </message>
 </context>
 <context>
     <name>SplitOptionsCard</name>
     <message>
         <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige TovraVPN dividido o Tovra Proxy dividido para enviar parte del tráfico directo: por región, mediante la GFWList o con tus propias reglas.</translation>
     </message>
     <message>
         <source>Default route</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta predeterminada</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Directa</translation>
     </message>
     <message>
         <source>Everything not chosen below goes direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que no se elija abajo va directo</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir…</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir regiones</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Regiones</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Reglas de división personalizadas</translation>
     </message>
     <message>
         <source>Edit rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar reglas…</translation>
     </message>
     <message>
         <source>Edit custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Editar las reglas de división personalizadas</translation>
     </message>
     <message>
         <source>Split routing</source>
-        <translation type="unfinished"></translation>
+        <translation>Enrutamiento dividido</translation>
     </message>
     <message>
         <source>TovraVPN Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de TovraVPN dividido</translation>
     </message>
     <message>
         <source>Tovra Proxy Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de Tovra Proxy dividido</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Túnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que no se elija abajo pasa por el túnel</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Todo lo que no se elija abajo pasa por el proxy</translation>
     </message>
     <message>
         <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico va directo salvo que una región, la GFWList o una regla indiquen lo contrario.</translation>
     </message>
     <message>
         <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico pasa por el túnel salvo que una región o una regla lo envíen directo.</translation>
     </message>
     <message>
         <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico pasa por el proxy salvo que una región o una regla lo envíen directo.</translation>
     </message>
     <message>
         <source>No regions chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha elegido ninguna región.</translation>
     </message>
     <message>
         <source>Go direct: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Directo: %1</translation>
     </message>
     <message>
         <source>Go through the tunnel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A través del túnel: %1</translation>
     </message>
     <message>
         <source>Go through the proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A través del proxy: %1</translation>
     </message>
     <message>
         <source>GFWList → Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList → Túnel</translation>
     </message>
     <message>
         <source>GFWList → Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList → Proxy</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los sitios de la GFWList siempre pasan por el túnel.</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los sitios de la GFWList siempre pasan por el proxy.</translation>
     </message>
     <message>
         <source>Your own domain and address lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tus propias listas de dominios y direcciones.</translation>
     </message>
     <message>
         <source>Your own domain and address lists. Rules held: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tus propias listas de dominios y direcciones. Reglas guardadas: %1.</translation>
     </message>
 </context>
 <context>
@@ -2592,7 +2592,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Elegir regiones</translation>
     </message>
     <message>
         <source>Search countries</source>
@@ -2643,7 +2643,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Reglas de división personalizadas</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
@@ -2669,11 +2669,11 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Directa</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Proxy</translation>
     </message>
     <message>
         <source>Block</source>
@@ -2812,7 +2812,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
@@ -2840,7 +2840,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Regiones</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
@@ -2900,7 +2900,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Bloqueado</translation>
     </message>
     <message>
         <source>Local Network</source>
@@ -2912,11 +2912,11 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Directa</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Protegida</translation>
     </message>
     <message>
         <source>Kill Switch</source>
@@ -2996,11 +2996,11 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Túnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Proxy</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
@@ -3044,7 +3044,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ninguno</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
@@ -3303,7 +3303,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Desconocido</translation>
     </message>
     <message>
         <source>Latest</source>
@@ -3520,7 +3520,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Ubicaciones recientes</translation>
     </message>
     <message>
         <source>Clear recent locations</source>

@@ -2330,402 +2330,404 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo iniciar sesión</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cerrar la sesión</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cargar la cuenta</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir la página de renovación</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizando las ubicaciones...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya hay una actualización de ubicaciones en curso</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar el favorito</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron actualizar las ubicaciones</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron actualizar los grupos de ubicaciones</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicaciones actualizadas</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo conectar a esta ubicación</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo conectar</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo desconectar</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cambiar el idioma</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciando Tovra para aplicar el idioma de la interfaz.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo reiniciar Tovra. Reinicia la aplicación manualmente.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cambiar de modo</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar la red local</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar el proxy del sistema</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Espera a que termine la operación en curso</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Elige un modo VPN para activar el Kill Switch</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar el Kill Switch</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reglas de división personalizadas actualizadas, pero no se pudieron volver a cargar</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron cargar las reglas de división</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron importar las reglas de división</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Reglas de división personalizadas actualizadas (%n regla)</numerusform>
+            <numerusform>Reglas de división personalizadas actualizadas (%n reglas)</numerusform>
         </translation>
     </message>
     <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron cargar las rutas de configuración</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar la URL de la API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de la API restablecida al valor predeterminado</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de la API validada y guardada</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de la API guardada, pero sin validar</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar la conexión automática</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar la dirección de escucha del proxy</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección de escucha del proxy guardada para la próxima conexión</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Dirección de escucha del proxy actualizada</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo actualizar el DNS dividido</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS dividido actualizado</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Error en la reparación</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparación completada</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando la compatibilidad del servicio de Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>La interfaz de Tovra y su servicio no son compatibles. Actualiza Tovra antes de continuar.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cargar la versión</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión de la interfaz no está disponible</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo buscar actualizaciones</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra está actualizado</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se está comprobando una actualización obligatoria de Tovra antes de conectar.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminando la última búsqueda de actualizaciones antes de iniciar la descarga...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La información de la actualización no está disponible. Vuelve a buscar actualizaciones.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelando...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo confirmar que la descarga haya empezado. Comprobando su estado...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo iniciar la descarga de la actualización</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo confirmar la cancelación. Reintentando...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer el progreso de la descarga. Reintentando...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descarga terminó antes de poder cancelarla. No se abrió el instalador.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>La actualización se descargó, pero no se pudo abrir el instalador.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descarga corresponde a otra versión de la actualización. Vuelve a buscar actualizaciones.</translation>
     </message>
     <message>
         <source>Could not load kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cargar el Kill Switch</translation>
     </message>
     <message>
         <source>Could not load API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cargar la URL de la API</translation>
     </message>
     <message>
         <source>Could not load split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo cargar el DNS dividido</translation>
     </message>
     <message>
         <source>Could not reach the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo contactar con el servicio de Tovra</translation>
     </message>
     <message>
         <source>Could not load languages</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron cargar los idiomas</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscando actualizaciones...</translation>
     </message>
     <message>
         <source>Tovra %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra %1 está disponible</translation>
     </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Guardar</translation>
+        <translation>Guardar</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished">Elegir regiones</translation>
+        <translation>Elegir regiones</translation>
     </message>
     <message>
         <source>Search countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar países</translation>
     </message>
     <message>
         <source>Countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Países</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico hacia las regiones que marques va directo, fuera del túnel. Todo lo demás pasa por el túnel.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico hacia las regiones que marques va directo, sin pasar por el proxy. Todo lo demás pasa por el proxy.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico hacia las regiones que marques pasa por el túnel. Todo lo demás va directo.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>El tráfico hacia las regiones que marques pasa por el proxy. Todo lo demás va directo.</translation>
     </message>
     <message>
         <source>Checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Marcadas: %1</translation>
     </message>
     <message>
         <source>No country matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún país coincide con «%1».</translation>
     </message>
 </context>
 <context>
     <name>TovraSplitRulesEditorDialog</name>
     <message>
         <source>Rule list</source>
-        <translation type="unfinished"></translation>
+        <translation>Lista de reglas</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished">Reglas de división personalizadas</translation>
+        <translation>Reglas de división personalizadas</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dominio, una dirección IP o un rango CIDR por línea, como example.org, 203.0.113.7 o 10.0.0.0/8. Las líneas que empiezan por # son comentarios.</translation>
     </message>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Reglas</translation>
     </message>
     <message>
         <source>example.org
 *.example.net
 203.0.113.0/24</source>
-        <translation type="unfinished"></translation>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
     </message>
     <message>
         <source>Replace the chosen list with these rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Sustituir la lista elegida por estas reglas</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">Directa</translation>
+        <translation>Directo</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">Proxy</translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquear</translation>
     </message>
     <message>
         <source>Sites and addresses that always go direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitios y direcciones que siempre van directos</translation>
     </message>
     <message>
         <source>Sites and addresses that always go through Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitios y direcciones que siempre pasan por Tovra</translation>
     </message>
     <message>
         <source>Sites and addresses that are blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Sitios y direcciones que se bloquean</translation>
     </message>
     <message>
         <source>Loading rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando reglas…</translation>
     </message>
     <message>
         <source>The Tovra service reports no rule lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servicio de Tovra no indica ninguna lista de reglas.</translation>
     </message>
     <message>
         <source>Rules are not loaded yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las reglas aún no se han cargado.</translation>
     </message>
     <message>
         <source>Rules: %1 · Lines: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Reglas: %1 · Líneas: %2</translation>
     </message>
     <message>
         <source>not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>sin importar</translation>
     </message>
     <message>
         <source>importing…</source>
-        <translation type="unfinished"></translation>
+        <translation>importando…</translation>
     </message>
     <message>
         <source>Nothing was imported. Fix these lines first:</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha importado nada. Corrige primero estas líneas:</translation>
     </message>
     <message>
         <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea %1: «%2» no es un dominio, una dirección IP ni un rango CIDR.</translation>
     </message>
     <message>
         <source>… Bad lines in all: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>… Líneas incorrectas en total: %1.</translation>
     </message>
 </context>
 <context>
@@ -3356,7 +3358,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Cancelando...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>

@@ -2734,495 +2734,495 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: conectando...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: conectando a %1...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Error: %1</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando TovraVPN dividido...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando las regiones de TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando la GFWList de TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN custom rules...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando las reglas personalizadas de TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando Tovra Proxy dividido...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando las regiones de Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando la GFWList de Tovra Proxy...</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>error en la operación</translation>
     </message>
     <message>
         <source>log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>la carpeta de registros</translation>
     </message>
     <message>
         <source>missing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>falta %1</translation>
     </message>
     <message>
         <source>%1 does not exist: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no existe %1: %2</translation>
     </message>
     <message>
         <source>could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>no se pudo abrir %1: %2</translation>
     </message>
     <message>
         <source>Current: loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actual: cargando...</translation>
     </message>
     <message>
         <source>Refresh Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar ubicaciones</translation>
     </message>
     <message>
         <source>Loading nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cargando ubicaciones...</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">Automático</translation>
+        <translation>Automático</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished">WireGuard</translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo: TovraVPN</translation>
     </message>
     <message>
         <source>Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Global</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Dividido</translation>
     </message>
     <message>
         <source>Split Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones de división</translation>
     </message>
     <message>
         <source>Default: Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta predeterminada: túnel</translation>
     </message>
     <message>
         <source>Default: Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta predeterminada: directa</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished">Regiones</translation>
+        <translation>Regiones</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList -&gt; Túnel</translation>
     </message>
     <message>
         <source>Custom Split Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Reglas de división personalizadas</translation>
     </message>
     <message>
         <source>Mode: Tovra Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo: Tovra Proxy</translation>
     </message>
     <message>
         <source>Default: Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruta predeterminada: proxy</translation>
     </message>
     <message>
         <source>GFWList -&gt; Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList -&gt; Proxy</translation>
     </message>
     <message>
         <source>Tovra: starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: iniciando...</translation>
     </message>
     <message>
         <source>Daemon: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Servicio: comprobando...</translation>
     </message>
     <message>
         <source>Open Tovra...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Tovra...</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Conectar</translation>
+        <translation>Conectar</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconectar</translation>
     </message>
     <message>
         <source>Node / Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación</translation>
     </message>
     <message>
         <source>System Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy del sistema</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Desactivado</translation>
+        <translation>Desactivado</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Activado</translation>
+        <translation>Activado</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished">Bloqueado</translation>
+        <translation>Bloqueado</translation>
     </message>
     <message>
         <source>Local Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Red local</translation>
     </message>
     <message>
         <source>LAN Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Acceso a la red local</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">Directa</translation>
+        <translation>Directa</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished">Protegida</translation>
+        <translation>Protegida</translation>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">Kill Switch</translation>
+        <translation>Kill Switch</translation>
     </message>
     <message>
         <source>Refresh Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar estado</translation>
     </message>
     <message>
         <source>Open Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir registros</translation>
     </message>
     <message>
         <source>Account: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta: comprobando...</translation>
     </message>
     <message>
         <source>Logout</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar sesión</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir</translation>
     </message>
     <message>
         <source>Tovra: daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: servicio no disponible</translation>
     </message>
     <message>
         <source>daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>servicio no disponible</translation>
     </message>
     <message>
         <source>Account: unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta: no disponible</translation>
     </message>
     <message>
         <source>Tovra - daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra - servicio no disponible</translation>
     </message>
     <message>
         <source>Tovra: switching to auto...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: cambiando a automático...</translation>
     </message>
     <message>
         <source>Tovra: switching to WireGuard...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: cambiando a WireGuard...</translation>
     </message>
     <message>
         <source>Tovra: switching to TovraVPN...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: cambiando a TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: cambiando TovraVPN dividido...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: cambiando a Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: cambiando a Tovra Proxy dividido...</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>System Proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy del sistema: %1</translation>
     </message>
     <message>
         <source>Local Network: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Red local: %1</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished">Túnel</translation>
+        <translation>Túnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">Proxy</translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Regiones (%1): %2</translation>
     </message>
     <message>
         <source>Could not refresh nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron actualizar las ubicaciones</translation>
     </message>
     <message>
         <source>Could not load nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron cargar las ubicaciones</translation>
     </message>
     <message>
         <source>Could not refresh node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron actualizar los grupos de ubicaciones</translation>
     </message>
     <message>
         <source>Could not load node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron cargar los grupos de ubicaciones</translation>
     </message>
     <message>
         <source>Refreshing nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizando las ubicaciones...</translation>
     </message>
     <message>
         <source>Nodes not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicaciones sin cargar</translation>
     </message>
     <message>
         <source>No cached nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ubicaciones en caché</translation>
     </message>
     <message>
         <source>No nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ubicaciones</translation>
     </message>
     <message>
         <source>Current: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Actual: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">ninguno</translation>
+        <translation>ninguna</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizar ubicaciones (%1 s)</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Location: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación: %1</translation>
     </message>
     <message>
         <source>Location: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación: %1 · %2</translation>
     </message>
     <message>
         <source>Current: %1 (stale)</source>
-        <translation type="unfinished"></translation>
+        <translation>Actual: %1 (desactualizada)</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Grupo</translation>
     </message>
     <message>
         <source>less than 1m</source>
-        <translation type="unfinished"></translation>
+        <translation>menos de 1 min</translation>
     </message>
     <message>
         <source>%1m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1h %2m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d</translation>
     </message>
     <message>
         <source>%1d %2h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 d %2 h</translation>
     </message>
     <message>
         <source>Tovra: disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: desconectando...</translation>
     </message>
     <message>
         <source>Tovra: logging out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: cerrando sesión...</translation>
     </message>
     <message>
         <source>Tovra: updating system proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando el proxy del sistema...</translation>
     </message>
     <message>
         <source>Tovra: updating local network routing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: actualizando el enrutamiento de la red local...</translation>
     </message>
     <message>
         <source>Tovra: enabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: activando el Kill Switch...</translation>
     </message>
     <message>
         <source>Tovra: disabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: desactivando el Kill Switch...</translation>
     </message>
     <message>
         <source>Tovra: connect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: error al conectar</translation>
     </message>
     <message>
         <source>Tovra: disconnect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: error al desconectar</translation>
     </message>
     <message>
         <source>Logged out</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión cerrada</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>error en la operación de la cuenta</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>error en la operación de modo</translation>
     </message>
     <message>
         <source>Mode updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo actualizado</translation>
     </message>
     <message>
         <source>System proxy set to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy del sistema: %1</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizado</translation>
     </message>
     <message>
         <source>Kill switch enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch activado</translation>
     </message>
     <message>
         <source>Kill switch disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch desactivado</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>error en la operación del Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished">conectado</translation>
+        <translation>conectado</translation>
     </message>
     <message>
         <source>disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>desconectado</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>conectando</translation>
     </message>
     <message>
         <source>disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>desconectando</translation>
     </message>
     <message>
         <source>ready</source>
-        <translation type="unfinished"></translation>
+        <translation>listo</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>desconocido</translation>
     </message>
     <message>
         <source>Tovra: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: %1</translation>
     </message>
     <message>
         <source>running</source>
-        <translation type="unfinished"></translation>
+        <translation>en ejecución</translation>
     </message>
     <message>
         <source>Daemon: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Servicio: %1</translation>
     </message>
     <message>
         <source>Daemon: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Servicio: %1 (%2)</translation>
     </message>
     <message>
         <source>Account: cached</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta: en caché</translation>
     </message>
     <message>
         <source>Account: Login Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta: es necesario iniciar sesión</translation>
     </message>
     <message>
         <source>Account: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta: %1</translation>
     </message>
     <message>
         <source>Account: logged in</source>
-        <translation type="unfinished"></translation>
+        <translation>Cuenta: sesión iniciada</translation>
     </message>
     <message>
         <source>Kill Switch: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch: %1</translation>
     </message>
 </context>
 <context>
@@ -3439,7 +3439,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Desconectar</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
@@ -3447,7 +3447,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 · %2</translation>
     </message>
     <message>
         <source>Service unavailable</source>

@@ -3229,342 +3229,343 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <name>UpdateDialog</name>
     <message>
         <source>Could not read the update download status.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo leer el estado de la descarga de la actualización.</translation>
     </message>
     <message>
         <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga cancelada.</translation>
     </message>
     <message>
         <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo descargar la actualización.</translation>
     </message>
     <message>
         <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga completada. Abriendo el instalador...</translation>
     </message>
     <message>
         <source>The download link is unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>El enlace de descarga no está disponible.</translation>
     </message>
     <message>
         <source>Could not open the update download link.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir el enlace de descarga de la actualización.</translation>
     </message>
     <message>
         <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>El enlace de descarga se abrió en el navegador. Tovra no ejecutará el instalador automáticamente.</translation>
     </message>
     <message>
         <source>Tovra Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualización de Tovra</translation>
     </message>
     <message>
         <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Debes actualizar Tovra para poder conectarte. Descarga el instalador o sal de Tovra.</translation>
     </message>
     <message>
         <source>What&apos;s New</source>
-        <translation type="unfinished"></translation>
+        <translation>Novedades</translation>
     </message>
     <message>
         <source>Download progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progreso de la descarga</translation>
     </message>
     <message>
         <source>Hide this update</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar esta actualización</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Ahora no</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de Tovra</translation>
     </message>
     <message>
         <source>Exit Tovra without updating</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de Tovra sin actualizar</translation>
     </message>
     <message>
         <source>Open Download Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir enlace de descarga</translation>
     </message>
     <message>
         <source>Open the Tovra update download link</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir el enlace de descarga de la actualización de Tovra</translation>
     </message>
     <message>
         <source>A required update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una actualización obligatoria disponible</translation>
     </message>
     <message>
         <source>A new Tovra update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay una nueva actualización de Tovra disponible</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished">Desconocido</translation>
+        <translation>Desconocida</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Última</translation>
     </message>
     <message>
         <source>Current version: %1
 Available version: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Versión actual: %1
+Versión disponible: %2</translation>
     </message>
     <message>
         <source>Release notes are unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Las notas de la versión no están disponibles.</translation>
     </message>
     <message>
         <source>Downloading %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando %1 de %2</translation>
     </message>
     <message>
         <source>Downloading update...</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargando la actualización...</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>Preparing the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparando la descarga...</translation>
     </message>
     <message>
         <source>Verifying the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificando la descarga...</translation>
     </message>
     <message>
         <source>Canceling the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelando la descarga...</translation>
     </message>
     <message>
         <source>Download in Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar en segundo plano</translation>
     </message>
     <message>
         <source>Download the latest installer without interrupting your current session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Descarga el instalador más reciente sin interrumpir tu sesión actual.</translation>
     </message>
     <message>
         <source>Hide this window while the update downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Ocultar esta ventana mientras se descarga la actualización</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished">Cancelando...</translation>
+        <translation>Cancelando...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar la descarga de la actualización</translation>
     </message>
     <message>
         <source>Cancel Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar descarga</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abriendo el instalador...</translation>
     </message>
     <message>
         <source>Retry Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Reintentar descarga</translation>
     </message>
     <message>
         <source>Retry the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Reintentar la descarga de la actualización</translation>
     </message>
     <message>
         <source>Download Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar actualización</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar e instalar la actualización de Tovra</translation>
     </message>
 </context>
 <context>
     <name>UpdatesSection</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualizaciones</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar actualizaciones</translation>
     </message>
     <message>
         <source>Tovra for Linux</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra para Linux</translation>
     </message>
     <message>
         <source>The version of this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>La versión de esta aplicación.</translation>
     </message>
     <message>
         <source>Ask the Tovra service for a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pide al servicio de Tovra una versión más reciente.</translation>
     </message>
     <message>
         <source>%1 (build %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (compilación %2)</translation>
     </message>
 </context>
 <context>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">Kill Switch</translation>
+        <translation>Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Conectar</translation>
+        <translation>Conectar</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished">Iniciar sesión</translation>
+        <translation>Iniciar sesión</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Cancelar</translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished">Desconectar</translation>
+        <translation>Desconectar</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconectando…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished">%1 · %2</translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Service unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Servicio no disponible</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando a que responda el servicio de Tovra.</translation>
     </message>
     <message>
         <source>Signed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Sesión cerrada</translation>
     </message>
     <message>
         <source>Sign in to your Tovra account to connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicia sesión con tu cuenta de Tovra para conectarte.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Ubicación</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished">Última ubicación</translation>
+        <translation>Última ubicación</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado</translation>
     </message>
     <message>
         <source>Your traffic goes through the Tovra tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tu tráfico pasa por el túnel de Tovra.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando…</translation>
     </message>
     <message>
         <source>Setting up the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Estableciendo el túnel.</translation>
     </message>
     <message>
         <source>Connecting to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando a %1</translation>
     </message>
     <message>
         <source>Closing the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrando el túnel.</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Desconectado</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>El Kill Switch bloquea el tráfico hasta que te conectes.</translation>
     </message>
     <message>
         <source>Your traffic is not protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tu tráfico no está protegido.</translation>
     </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar</translation>
     </message>
     <message>
         <source>Locations you connect to appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aquí aparecerán las ubicaciones a las que te conectes.</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished">Ubicaciones recientes</translation>
+        <translation>Ubicaciones recientes</translation>
     </message>
     <message>
         <source>Clear recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Borrar las ubicaciones recientes</translation>
     </message>
     <message>
         <source>Connect to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectar a %1</translation>
     </message>
 </context>
 <context>
     <name>VpnStatusCard</name>
     <message>
         <source>Connected for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectado durante %1</translation>
     </message>
     <message>
         <source>Mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir el enlace</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de registros no está disponible</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de registros no existe: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudo abrir la carpeta de registros: %1</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished">Error en la operación de la cuenta</translation>
+        <translation>Error en la operación de la cuenta</translation>
     </message>
 </context>
 </TS>

@@ -102,7 +102,7 @@
     </message>
     <message>
         <source>Launch at login</source>
-        <translation>Iniciar al acceder</translation>
+        <translation>Abrir al iniciar sesión</translation>
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>Could not update login startup</source>
-        <translation>No se pudo actualizar el inicio al acceder</translation>
+        <translation>No se pudo actualizar el inicio automático</translation>
     </message>
 </context>
 <context>
@@ -189,7 +189,7 @@
     </message>
     <message>
         <source>not in your plan</source>
-        <translation>no incluido en tu plan</translation>
+        <translation>fuera de tu plan</translation>
     </message>
     <message>
         <source>Your plan does not include this location. Upgrade to use it.</source>
@@ -278,7 +278,7 @@
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation>Acceso denegado al servicio de Tovra. Añade este usuario al grupo tovracli y vuelve a iniciar sesión.</translation>
+        <translation>Acceso denegado al servicio de Tovra. Añade este usuario al grupo tovracli, cierra la sesión y vuelve a iniciarla.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
@@ -1232,7 +1232,7 @@
     </message>
     <message>
         <source>Runtime</source>
-        <translation>Ejecución</translation>
+        <translation>Datos de ejecución</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -1296,7 +1296,7 @@
     </message>
     <message>
         <source>Copy %1 path</source>
-        <translation>Copiar la ruta de %1</translation>
+        <translation>Copiar ruta: %1</translation>
     </message>
     <message>
         <source>Service paths</source>
@@ -1331,27 +1331,27 @@
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation>El inicio al acceder no es compatible con esta plataforma.</translation>
+        <translation>El inicio automático no es compatible con esta plataforma.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation>No se pudo encontrar el ejecutable de Tovra para el inicio al acceder.</translation>
+        <translation>No se pudo encontrar el ejecutable de Tovra para el inicio automático.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation>No se pudo preparar la carpeta de inicio al acceder.</translation>
+        <translation>No se pudo preparar la carpeta de inicio automático.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation>No se pudo actualizar el inicio de Tovra al acceder.</translation>
+        <translation>No se pudo actualizar el inicio automático de Tovra.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation>No se pudo proteger el inicio de Tovra al acceder.</translation>
+        <translation>No se pudo proteger el inicio automático de Tovra.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation>No se pudo quitar Tovra del inicio al acceder.</translation>
+        <translation>No se pudo quitar Tovra del inicio automático.</translation>
     </message>
 </context>
 <context>
@@ -1520,7 +1520,7 @@
     </message>
     <message>
         <source>Tovra restarts to show the new language.</source>
-        <translation>Tovra se reinicia para mostrar el nuevo idioma.</translation>
+        <translation>Tovra se reiniciará para mostrar el nuevo idioma.</translation>
     </message>
     <message>
         <source>Search languages</source>
@@ -1558,7 +1558,7 @@ Las ubicaciones aparecerán aquí en cuanto responda.</translation>
         <source>The service has no locations to offer right now.
 Try Refresh in a moment.</source>
         <translation>El servicio no ofrece ninguna ubicación por ahora.
-Prueba a actualizar dentro de un momento.</translation>
+Prueba con Actualizar dentro de un momento.</translation>
     </message>
     <message>
         <source>No favourites yet.
@@ -1601,7 +1601,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>
-        <translation>%1 no está incluida en tu plan. Mejora tu plan para usarla.</translation>
+        <translation>Tu plan no incluye %1. Mejora tu plan para usar esta ubicación.</translation>
     </message>
     <message>
         <source>Location actions</source>
@@ -3309,7 +3309,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation>Última</translation>
+        <translation>La más reciente</translation>
     </message>
     <message>
         <source>Current version: %1
@@ -3538,7 +3538,7 @@ Versión disponible: %2</translation>
     <name>VpnStatusCard</name>
     <message>
         <source>Connected for %1</source>
-        <translation>Conectado durante %1</translation>
+        <translation>Conectado desde hace %1</translation>
     </message>
     <message>
         <source>Mode: %1</source>

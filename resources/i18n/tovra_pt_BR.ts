@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Signed in</source>
-        <translation>Conectado à conta</translation>
+        <translation>Sessão iniciada</translation>
     </message>
     <message>
         <source>User ID: %1</source>
@@ -102,7 +102,7 @@
     </message>
     <message>
         <source>Launch at login</source>
-        <translation>Iniciar com a sessão</translation>
+        <translation>Abrir ao iniciar a sessão</translation>
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
@@ -150,7 +150,7 @@
     </message>
     <message>
         <source>Could not update login startup</source>
-        <translation>Não foi possível atualizar a inicialização com a sessão</translation>
+        <translation>Não foi possível atualizar a inicialização automática</translation>
     </message>
 </context>
 <context>
@@ -1232,7 +1232,7 @@
     </message>
     <message>
         <source>Runtime</source>
-        <translation>Execução</translation>
+        <translation>Dados de execução</translation>
     </message>
     <message>
         <source>Logs</source>
@@ -1296,7 +1296,7 @@
     </message>
     <message>
         <source>Copy %1 path</source>
-        <translation>Copiar caminho de %1</translation>
+        <translation>Copiar caminho: %1</translation>
     </message>
     <message>
         <source>Service paths</source>
@@ -1331,27 +1331,27 @@
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation>A inicialização com a sessão não é suportada nesta plataforma.</translation>
+        <translation>A inicialização automática não é suportada nesta plataforma.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation>Não foi possível localizar o executável do Tovra para a inicialização com a sessão.</translation>
+        <translation>Não foi possível localizar o executável do Tovra para a inicialização automática.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation>Não foi possível preparar a pasta de inicialização com a sessão.</translation>
+        <translation>Não foi possível preparar a pasta de inicialização automática.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation>Não foi possível atualizar a inicialização do Tovra com a sessão.</translation>
+        <translation>Não foi possível atualizar a inicialização automática do Tovra.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation>Não foi possível proteger a inicialização do Tovra com a sessão.</translation>
+        <translation>Não foi possível proteger a inicialização automática do Tovra.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation>Não foi possível remover o Tovra da inicialização com a sessão.</translation>
+        <translation>Não foi possível remover o Tovra da inicialização automática.</translation>
     </message>
 </context>
 <context>
@@ -1558,7 +1558,7 @@ As localizações aparecerão aqui assim que ele responder.</translation>
         <source>The service has no locations to offer right now.
 Try Refresh in a moment.</source>
         <translation>O serviço não tem localizações disponíveis no momento.
-Tente atualizar daqui a pouco.</translation>
+Tente Atualizar daqui a pouco.</translation>
     </message>
     <message>
         <source>No favourites yet.
@@ -1601,7 +1601,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>
-        <translation>%1 não está incluída no seu plano. Faça upgrade para usá-la.</translation>
+        <translation>Seu plano não inclui %1. Faça upgrade para usar esta localização.</translation>
     </message>
     <message>
         <source>Location actions</source>
@@ -3130,7 +3130,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Logged out</source>
-        <translation>Você saiu da conta</translation>
+        <translation>Sessão encerrada</translation>
     </message>
     <message>
         <source>account operation failed</source>
@@ -3218,7 +3218,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Account: logged in</source>
-        <translation>Conta: conectada</translation>
+        <translation>Conta: sessão iniciada</translation>
     </message>
     <message>
         <source>Kill Switch: %1</source>
@@ -3460,7 +3460,7 @@ Versão disponível: %2</translation>
     </message>
     <message>
         <source>Signed out</source>
-        <translation>Desconectado da conta</translation>
+        <translation>Sessão encerrada</translation>
     </message>
     <message>
         <source>Sign in to your Tovra account to connect.</source>

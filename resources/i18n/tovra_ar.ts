@@ -5,288 +5,288 @@
     <name>AccountPage</name>
     <message>
         <source>Enter account and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>أدخل الحساب وكلمة المرور.</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية الحساب</translation>
     </message>
 </context>
 <context>
     <name>AccountSignInCard</name>
     <message>
         <source>Remember this account</source>
-        <translation type="unfinished"></translation>
+        <translation>تذكّر هذا الحساب</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>تسجيل الدخول</translation>
     </message>
     <message>
         <source>Sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>تسجيل الدخول</translation>
     </message>
     <message>
         <source>Use your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <translation>استخدم حساب Tovra للاتصال ومزامنة المواقع المتاحة.</translation>
     </message>
     <message>
         <source>Email or user ID</source>
-        <translation type="unfinished"></translation>
+        <translation>البريد الإلكتروني أو معرّف المستخدم</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>كلمة المرور</translation>
     </message>
     <message>
         <source>Sign Up</source>
-        <translation type="unfinished"></translation>
+        <translation>إنشاء حساب</translation>
     </message>
     <message>
         <source>Forgot password?</source>
-        <translation type="unfinished"></translation>
+        <translation>هل نسيت كلمة المرور؟</translation>
     </message>
     <message>
         <source>Signing in...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تسجيل الدخول...</translation>
     </message>
 </context>
 <context>
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
-        <translation type="unfinished"></translation>
+        <translation>تجديد</translation>
     </message>
     <message>
         <source>Sign Out</source>
-        <translation type="unfinished"></translation>
+        <translation>تسجيل الخروج</translation>
     </message>
     <message>
         <source>Signed in</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تسجيل الدخول</translation>
     </message>
     <message>
         <source>User ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>معرّف المستخدم: %1</translation>
     </message>
     <message>
         <source>Plan: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الخطة: %1</translation>
     </message>
     <message>
         <source>Days left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الأيام المتبقية: %1</translation>
     </message>
     <message>
         <source>Max simultaneous devices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الحد الأقصى للأجهزة المتزامنة: %1</translation>
     </message>
     <message>
         <source>Signing out...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تسجيل الخروج...</translation>
     </message>
     <message>
         <source>Opening…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الفتح…</translation>
     </message>
 </context>
 <context>
     <name>AppSection</name>
     <message>
         <source>App</source>
-        <translation type="unfinished"></translation>
+        <translation>التطبيق</translation>
     </message>
     <message>
         <source>Change…</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير…</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل عند تسجيل الدخول</translation>
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل Tovra في شريط المهام عند تسجيل الدخول إلى سطح المكتب.</translation>
     </message>
     <message>
         <source>Show window at launch</source>
-        <translation type="unfinished"></translation>
+        <translation>إظهار النافذة عند التشغيل</translation>
     </message>
     <message>
         <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح هذه النافذة عند بدء Tovra؛ وإلا تظهر أيقونة شريط المهام فقط.</translation>
     </message>
     <message>
         <source>Same as desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>مثل سطح المكتب</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>فاتح</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>داكن</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>المظهر</translation>
     </message>
     <message>
         <source>Light, dark, or following the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>فاتح أو داكن أو حسب سطح المكتب.</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>تغيير اللغة</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>اللغة</translation>
     </message>
     <message>
         <source>%1, following the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، حسب سطح المكتب</translation>
     </message>
     <message>
         <source>Could not update login startup</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث التشغيل عند تسجيل الدخول</translation>
     </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
     <message>
         <source>Location %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الموقع %1</translation>
     </message>
     <message>
         <source>Other locations</source>
-        <translation type="unfinished"></translation>
+        <translation>مواقع أخرى</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>مميّز</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع: %1</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>latency not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُقَس زمن الاستجابة</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>مفضّل</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>not in your plan</source>
-        <translation type="unfinished"></translation>
+        <translation>غير مشمول في خطتك</translation>
     </message>
     <message>
         <source>Your plan does not include this location. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تشمل خطتك هذا الموقع. قم بالترقية لاستخدامه.</translation>
     </message>
     <message>
         <source>This list may be out of date.</source>
-        <translation type="unfinished"></translation>
+        <translation>قد تكون هذه القائمة قديمة.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
 </context>
 <context>
     <name>ConnectionSection</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال</translation>
     </message>
     <message>
         <source>API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>عنوان URL لواجهة API</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>استعادة الافتراضي</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">إيقاف</translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation>آخر موقع</translation>
     </message>
     <message>
         <source>Fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>أسرع موقع</translation>
     </message>
     <message>
         <source>Auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال التلقائي</translation>
     </message>
     <message>
         <source>What the Tovra service connects to when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>ما تتصل به خدمة Tovra عند بدء تشغيلها.</translation>
     </message>
     <message>
         <source>Save API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ عنوان URL لواجهة API</translation>
     </message>
     <message>
         <source>Reset API URL to default</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة عنوان URL لواجهة API إلى الافتراضي</translation>
     </message>
     <message>
         <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
-        <translation type="unfinished"></translation>
+        <translation>العنوان الذي تصل عبره خدمة Tovra إلى خوادم الحسابات والمواقع. لا تغيّره إلا إذا طلب منك الدعم ذلك.</translation>
     </message>
     <message>
         <source>Validation: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق: %1</translation>
     </message>
     <message>
         <source>Validated by the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>تحققت منه خدمة Tovra</translation>
     </message>
     <message>
         <source>Not validated: the Tovra service saved this address but could not confirm it</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يتم التحقق: حفظت خدمة Tovra هذا العنوان لكنها لم تتمكن من تأكيده</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>خدمة Tovra لا تعمل.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>تم رفض الوصول إلى خدمة Tovra. أضف هذا المستخدم إلى مجموعة tovracli، ثم سجّل الخروج وسجّل الدخول مجددًا.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الاتصال بخدمة Tovra.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>خدمة Tovra قديمة جدًا ولا تدعم أوضاع مفتاح الإيقاف. حدّث Tovra.</translation>
     </message>
 </context>
 <context>
@@ -1228,130 +1228,130 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>التكوين</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>وقت التشغيل</translation>
     </message>
     <message>
         <source>Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>السجلات</translation>
     </message>
     <message>
         <source>State file</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف الحالة</translation>
     </message>
     <message>
         <source>Credentials key</source>
-        <translation type="unfinished"></translation>
+        <translation>مفتاح بيانات الاعتماد</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>السجل التاريخي</translation>
     </message>
     <message>
         <source>Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>الملفات الشخصية</translation>
     </message>
     <message>
         <source>Control socket</source>
-        <translation type="unfinished"></translation>
+        <translation>مقبس التحكم</translation>
     </message>
     <message>
         <source>PID file</source>
-        <translation type="unfinished"></translation>
+        <translation>ملف PID</translation>
     </message>
     <message>
         <source>Control address</source>
-        <translation type="unfinished"></translation>
+        <translation>عنوان التحكم</translation>
     </message>
     <message>
         <source>Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>التشخيص</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>إصلاح</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح السجلات</translation>
     </message>
     <message>
         <source>Repair connection</source>
-        <translation type="unfinished"></translation>
+        <translation>إصلاح الاتصال</translation>
     </message>
     <message>
         <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
-        <translation type="unfinished"></translation>
+        <translation>يعيد ضبط مفتاح الإيقاف والوكيل المحلي والنفق عند توقف حركة المرور.</translation>
     </message>
     <message>
         <source>The Tovra service&apos;s log folder, for support.</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد سجلات خدمة Tovra، لأغراض الدعم.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخ مسار %1</translation>
     </message>
     <message>
         <source>Service paths</source>
-        <translation type="unfinished"></translation>
+        <translation>مسارات الخدمة</translation>
     </message>
     <message>
         <source>Where the Tovra service keeps its files.</source>
-        <translation type="unfinished"></translation>
+        <translation>المواضع التي تحفظ فيها خدمة Tovra ملفاتها.</translation>
     </message>
     <message>
         <source>Tovra service version</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار خدمة Tovra</translation>
     </message>
     <message>
         <source>Control protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>بروتوكول التحكم</translation>
     </message>
     <message>
         <source>This app speaks version 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>يستخدم هذا التطبيق الإصدار 1.</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معيّن</translation>
     </message>
     <message>
         <source>%1, not compatible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، غير متوافق</translation>
     </message>
 </context>
 <context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل عند تسجيل الدخول غير مدعوم على هذا النظام.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر العثور على ملف Tovra التنفيذي للتشغيل عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تجهيز مجلد التشغيل عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث تشغيل Tovra عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تأمين تشغيل Tovra عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت إزالة Tovra من التشغيل عند تسجيل الدخول.</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1362,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>إقفال تام</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>الإقفال التام غير متاح</translation>
     </message>
     <message>
         <source>On</source>
@@ -1378,168 +1378,168 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>يتطلب مفتاح الإيقاف وضع VPN</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يعمل مفتاح الإيقاف في وضع Tovra Proxy. انتقل إلى الوضع التلقائي (موصى به) أو TovraVPN أو WireGuard لتفعيله.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>التبديل إلى التلقائي والتفعيل</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>التبديل إلى الوضع التلقائي وتفعيل مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار الوضع…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر وضعًا لمفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>يتطلب Tovra Proxy إيقاف مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحظر مفتاح الإيقاف Tovra Proxy. أوقف مفتاح الإيقاف من الإعدادات أولًا، ثم بدّل الوضع.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الإعدادات</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الإعدادات لإيقاف مفتاح الإيقاف</translation>
     </message>
 </context>
 <context>
     <name>KillSwitchSection</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Block traffic outside the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>حظر حركة المرور خارج النفق</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">تلقائي</translation>
+        <translation>تلقائي</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحظر حركة المرور خارج النفق أثناء اتصال Tovra أو أثناء الاتصال.</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>دائمًا</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحظر حركة المرور خارج النفق طالما مفتاح الإيقاف مفعّل، حتى عند قطع الاتصال.</translation>
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>إقفال تام</translation>
     </message>
     <message>
         <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>تم ضبطه من خدمة Tovra: تبقى حركة المرور خارج النفق محظورة ولا يمكن إيقاف مفتاح الإيقاف من هنا.</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>الوضع</translation>
     </message>
     <message>
         <source>When Kill Switch blocks traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>متى يحظر مفتاح الإيقاف حركة المرور.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة المحلية</translation>
     </message>
     <message>
         <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>ما إذا كانت الطابعات والمجلدات المشتركة والأجهزة القريبة الأخرى تبقى قابلة للوصول أثناء حظر حركة المرور.</translation>
     </message>
     <message>
         <source>Kill Switch mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع مفتاح الإيقاف: %1</translation>
     </message>
     <message>
         <source>Now: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الآن: %1</translation>
     </message>
     <message>
         <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. تُبقي خدمة Tovra مفتاح الإيقاف مفعّلًا؛ ولا يمكن إيقافه من هنا.</translation>
     </message>
     <message>
         <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy قيد الاستخدام: يتطلب مفتاح الإيقاف وضع VPN.</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>قابلة للوصول</translation>
     </message>
     <message>
         <source>Blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>محظورة</translation>
     </message>
 </context>
 <context>
     <name>LanguagePickerDialog</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>اللغة</translation>
     </message>
     <message>
         <source>Use system language</source>
-        <translation type="unfinished"></translation>
+        <translation>استخدام لغة النظام</translation>
     </message>
     <message>
         <source>Use system language (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>استخدام لغة النظام (%1)</translation>
     </message>
     <message>
         <source>Follow the desktop&apos;s language</source>
-        <translation type="unfinished"></translation>
+        <translation>اتباع لغة سطح المكتب</translation>
     </message>
     <message>
         <source>Choose a language</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر لغة</translation>
     </message>
     <message>
         <source>Tovra restarts to show the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>يُعاد تشغيل Tovra لعرض اللغة الجديدة.</translation>
     </message>
     <message>
         <source>Search languages</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث في اللغات</translation>
     </message>
     <message>
         <source>Languages</source>
-        <translation type="unfinished"></translation>
+        <translation>اللغات</translation>
     </message>
     <message>
         <source>Use language</source>
-        <translation type="unfinished"></translation>
+        <translation>استخدام اللغة</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ms</translation>
     </message>
 </context>
 <context>
@@ -1660,7 +1660,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مميّز</translation>
     </message>
     <message>
         <source>Favourites</source>
@@ -1831,7 +1831,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">الوضع</translation>
     </message>
     <message>
         <source>VPN</source>
@@ -1850,7 +1850,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">الشبكة المحلية</translation>
     </message>
     <message>
         <source>System proxy</source>
@@ -1977,7 +1977,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">الشبكة المحلية</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
@@ -2121,7 +2121,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">إلغاء</translation>
     </message>
     <message>
         <source>Preferences</source>
@@ -2588,7 +2588,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">حفظ</translation>
     </message>
     <message>
         <source>Choose regions</source>
@@ -2604,7 +2604,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">إلغاء</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
@@ -2920,7 +2920,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Refresh Status</source>
@@ -3164,7 +3164,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">متصل</translation>
     </message>
     <message>
         <source>disconnected</source>
@@ -3418,7 +3418,7 @@ Available version: %2</source>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مفتاح الإيقاف</translation>
     </message>
 </context>
 <context>
@@ -3429,11 +3429,11 @@ Available version: %2</source>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">تسجيل الدخول</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">إلغاء</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -3469,7 +3469,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">آخر موقع</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -3562,7 +3562,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">فشلت عملية الحساب</translation>
     </message>
 </context>
 </TS>

@@ -5,288 +5,288 @@
     <name>AccountPage</name>
     <message>
         <source>Enter account and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب و گذرواژه را وارد کنید.</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات حساب ناموفق بود</translation>
     </message>
 </context>
 <context>
     <name>AccountSignInCard</name>
     <message>
         <source>Remember this account</source>
-        <translation type="unfinished"></translation>
+        <translation>این حساب را به خاطر بسپار</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>ورود</translation>
     </message>
     <message>
         <source>Sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>ورود</translation>
     </message>
     <message>
         <source>Use your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <translation>با حساب Tovra خود وصل شوید و مکان‌های در دسترس را همگام کنید.</translation>
     </message>
     <message>
         <source>Email or user ID</source>
-        <translation type="unfinished"></translation>
+        <translation>ایمیل یا شناسهٔ کاربری</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>گذرواژه</translation>
     </message>
     <message>
         <source>Sign Up</source>
-        <translation type="unfinished"></translation>
+        <translation>ثبت‌نام</translation>
     </message>
     <message>
         <source>Forgot password?</source>
-        <translation type="unfinished"></translation>
+        <translation>گذرواژه را فراموش کرده‌اید؟</translation>
     </message>
     <message>
         <source>Signing in...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال ورود...</translation>
     </message>
 </context>
 <context>
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
-        <translation type="unfinished"></translation>
+        <translation>تمدید</translation>
     </message>
     <message>
         <source>Sign Out</source>
-        <translation type="unfinished"></translation>
+        <translation>خروج</translation>
     </message>
     <message>
         <source>Signed in</source>
-        <translation type="unfinished"></translation>
+        <translation>وارد شده‌اید</translation>
     </message>
     <message>
         <source>User ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>شناسهٔ کاربری: %1</translation>
     </message>
     <message>
         <source>Plan: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>طرح: %1</translation>
     </message>
     <message>
         <source>Days left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>روزهای باقی‌مانده: %1</translation>
     </message>
     <message>
         <source>Max simultaneous devices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حداکثر دستگاه‌های هم‌زمان: %1</translation>
     </message>
     <message>
         <source>Signing out...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال خروج...</translation>
     </message>
     <message>
         <source>Opening…</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال باز کردن…</translation>
     </message>
 </context>
 <context>
     <name>AppSection</name>
     <message>
         <source>App</source>
-        <translation type="unfinished"></translation>
+        <translation>برنامه</translation>
     </message>
     <message>
         <source>Change…</source>
-        <translation type="unfinished"></translation>
+        <translation>تغییر…</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>اجرا هنگام ورود به سیستم</translation>
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra هنگام ورود به میز کار در سینی سیستم اجرا شود.</translation>
     </message>
     <message>
         <source>Show window at launch</source>
-        <translation type="unfinished"></translation>
+        <translation>نمایش پنجره هنگام اجرا</translation>
     </message>
     <message>
         <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>این پنجره هنگام اجرای Tovra باز شود؛ در غیر این صورت فقط نماد سینی سیستم نمایش داده می‌شود.</translation>
     </message>
     <message>
         <source>Same as desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>مانند میز کار</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>روشن</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>تیره</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>ظاهر</translation>
     </message>
     <message>
         <source>Light, dark, or following the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>روشن، تیره یا پیروی از میز کار.</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>تغییر زبان</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>زبان</translation>
     </message>
     <message>
         <source>%1, following the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، پیروی از میز کار</translation>
     </message>
     <message>
         <source>Could not update login startup</source>
-        <translation type="unfinished"></translation>
+        <translation>اجرا هنگام ورود به سیستم به‌روز نشد</translation>
     </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
     <message>
         <source>Location %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان %1</translation>
     </message>
     <message>
         <source>Other locations</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌های دیگر</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>ویژه</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌ها: %1</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>latency not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>تأخیر اندازه‌گیری نشده</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>علاقه‌مندی</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>وصل</translation>
     </message>
     <message>
         <source>not in your plan</source>
-        <translation type="unfinished"></translation>
+        <translation>در طرح شما نیست</translation>
     </message>
     <message>
         <source>Your plan does not include this location. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>طرح شما این مکان را شامل نمی‌شود. برای استفاده از آن، طرح خود را ارتقا دهید.</translation>
     </message>
     <message>
         <source>This list may be out of date.</source>
-        <translation type="unfinished"></translation>
+        <translation>ممکن است این فهرست قدیمی باشد.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>لغو</translation>
     </message>
 </context>
 <context>
     <name>ConnectionSection</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال</translation>
     </message>
     <message>
         <source>API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی API</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>ذخیره</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>بازنشانی به پیش‌فرض</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>خاموش</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation>آخرین مکان</translation>
     </message>
     <message>
         <source>Fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>سریع‌ترین مکان</translation>
     </message>
     <message>
         <source>Auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال خودکار</translation>
     </message>
     <message>
         <source>What the Tovra service connects to when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس Tovra هنگام شروع به کجا وصل شود.</translation>
     </message>
     <message>
         <source>Save API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>ذخیرهٔ نشانی API</translation>
     </message>
     <message>
         <source>Reset API URL to default</source>
-        <translation type="unfinished"></translation>
+        <translation>بازنشانی نشانی API به پیش‌فرض</translation>
     </message>
     <message>
         <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی‌ای که سرویس Tovra از طریق آن به سرورهای حساب و مکان‌ها دسترسی پیدا می‌کند. فقط وقتی پشتیبانی از شما خواست آن را تغییر دهید.</translation>
     </message>
     <message>
         <source>Validation: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>اعتبارسنجی: %1</translation>
     </message>
     <message>
         <source>Validated by the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>تأییدشده توسط سرویس Tovra</translation>
     </message>
     <message>
         <source>Not validated: the Tovra service saved this address but could not confirm it</source>
-        <translation type="unfinished"></translation>
+        <translation>تأیید نشده: سرویس Tovra این نشانی را ذخیره کرد اما نتوانست آن را تأیید کند</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس Tovra در حال اجرا نیست.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>دسترسی به سرویس Tovra رد شد. این کاربر را به گروه tovracli اضافه کنید، سپس از سیستم خارج شوید و دوباره وارد شوید.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال به سرویس Tovra ممکن نشد.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس Tovra برای حالت‌های قطع اضطراری بیش از حد قدیمی است. Tovra را به‌روزرسانی کنید.</translation>
     </message>
 </context>
 <context>
@@ -1228,318 +1228,318 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>پیکربندی</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>زمان اجرا</translation>
     </message>
     <message>
         <source>Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>گزارش‌ها</translation>
     </message>
     <message>
         <source>State file</source>
-        <translation type="unfinished"></translation>
+        <translation>پروندهٔ وضعیت</translation>
     </message>
     <message>
         <source>Credentials key</source>
-        <translation type="unfinished"></translation>
+        <translation>کلید اعتبارنامه‌ها</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>تاریخچه</translation>
     </message>
     <message>
         <source>Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>نمایه‌ها</translation>
     </message>
     <message>
         <source>Control socket</source>
-        <translation type="unfinished"></translation>
+        <translation>سوکت کنترل</translation>
     </message>
     <message>
         <source>PID file</source>
-        <translation type="unfinished"></translation>
+        <translation>پروندهٔ PID</translation>
     </message>
     <message>
         <source>Control address</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی کنترل</translation>
     </message>
     <message>
         <source>Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>عیب‌یابی</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>تعمیر</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن گزارش‌ها</translation>
     </message>
     <message>
         <source>Repair connection</source>
-        <translation type="unfinished"></translation>
+        <translation>تعمیر اتصال</translation>
     </message>
     <message>
         <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
-        <translation type="unfinished"></translation>
+        <translation>وقتی ترافیک گیر کرده است، قطع اضطراری، پراکسی محلی و تونل را بازنشانی می‌کند.</translation>
     </message>
     <message>
         <source>The Tovra service&apos;s log folder, for support.</source>
-        <translation type="unfinished"></translation>
+        <translation>پوشهٔ گزارش‌های سرویس Tovra، برای پشتیبانی.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>رونوشت</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
-        <translation type="unfinished"></translation>
+        <translation>رونوشت از مسیر %1</translation>
     </message>
     <message>
         <source>Service paths</source>
-        <translation type="unfinished"></translation>
+        <translation>مسیرهای سرویس</translation>
     </message>
     <message>
         <source>Where the Tovra service keeps its files.</source>
-        <translation type="unfinished"></translation>
+        <translation>جایی که سرویس Tovra پرونده‌هایش را نگه می‌دارد.</translation>
     </message>
     <message>
         <source>Tovra service version</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخهٔ سرویس Tovra</translation>
     </message>
     <message>
         <source>Control protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>پروتکل کنترل</translation>
     </message>
     <message>
         <source>This app speaks version 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>این برنامه از نسخهٔ 1 استفاده می‌کند.</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیم نشده</translation>
     </message>
     <message>
         <source>%1, not compatible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1، ناسازگار</translation>
     </message>
 </context>
 <context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>اجرا هنگام ورود به سیستم در این سکو پشتیبانی نمی‌شود.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>پروندهٔ اجرایی Tovra برای اجرا هنگام ورود به سیستم پیدا نشد.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>آماده‌سازی پوشهٔ اجرا هنگام ورود به سیستم ممکن نشد.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>اجرای Tovra هنگام ورود به سیستم به‌روز نشد.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>ایمن‌سازی اجرای Tovra هنگام ورود به سیستم ممکن نشد.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف Tovra از اجرا هنگام ورود به سیستم ممکن نشد.</translation>
     </message>
 </context>
 <context>
     <name>KillSwitchConfirm</name>
     <message>
         <source>Unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>در دسترس نیست</translation>
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>قفل کامل</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>قفل کامل در دسترس نیست</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation>روشن</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation>خاموش</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری به حالت VPN نیاز دارد</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری در Tovra Proxy کار نمی‌کند. برای روشن کردن آن به حالت خودکار (پیشنهادی)، TovraVPN یا WireGuard بروید.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>رفتن به خودکار و روشن کردن</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>رفتن به حالت خودکار و روشن کردن قطع اضطراری</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>انتخاب حالت…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>یک حالت برای قطع اضطراری انتخاب کنید</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>لغو</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy به خاموش بودن قطع اضطراری نیاز دارد</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری جلوی Tovra Proxy را می‌گیرد. ابتدا قطع اضطراری را در تنظیمات خاموش کنید، سپس حالت را عوض کنید.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن تنظیمات</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن تنظیمات برای خاموش کردن قطع اضطراری</translation>
     </message>
 </context>
 <context>
     <name>KillSwitchSection</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری</translation>
     </message>
     <message>
         <source>Block traffic outside the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>مسدود کردن ترافیک خارج از تونل</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation>خودکار</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>تا وقتی Tovra وصل است یا در حال اتصال است، ترافیک خارج از تونل را مسدود می‌کند.</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>همیشه</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>تا وقتی قطع اضطراری روشن است، ترافیک خارج از تونل را مسدود می‌کند، حتی وقتی اتصال قطع است.</translation>
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>قفل کامل</translation>
     </message>
     <message>
         <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیم‌شده توسط سرویس Tovra: ترافیک خارج از تونل مسدود می‌ماند و قطع اضطراری را نمی‌توان از اینجا خاموش کرد.</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت</translation>
     </message>
     <message>
         <source>When Kill Switch blocks traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری چه زمانی ترافیک را مسدود کند.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>شبکهٔ محلی</translation>
     </message>
     <message>
         <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>اینکه چاپگرها، پوشه‌های اشتراکی و دیگر دستگاه‌های نزدیک هنگام مسدود بودن ترافیک در دسترس بمانند یا نه.</translation>
     </message>
     <message>
         <source>Kill Switch mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت قطع اضطراری: %1</translation>
     </message>
     <message>
         <source>Now: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>اکنون: %1</translation>
     </message>
     <message>
         <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. سرویس Tovra قطع اضطراری را روشن نگه می‌دارد؛ نمی‌توان آن را از اینجا خاموش کرد.</translation>
     </message>
     <message>
         <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy در حال استفاده است: قطع اضطراری به حالت VPN نیاز دارد.</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>در دسترس</translation>
     </message>
     <message>
         <source>Blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>مسدود</translation>
     </message>
 </context>
 <context>
     <name>LanguagePickerDialog</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>زبان</translation>
     </message>
     <message>
         <source>Use system language</source>
-        <translation type="unfinished"></translation>
+        <translation>استفاده از زبان سیستم</translation>
     </message>
     <message>
         <source>Use system language (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>استفاده از زبان سیستم (%1)</translation>
     </message>
     <message>
         <source>Follow the desktop&apos;s language</source>
-        <translation type="unfinished"></translation>
+        <translation>پیروی از زبان میز کار</translation>
     </message>
     <message>
         <source>Choose a language</source>
-        <translation type="unfinished"></translation>
+        <translation>انتخاب زبان</translation>
     </message>
     <message>
         <source>Tovra restarts to show the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra برای نمایش زبان جدید دوباره راه‌اندازی می‌شود.</translation>
     </message>
     <message>
         <source>Search languages</source>
-        <translation type="unfinished"></translation>
+        <translation>جست‌وجوی زبان‌ها</translation>
     </message>
     <message>
         <source>Languages</source>
-        <translation type="unfinished"></translation>
+        <translation>زبان‌ها</translation>
     </message>
     <message>
         <source>Use language</source>
-        <translation type="unfinished"></translation>
+        <translation>استفاده از زبان</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">%1 ms</translation>
     </message>
 </context>
 <context>
@@ -1660,7 +1660,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ویژه</translation>
     </message>
     <message>
         <source>Favourites</source>
@@ -1792,7 +1792,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>ModePage</name>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">خودکار</translation>
     </message>
     <message>
         <source>WireGuard</source>
@@ -1831,7 +1831,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">حالت</translation>
     </message>
     <message>
         <source>VPN</source>
@@ -1850,7 +1850,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">شبکهٔ محلی</translation>
     </message>
     <message>
         <source>System proxy</source>
@@ -1878,7 +1878,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">خاموش</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings are left alone</source>
@@ -1886,7 +1886,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">روشن</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra</source>
@@ -1949,11 +1949,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">خاموش</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">روشن</translation>
     </message>
     <message>
         <source>On and locked</source>
@@ -1977,7 +1977,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">شبکهٔ محلی</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
@@ -2121,7 +2121,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">لغو</translation>
     </message>
     <message>
         <source>Preferences</source>
@@ -2583,7 +2583,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ذخیره</translation>
     </message>
     <message>
         <source>Choose regions</source>
@@ -2599,7 +2599,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">لغو</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
@@ -2795,7 +2795,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">خودکار</translation>
     </message>
     <message>
         <source>WireGuard</source>
@@ -2883,11 +2883,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">خاموش</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">روشن</translation>
     </message>
     <message>
         <source>Lock</source>
@@ -2911,7 +2911,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">قطع اضطراری</translation>
     </message>
     <message>
         <source>Refresh Status</source>
@@ -3159,7 +3159,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">وصل</translation>
     </message>
     <message>
         <source>disconnected</source>
@@ -3413,7 +3413,7 @@ Available version: %2</source>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">قطع اضطراری</translation>
     </message>
 </context>
 <context>
@@ -3424,11 +3424,11 @@ Available version: %2</source>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">ورود</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">لغو</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -3464,7 +3464,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">آخرین مکان</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -3541,7 +3541,7 @@ Available version: %2</source>
     <name>WindowController</name>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">عملیات حساب ناموفق بود</translation>
     </message>
     <message>
         <source>Could not open link</source>

@@ -1539,7 +1539,7 @@
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
 </context>
 <context>
@@ -1547,245 +1547,249 @@
     <message>
         <source>The Tovra service is not available.
 Locations appear here as soon as it responds.</source>
-        <translation type="unfinished"></translation>
+        <translation>خدمة Tovra غير متاحة.
+ستظهر المواقع هنا فور استجابتها.</translation>
     </message>
     <message>
         <source>Loading locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحميل المواقع...</translation>
     </message>
     <message>
         <source>The service has no locations to offer right now.
 Try Refresh in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تتوفر لدى الخدمة مواقع في الوقت الحالي.
+جرّب التحديث بعد قليل.</translation>
     </message>
     <message>
         <source>No favourites yet.
 Star a location (or select it and press Space) to keep it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مواقع مفضلة بعد.
+ضع نجمة على موقع (أو حدّده واضغط مفتاح المسافة) للاحتفاظ به هنا.</translation>
     </message>
     <message>
         <source>No locations in this tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مواقع في علامة التبويب هذه.</translation>
     </message>
     <message>
         <source>Nothing matches “%1”.
 Try a country, a city or a code such as ᳞”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد نتائج مطابقة لـ «%1».
+جرّب اسم دولة أو مدينة أو رمزًا مثل «de».</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>كل المواقع</translation>
     </message>
     <message>
         <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
-        <translation type="unfinished"></translation>
+        <translation>انقر نقرًا مزدوجًا على موقع للاتصال به، أو على دولة أو مدينة للاتصال بأسرع موقع فيها.</translation>
     </message>
     <message>
         <source>Search countries, cities, locations or P2P</source>
-        <translation type="unfinished"></translation>
+        <translation>ابحث عن دول أو مدن أو مواقع أو P2P</translation>
     </message>
     <message>
         <source>Search locations</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث في المواقع</translation>
     </message>
     <message>
         <source>None of the locations in %1 is included in your plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يشمل اشتراكك أيًا من المواقع في %1.</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 غير مشمول في خطتك. قم بالترقية لاستخدامه.</translation>
     </message>
     <message>
         <source>Location actions</source>
-        <translation type="unfinished"></translation>
+        <translation>إجراءات الموقع</translation>
     </message>
     <message>
         <source>Connect to the fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال بأسرع موقع</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال</translation>
     </message>
     <message>
         <source>Collapse</source>
-        <translation type="unfinished"></translation>
+        <translation>طيّ</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>توسيع</translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>إزالة من المفضلة</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>إضافة إلى المفضلة</translation>
     </message>
     <message>
         <source>Matches in every tab: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>النتائج في كل علامات التبويب: %1</translation>
     </message>
     <message>
         <source>Locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع: %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ قياس زمن الاستجابة...</translation>
     </message>
     <message>
         <source>This list may be out of date; Refresh fetches a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>قد تكون هذه القائمة قديمة؛ يجلب التحديث قائمة جديدة.</translation>
     </message>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>التجميع حسب المنطقة إلى أن تصل مجموعات الخدمة.</translation>
     </message>
 </context>
 <context>
     <name>LocationsToolbar</name>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>الكل</translation>
     </message>
     <message>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>مجاني</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished">مميّز</translation>
+        <translation>مميّز</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>المفضلة</translation>
     </message>
     <message>
         <source>Location tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>علامات تبويب المواقع</translation>
     </message>
     <message>
         <source>Sort locations</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب المواقع</translation>
     </message>
     <message>
         <source>Service order</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب الخدمة</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>الاسم</translation>
     </message>
     <message>
         <source>Latency</source>
-        <translation type="unfinished"></translation>
+        <translation>زمن الاستجابة</translation>
     </message>
     <message>
         <source>Order of the locations within each group</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتيب المواقع داخل كل مجموعة</translation>
     </message>
     <message>
         <source>Fetch the list of locations again and measure their latency</source>
-        <translation type="unfinished"></translation>
+        <translation>جلب قائمة المواقع مجددًا وقياس زمن استجابتها</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث (%1 ث)</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث</translation>
     </message>
     <message>
         <source>Refresh locations, possible again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث المواقع، متاح مجددًا بعد %1 ث</translation>
     </message>
     <message>
         <source>Refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث المواقع</translation>
     </message>
 </context>
 <context>
     <name>LocationsTreeView</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت العملية</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية الإعدادات</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية الوضع</translation>
     </message>
 </context>
 <context>
     <name>ModeChoiceCard</name>
     <message>
         <source>Tovra picks the protocol that works best here.</source>
-        <translation type="unfinished"></translation>
+        <translation>يختار Tovra البروتوكول الأنسب هنا.</translation>
     </message>
     <message>
         <source>A fast, modern tunnel for all your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>نفق سريع وحديث لكل حركة المرور.</translation>
     </message>
     <message>
         <source>All traffic goes through the TovraVPN tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر كل حركة المرور عبر نفق TovraVPN.</translation>
     </message>
     <message>
         <source>The tunnel by default; chosen regions and sites go direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>النفق افتراضيًا؛ والمناطق والمواقع المختارة تمر مباشرة.</translation>
     </message>
     <message>
         <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>بلا نفق: التطبيقات التي تستخدم الوكيل المحلي تصل إلى الإنترنت عبر Tovra.</translation>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>الوكيل المحلي، مع مرور المناطق والمواقع المختارة مباشرة.</translation>
     </message>
     <message>
         <source>Applying…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التطبيق…</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
-        <translation type="unfinished"></translation>
+        <translation>يتطلب مفتاح الإيقاف وضع VPN: اختر التلقائي أو WireGuard أو TovraVPN لتفعيله.</translation>
     </message>
     <message>
         <source>Choose a mode</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر وضعًا</translation>
     </message>
     <message>
         <source>The current mode shows once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>يظهر الوضع الحالي بمجرد استجابة خدمة Tovra.</translation>
     </message>
     <message>
         <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>الوضع الحالي: %1. لا يعرفه هذا الإصدار من Tovra؛ اختر أحد الأوضاع أعلاه لاستبداله.</translation>
     </message>
 </context>
 <context>
@@ -1796,530 +1800,530 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN مقسَّم</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN شامل</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy مقسَّم</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy شامل</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع التوجيه</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر كيفية توجيه حركة المرور والمواقع التي تتجاوز النفق.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished">الوضع</translation>
+        <translation>الوضع</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب</translation>
     </message>
 </context>
 <context>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">الشبكة المحلية</translation>
+        <translation>الشبكة المحلية</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>وكيل النظام</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>مباشر</translation>
     </message>
     <message>
         <source>Printers, shares and other devices on your network stay reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>تبقى الطابعات والمجلدات المشتركة والأجهزة الأخرى على شبكتك قابلة للوصول</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>محمي</translation>
     </message>
     <message>
         <source>Local network traffic is protected like the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>حركة مرور الشبكة المحلية محمية مثل باقي حركة المرور</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">إيقاف</translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings are left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>تبقى إعدادات الوكيل في سطح المكتب دون تغيير</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">تشغيل</translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>تشير إعدادات الوكيل في سطح المكتب إلى Tovra</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>قفل</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
-        <translation type="unfinished"></translation>
+        <translation>تشير إعدادات الوكيل في سطح المكتب إلى Tovra وتبقى كذلك</translation>
     </message>
     <message>
         <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>ما إذا كانت الأجهزة على شبكتك المحلية تبقى قابلة للوصول أثناء توجيه Tovra لحركة المرور.</translation>
     </message>
     <message>
         <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>توجيه إعدادات الوكيل في سطح المكتب إلى Tovra، أو منع البرامج الأخرى أيضًا من تغييرها.</translation>
     </message>
 </context>
 <context>
     <name>NetworkSection</name>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة</translation>
     </message>
     <message>
         <source>SOCKS5 listener</source>
-        <translation type="unfinished"></translation>
+        <translation>مستمع SOCKS5</translation>
     </message>
     <message>
         <source>HTTP listener</source>
-        <translation type="unfinished"></translation>
+        <translation>مستمع HTTP</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>تطبيق المستمعين</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
-        <translation type="unfinished"></translation>
+        <translation>خوادم DNS المحلية</translation>
     </message>
     <message>
         <source>For example 192.168.1.1, ::1</source>
-        <translation type="unfinished"></translation>
+        <translation>مثال: 192.168.1.1، ::1</translation>
     </message>
     <message>
         <source>Save servers</source>
-        <translation type="unfinished"></translation>
+        <translation>حفظ الخوادم</translation>
     </message>
     <message>
         <source>Clear servers</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح الخوادم</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة ضبط DNS المقسَّم</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">إيقاف</translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">تشغيل</translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>On and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>تشغيل ومقفل</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>وكيل النظام</translation>
     </message>
     <message>
         <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>يوجّه إعدادات الوكيل في سطح المكتب إلى Tovra؛ والقفل يمنع البرامج الأخرى من تغييرها.</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>مباشر</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>محمي</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">الشبكة المحلية</translation>
+        <translation>الشبكة المحلية</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«مباشر» يصل إلى الأجهزة القريبة خارج النفق؛ و«محمي» يرسل كل شيء عبره.</translation>
     </message>
     <message>
         <source>SOCKS5</source>
-        <translation type="unfinished"></translation>
+        <translation>SOCKS5</translation>
     </message>
     <message>
         <source>HTTP</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP</translation>
     </message>
     <message>
         <source>Local proxy listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>مستمعو الوكيل المحلي</translation>
     </message>
     <message>
         <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
-        <translation type="unfinished"></translation>
+        <translation>العناوين التي تقبل عليها الخدمة اتصالات الوكيل، بصيغة host:port. اترك الحقل فارغًا لإغلاق ذلك المستمع.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>تلقائي</translation>
     </message>
     <message>
         <source>Local DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS محلي</translation>
     </message>
     <message>
         <source>Remote DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS بعيد</translation>
     </message>
     <message>
         <source>Split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS المقسَّم</translation>
     </message>
     <message>
         <source>Which resolver answers for names that stay outside the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>المحلِّل الذي يجيب عن الأسماء التي تبقى خارج النفق.</translation>
     </message>
     <message>
         <source>IP addresses of the resolvers for local names, separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>عناوين IP لمحلِّلات الأسماء المحلية، مفصولة بفواصل.</translation>
     </message>
     <message>
         <source>In effect: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المطبَّق: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>In effect: %1, servers %2</source>
-        <translation type="unfinished"></translation>
+        <translation>المطبَّق: %1، الخوادم %2</translation>
     </message>
     <message>
         <source>(from %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(من %1)</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروف</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>تجاهل الإشعار</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>إشعار: %1</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::ShellText</name>
     <message>
         <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>لم تتغير قواعد التقسيم المخصصة</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryField</name>
     <message>
         <source>Search for a country, city or location</source>
-        <translation type="unfinished"></translation>
+        <translation>ابحث عن دولة أو مدينة أو موقع</translation>
     </message>
     <message>
         <source>Quick connect search</source>
-        <translation type="unfinished"></translation>
+        <translation>بحث الاتصال السريع</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryModel</name>
     <message>
         <source>Recent searches</source>
-        <translation type="unfinished"></translation>
+        <translation>عمليات البحث الأخيرة</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع الأخيرة</translation>
     </message>
     <message>
         <source>Type a country, city or location name</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتب اسم دولة أو مدينة أو موقع</translation>
     </message>
     <message>
         <source>No locations match “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مواقع مطابقة لـ «%1»</translation>
     </message>
     <message>
         <source>%1  ·  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  %2</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryPopup</name>
     <message>
         <source>Search results</source>
-        <translation type="unfinished"></translation>
+        <translation>نتائج البحث</translation>
     </message>
 </context>
 <context>
     <name>SettingsCard</name>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروف</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">إلغاء</translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>التفضيلات</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تطبيق الإعدادات...</translation>
     </message>
     <message>
         <source>Changes take effect once the Tovra service confirms them.</source>
-        <translation type="unfinished"></translation>
+        <translation>تسري التغييرات بعد أن تؤكدها خدمة Tovra.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
     <message>
         <source>Settings can be changed again once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>يمكن تغيير الإعدادات مجددًا بمجرد استجابة خدمة Tovra.</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service...</source>
-        <translation type="unfinished"></translation>
+        <translation>في انتظار خدمة Tovra...</translation>
     </message>
 </context>
 <context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>أضف منفذًا: host:port، مثل 127.0.0.1:1080.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IPv6 address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ليس عنوان IPv6.</translation>
     </message>
     <message>
         <source>Write an IPv6 address in brackets: [::1]:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتب عنوان IPv6 بين قوسين معقوفين: [::1]:1080.</translation>
     </message>
     <message>
         <source>Add a host before the port: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>أضف اسم المضيف قبل المنفذ: host:port.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a host name or IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ليس اسم مضيف ولا عنوان IP.</translation>
     </message>
     <message>
         <source>Add a port after the colon: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>أضف منفذًا بعد النقطتين: host:port.</translation>
     </message>
     <message>
         <source>The port must be a number from 1 to 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب أن يكون المنفذ رقمًا من 1 إلى 65535.</translation>
     </message>
     <message>
         <source>Enter an API URL, or reset it to the default.</source>
-        <translation type="unfinished"></translation>
+        <translation>أدخل عنوان URL لواجهة API، أو أعِده إلى الافتراضي.</translation>
     </message>
     <message>
         <source>The API URL must start with http:// or https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب أن يبدأ عنوان URL لواجهة API بـ http:// أو https://.</translation>
     </message>
     <message>
         <source>The API URL needs a host, for example https://api.example.com.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحتاج عنوان URL لواجهة API إلى اسم مضيف، مثل https://api.example.com.</translation>
     </message>
     <message>
         <source>Enter at least one DNS server, or clear the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>أدخل خادم DNS واحدًا على الأقل، أو امسح القائمة.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» ليس عنوان IP.</translation>
     </message>
 </context>
 <context>
     <name>SplitOptionsCard</name>
     <message>
         <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر TovraVPN مقسَّم أو Tovra Proxy مقسَّم لإرسال جزء من حركة المرور مباشرة: حسب المنطقة أو حسب GFWList أو حسب قواعدك الخاصة.</translation>
     </message>
     <message>
         <source>Default route</source>
-        <translation type="unfinished"></translation>
+        <translation>المسار الافتراضي</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>مباشر</translation>
     </message>
     <message>
         <source>Everything not chosen below goes direct</source>
-        <translation type="unfinished"></translation>
+        <translation>كل ما لم يُختر أدناه يمر مباشرة</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار…</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار المناطق</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>المناطق</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد التقسيم المخصصة</translation>
     </message>
     <message>
         <source>Edit rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير القواعد…</translation>
     </message>
     <message>
         <source>Edit custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>تحرير قواعد التقسيم المخصصة</translation>
     </message>
     <message>
         <source>Split routing</source>
-        <translation type="unfinished"></translation>
+        <translation>التوجيه المقسَّم</translation>
     </message>
     <message>
         <source>TovraVPN Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات TovraVPN مقسَّم</translation>
     </message>
     <message>
         <source>Tovra Proxy Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات Tovra Proxy مقسَّم</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>النفق</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>الوكيل</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>كل ما لم يُختر أدناه يمر عبر النفق</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>كل ما لم يُختر أدناه يمر عبر الوكيل</translation>
     </message>
     <message>
         <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور مباشرة ما لم تقضِ منطقة أو GFWList أو قاعدة بغير ذلك.</translation>
     </message>
     <message>
         <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور عبر النفق ما لم ترسلها منطقة أو قاعدة مباشرة.</translation>
     </message>
     <message>
         <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور عبر الوكيل ما لم ترسلها منطقة أو قاعدة مباشرة.</translation>
     </message>
     <message>
         <source>No regions chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يتم اختيار مناطق.</translation>
     </message>
     <message>
         <source>Go direct: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مباشرة: %1</translation>
     </message>
     <message>
         <source>Go through the tunnel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>عبر النفق: %1</translation>
     </message>
     <message>
         <source>Go through the proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>عبر الوكيل: %1</translation>
     </message>
     <message>
         <source>GFWList → Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← النفق</translation>
     </message>
     <message>
         <source>GFWList → Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← الوكيل</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر النفق.</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر الوكيل.</translation>
     </message>
     <message>
         <source>Your own domain and address lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>قوائم النطاقات والعناوين الخاصة بك.</translation>
     </message>
     <message>
         <source>Your own domain and address lists. Rules held: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>قوائم النطاقات والعناوين الخاصة بك. القواعد المحفوظة: %1.</translation>
     </message>
 </context>
 <context>
@@ -2592,7 +2596,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">اختيار المناطق</translation>
     </message>
     <message>
         <source>Search countries</source>
@@ -2643,7 +2647,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">قواعد التقسيم المخصصة</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
@@ -2669,11 +2673,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مباشر</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">الوكيل</translation>
     </message>
     <message>
         <source>Block</source>
@@ -2812,7 +2816,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
@@ -2840,7 +2844,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">المناطق</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
@@ -2876,7 +2880,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">اتصال</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -2900,7 +2904,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">قفل</translation>
     </message>
     <message>
         <source>Local Network</source>
@@ -2912,11 +2916,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مباشر</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">محمي</translation>
     </message>
     <message>
         <source>Kill Switch</source>
@@ -2996,11 +3000,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">النفق</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">الوكيل</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
@@ -3044,7 +3048,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">لا شيء</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
@@ -3303,7 +3307,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">غير معروف</translation>
     </message>
     <message>
         <source>Latest</source>
@@ -3425,7 +3429,7 @@ Available version: %2</source>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">اتصال</translation>
     </message>
     <message>
         <source>Sign In</source>
@@ -3520,7 +3524,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">المواقع الأخيرة</translation>
     </message>
     <message>
         <source>Clear recent locations</source>

@@ -1539,7 +1539,7 @@
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished">%1 ms</translation>
+        <translation>%1 ms</translation>
     </message>
 </context>
 <context>
@@ -1547,779 +1547,783 @@
     <message>
         <source>The Tovra service is not available.
 Locations appear here as soon as it responds.</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس Tovra در دسترس نیست.
+مکان‌ها به محض پاسخ آن در اینجا نمایش داده می‌شوند.</translation>
     </message>
     <message>
         <source>Loading locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بارگذاری مکان‌ها...</translation>
     </message>
     <message>
         <source>The service has no locations to offer right now.
 Try Refresh in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس در حال حاضر مکانی برای ارائه ندارد.
+کمی بعد «تازه‌سازی» را امتحان کنید.</translation>
     </message>
     <message>
         <source>No favourites yet.
 Star a location (or select it and press Space) to keep it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>هنوز علاقه‌مندی‌ای ندارید.
+برای نگه داشتن یک مکان در اینجا، به آن ستاره بدهید (یا آن را انتخاب کنید و Space را بزنید).</translation>
     </message>
     <message>
         <source>No locations in this tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>در این زبانه مکانی نیست.</translation>
     </message>
     <message>
         <source>Nothing matches “%1”.
 Try a country, a city or a code such as ᳞”.</source>
-        <translation type="unfinished"></translation>
+        <translation>هیچ موردی با «%1» مطابقت ندارد.
+نام یک کشور، شهر یا کدی مانند «de» را امتحان کنید.</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>همهٔ مکان‌ها</translation>
     </message>
     <message>
         <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
-        <translation type="unfinished"></translation>
+        <translation>برای اتصال به یک مکان روی آن دوبار کلیک کنید، یا روی یک کشور یا شهر تا به سریع‌ترین مکان آن وصل شوید.</translation>
     </message>
     <message>
         <source>Search countries, cities, locations or P2P</source>
-        <translation type="unfinished"></translation>
+        <translation>جست‌وجوی کشورها، شهرها، مکان‌ها یا P2P</translation>
     </message>
     <message>
         <source>Search locations</source>
-        <translation type="unfinished"></translation>
+        <translation>جست‌وجوی مکان‌ها</translation>
     </message>
     <message>
         <source>None of the locations in %1 is included in your plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>هیچ‌یک از مکان‌های %1 در طرح شما نیست.</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 در طرح شما نیست. برای استفاده از آن، طرح خود را ارتقا دهید.</translation>
     </message>
     <message>
         <source>Location actions</source>
-        <translation type="unfinished"></translation>
+        <translation>کنش‌های مکان</translation>
     </message>
     <message>
         <source>Connect to the fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال به سریع‌ترین مکان</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال</translation>
     </message>
     <message>
         <source>Collapse</source>
-        <translation type="unfinished"></translation>
+        <translation>جمع کردن</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن</translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>حذف از علاقه‌مندی‌ها</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>افزودن به علاقه‌مندی‌ها</translation>
     </message>
     <message>
         <source>Matches in every tab: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>نتایج در همهٔ زبانه‌ها: %1</translation>
     </message>
     <message>
         <source>Locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌ها: %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اندازه‌گیری تأخیر...</translation>
     </message>
     <message>
         <source>This list may be out of date; Refresh fetches a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>ممکن است این فهرست قدیمی باشد؛ «تازه‌سازی» فهرست جدیدی می‌گیرد.</translation>
     </message>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>تا رسیدن گروه‌های سرویس، بر اساس منطقه گروه‌بندی می‌شود.</translation>
     </message>
 </context>
 <context>
     <name>LocationsToolbar</name>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>همه</translation>
     </message>
     <message>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>رایگان</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished">ویژه</translation>
+        <translation>ویژه</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>علاقه‌مندی‌ها</translation>
     </message>
     <message>
         <source>Location tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>زبانه‌های مکان‌ها</translation>
     </message>
     <message>
         <source>Sort locations</source>
-        <translation type="unfinished"></translation>
+        <translation>مرتب‌سازی مکان‌ها</translation>
     </message>
     <message>
         <source>Service order</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتیب سرویس</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>نام</translation>
     </message>
     <message>
         <source>Latency</source>
-        <translation type="unfinished"></translation>
+        <translation>تأخیر</translation>
     </message>
     <message>
         <source>Order of the locations within each group</source>
-        <translation type="unfinished"></translation>
+        <translation>ترتیب مکان‌ها در هر گروه</translation>
     </message>
     <message>
         <source>Fetch the list of locations again and measure their latency</source>
-        <translation type="unfinished"></translation>
+        <translation>دریافت دوبارهٔ فهرست مکان‌ها و اندازه‌گیری تأخیر آن‌ها</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی (%1 ث)</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی</translation>
     </message>
     <message>
         <source>Refresh locations, possible again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی مکان‌ها، دوباره پس از %1 ثانیه ممکن است</translation>
     </message>
     <message>
         <source>Refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی مکان‌ها</translation>
     </message>
 </context>
 <context>
     <name>LocationsTreeView</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌ها</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات ناموفق بود</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات تنظیمات ناموفق بود</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات حالت ناموفق بود</translation>
     </message>
 </context>
 <context>
     <name>ModeChoiceCard</name>
     <message>
         <source>Tovra picks the protocol that works best here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra پروتکلی را انتخاب می‌کند که اینجا بهترین کارکرد را دارد.</translation>
     </message>
     <message>
         <source>A fast, modern tunnel for all your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>تونلی سریع و مدرن برای همهٔ ترافیک شما.</translation>
     </message>
     <message>
         <source>All traffic goes through the TovraVPN tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>همهٔ ترافیک از تونل TovraVPN عبور می‌کند.</translation>
     </message>
     <message>
         <source>The tunnel by default; chosen regions and sites go direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌طور پیش‌فرض تونل؛ مناطق و سایت‌های انتخاب‌شده مستقیم می‌روند.</translation>
     </message>
     <message>
         <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>بدون تونل: برنامه‌هایی که از پراکسی محلی استفاده می‌کنند از طریق Tovra به اینترنت می‌رسند.</translation>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>پراکسی محلی، با عبور مستقیم مناطق و سایت‌های انتخاب‌شده.</translation>
     </message>
     <message>
         <source>Applying…</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اعمال…</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری به حالت VPN نیاز دارد: برای روشن کردن آن خودکار، WireGuard یا TovraVPN را انتخاب کنید.</translation>
     </message>
     <message>
         <source>Choose a mode</source>
-        <translation type="unfinished"></translation>
+        <translation>انتخاب حالت</translation>
     </message>
     <message>
         <source>The current mode shows once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت فعلی به محض پاسخ سرویس Tovra نمایش داده می‌شود.</translation>
     </message>
     <message>
         <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت فعلی: %1. این نسخه از Tovra آن را نمی‌شناسد؛ برای جایگزینی آن یکی از حالت‌های بالا را انتخاب کنید.</translation>
     </message>
 </context>
 <context>
     <name>ModePage</name>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">خودکار</translation>
+        <translation>خودکار</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN تفکیکی</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN سراسری</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy تفکیکی</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy سراسری</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت مسیریابی</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>انتخاب کنید ترافیک شما چگونه مسیریابی شود و کدام سایت‌ها از تونل عبور نکنند.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌ها</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished">حالت</translation>
+        <translation>حالت</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیمات</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب</translation>
     </message>
 </context>
 <context>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">شبکهٔ محلی</translation>
+        <translation>شبکهٔ محلی</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>پراکسی سیستم</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>شبکه</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>مستقیم</translation>
     </message>
     <message>
         <source>Printers, shares and other devices on your network stay reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>چاپگرها، پوشه‌های اشتراکی و دیگر دستگاه‌های شبکهٔ شما در دسترس می‌مانند</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>محافظت‌شده</translation>
     </message>
     <message>
         <source>Local network traffic is protected like the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک شبکهٔ محلی مانند بقیهٔ ترافیک محافظت می‌شود</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">خاموش</translation>
+        <translation>خاموش</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings are left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیمات پراکسی میز کار دست‌نخورده می‌مانند</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">روشن</translation>
+        <translation>روشن</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیمات پراکسی میز کار به Tovra اشاره می‌کنند</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>قفل</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیمات پراکسی میز کار به Tovra اشاره می‌کنند و همین‌طور می‌مانند</translation>
     </message>
     <message>
         <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>اینکه دستگاه‌های شبکهٔ محلی شما هنگام مسیریابی ترافیک توسط Tovra در دسترس بمانند یا نه.</translation>
     </message>
     <message>
         <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیمات پراکسی میز کار را به Tovra اشاره دهید، یا جلوی تغییر آن‌ها توسط برنامه‌های دیگر را هم بگیرید.</translation>
     </message>
 </context>
 <context>
     <name>NetworkSection</name>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>شبکه</translation>
     </message>
     <message>
         <source>SOCKS5 listener</source>
-        <translation type="unfinished"></translation>
+        <translation>شنوندهٔ SOCKS5</translation>
     </message>
     <message>
         <source>HTTP listener</source>
-        <translation type="unfinished"></translation>
+        <translation>شنوندهٔ HTTP</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>اعمال شنونده‌ها</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
-        <translation type="unfinished"></translation>
+        <translation>سرورهای DNS محلی</translation>
     </message>
     <message>
         <source>For example 192.168.1.1, ::1</source>
-        <translation type="unfinished"></translation>
+        <translation>برای نمونه 192.168.1.1, ::1</translation>
     </message>
     <message>
         <source>Save servers</source>
-        <translation type="unfinished"></translation>
+        <translation>ذخیرهٔ سرورها</translation>
     </message>
     <message>
         <source>Clear servers</source>
-        <translation type="unfinished"></translation>
+        <translation>پاک کردن سرورها</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>بازنشانی DNS تفکیکی</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">خاموش</translation>
+        <translation>خاموش</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">روشن</translation>
+        <translation>روشن</translation>
     </message>
     <message>
         <source>On and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>روشن و قفل‌شده</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>پراکسی سیستم</translation>
     </message>
     <message>
         <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیمات پراکسی میز کار را به Tovra اشاره می‌دهد؛ حالت قفل‌شده جلوی تغییر آن‌ها توسط برنامه‌های دیگر را می‌گیرد.</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>مستقیم</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>محافظت‌شده</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">شبکهٔ محلی</translation>
+        <translation>شبکهٔ محلی</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«مستقیم» دستگاه‌های نزدیک را خارج از تونل در دسترس قرار می‌دهد؛ «محافظت‌شده» همه‌چیز را از تونل می‌فرستد.</translation>
     </message>
     <message>
         <source>SOCKS5</source>
-        <translation type="unfinished"></translation>
+        <translation>SOCKS5</translation>
     </message>
     <message>
         <source>HTTP</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP</translation>
     </message>
     <message>
         <source>Local proxy listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>شنونده‌های پراکسی محلی</translation>
     </message>
     <message>
         <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی‌هایی که سرویس در آن‌ها اتصال‌های پراکسی را می‌پذیرد، به شکل host:port. برای بستن یک شنونده، فیلد آن را خالی بگذارید.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>خودکار</translation>
     </message>
     <message>
         <source>Local DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS محلی</translation>
     </message>
     <message>
         <source>Remote DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS راه دور</translation>
     </message>
     <message>
         <source>Split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS تفکیکی</translation>
     </message>
     <message>
         <source>Which resolver answers for names that stay outside the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>کدام حل‌کننده به نام‌هایی که خارج از تونل می‌مانند پاسخ دهد.</translation>
     </message>
     <message>
         <source>IP addresses of the resolvers for local names, separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی‌های IP حل‌کننده‌ها برای نام‌های محلی، جداشده با ویرگول.</translation>
     </message>
     <message>
         <source>In effect: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اعمال: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>هیچ</translation>
     </message>
     <message>
         <source>In effect: %1, servers %2</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اعمال: %1، سرورها %2</translation>
     </message>
     <message>
         <source>(from %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(از %1)</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>نامشخص</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>بستن اعلان</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>اعلان: %1</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::ShellText</name>
     <message>
         <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد تفکیک سفارشی تغییری نکرد</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryField</name>
     <message>
         <source>Search for a country, city or location</source>
-        <translation type="unfinished"></translation>
+        <translation>جست‌وجوی کشور، شهر یا مکان</translation>
     </message>
     <message>
         <source>Quick connect search</source>
-        <translation type="unfinished"></translation>
+        <translation>جست‌وجوی اتصال سریع</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryModel</name>
     <message>
         <source>Recent searches</source>
-        <translation type="unfinished"></translation>
+        <translation>جست‌وجوهای اخیر</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌های اخیر</translation>
     </message>
     <message>
         <source>Type a country, city or location name</source>
-        <translation type="unfinished"></translation>
+        <translation>نام کشور، شهر یا مکان را بنویسید</translation>
     </message>
     <message>
         <source>No locations match “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>هیچ مکانی با «%1» مطابقت ندارد</translation>
     </message>
     <message>
         <source>%1  ·  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  %2</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryPopup</name>
     <message>
         <source>Search results</source>
-        <translation type="unfinished"></translation>
+        <translation>نتایج جست‌وجو</translation>
     </message>
 </context>
 <context>
     <name>SettingsCard</name>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>نامشخص</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">لغو</translation>
+        <translation>لغو</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>ترجیحات</translation>
     </message>
     <message>
         <source>Changes take effect once the Tovra service confirms them.</source>
-        <translation type="unfinished"></translation>
+        <translation>تغییرات پس از تأیید سرویس Tovra اعمال می‌شوند.</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اعمال تنظیمات...</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>تنظیمات</translation>
     </message>
     <message>
         <source>Settings can be changed again once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>به محض پاسخ سرویس Tovra می‌توانید دوباره تنظیمات را تغییر دهید.</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service...</source>
-        <translation type="unfinished"></translation>
+        <translation>در انتظار سرویس Tovra...</translation>
     </message>
 </context>
 <context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>یک درگاه اضافه کنید: host:port، برای نمونه 127.0.0.1:1080.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IPv6 address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» نشانی IPv6 نیست.</translation>
     </message>
     <message>
         <source>Write an IPv6 address in brackets: [::1]:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی IPv6 را داخل کروشه بنویسید: [::1]:1080.</translation>
     </message>
     <message>
         <source>Add a host before the port: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>پیش از درگاه یک میزبان اضافه کنید: host:port.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a host name or IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» نام میزبان یا نشانی IP نیست.</translation>
     </message>
     <message>
         <source>Add a port after the colon: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>پس از دونقطه یک درگاه اضافه کنید: host:port.</translation>
     </message>
     <message>
         <source>The port must be a number from 1 to 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>درگاه باید عددی از 1 تا 65535 باشد.</translation>
     </message>
     <message>
         <source>Enter an API URL, or reset it to the default.</source>
-        <translation type="unfinished"></translation>
+        <translation>یک نشانی API وارد کنید، یا آن را به پیش‌فرض بازنشانی کنید.</translation>
     </message>
     <message>
         <source>The API URL must start with http:// or https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی API باید با http:// یا https:// شروع شود.</translation>
     </message>
     <message>
         <source>The API URL needs a host, for example https://api.example.com.</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی API به یک میزبان نیاز دارد، برای نمونه https://api.example.com.</translation>
     </message>
     <message>
         <source>Enter at least one DNS server, or clear the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>دست‌کم یک سرور DNS وارد کنید، یا فهرست را پاک کنید.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«%1» نشانی IP نیست.</translation>
     </message>
 </context>
 <context>
     <name>SplitOptionsCard</name>
     <message>
         <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
-        <translation type="unfinished"></translation>
+        <translation>برای فرستادن بخشی از ترافیک به‌صورت مستقیم، TovraVPN تفکیکی یا Tovra Proxy تفکیکی را انتخاب کنید: بر اساس منطقه، GFWList یا قواعد خودتان.</translation>
     </message>
     <message>
         <source>Default route</source>
-        <translation type="unfinished"></translation>
+        <translation>مسیر پیش‌فرض</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>مستقیم</translation>
     </message>
     <message>
         <source>Everything not chosen below goes direct</source>
-        <translation type="unfinished"></translation>
+        <translation>هر چه در زیر انتخاب نشده مستقیم می‌رود</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>انتخاب…</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation>انتخاب مناطق</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>مناطق</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد تفکیک سفارشی</translation>
     </message>
     <message>
         <source>Edit rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>ویرایش قواعد…</translation>
     </message>
     <message>
         <source>Edit custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>ویرایش قواعد تفکیک سفارشی</translation>
     </message>
     <message>
         <source>Split routing</source>
-        <translation type="unfinished"></translation>
+        <translation>مسیریابی تفکیکی</translation>
     </message>
     <message>
         <source>TovraVPN Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>گزینه‌های TovraVPN تفکیکی</translation>
     </message>
     <message>
         <source>Tovra Proxy Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>گزینه‌های Tovra Proxy تفکیکی</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>تونل</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>پراکسی</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>هر چه در زیر انتخاب نشده از تونل عبور می‌کند</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>هر چه در زیر انتخاب نشده از پراکسی عبور می‌کند</translation>
     </message>
     <message>
         <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک مستقیم می‌رود مگر اینکه یک منطقه، GFWList یا یک قاعده چیز دیگری بگوید.</translation>
     </message>
     <message>
         <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک از تونل عبور می‌کند مگر اینکه یک منطقه یا قاعده آن را مستقیم بفرستد.</translation>
     </message>
     <message>
         <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک از پراکسی عبور می‌کند مگر اینکه یک منطقه یا قاعده آن را مستقیم بفرستد.</translation>
     </message>
     <message>
         <source>No regions chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>هیچ منطقه‌ای انتخاب نشده است.</translation>
     </message>
     <message>
         <source>Go direct: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مستقیم: %1</translation>
     </message>
     <message>
         <source>Go through the tunnel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>از طریق تونل: %1</translation>
     </message>
     <message>
         <source>Go through the proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>از طریق پراکسی: %1</translation>
     </message>
     <message>
         <source>GFWList → Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← تونل</translation>
     </message>
     <message>
         <source>GFWList → Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← پراکسی</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>سایت‌های موجود در GFWList همیشه از تونل عبور می‌کنند.</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>سایت‌های موجود در GFWList همیشه از پراکسی عبور می‌کنند.</translation>
     </message>
     <message>
         <source>Your own domain and address lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>فهرست‌های دامنه و نشانی خودتان.</translation>
     </message>
     <message>
         <source>Your own domain and address lists. Rules held: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>فهرست‌های دامنه و نشانی خودتان. قواعد موجود: %1.</translation>
     </message>
 </context>
 <context>
@@ -2587,7 +2591,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">انتخاب مناطق</translation>
     </message>
     <message>
         <source>Search countries</source>
@@ -2638,7 +2642,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">قواعد تفکیک سفارشی</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
@@ -2664,11 +2668,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مستقیم</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">پراکسی</translation>
     </message>
     <message>
         <source>Block</source>
@@ -2799,7 +2803,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
@@ -2827,7 +2831,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مناطق</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
@@ -2867,7 +2871,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">اتصال</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -2891,7 +2895,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">قفل</translation>
     </message>
     <message>
         <source>Local Network</source>
@@ -2903,11 +2907,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مستقیم</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">محافظت‌شده</translation>
     </message>
     <message>
         <source>Kill Switch</source>
@@ -2987,11 +2991,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">تونل</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">پراکسی</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
@@ -3035,7 +3039,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">هیچ</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
@@ -3298,7 +3302,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">نامشخص</translation>
     </message>
     <message>
         <source>Latest</source>
@@ -3420,7 +3424,7 @@ Available version: %2</source>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">اتصال</translation>
     </message>
     <message>
         <source>Sign In</source>
@@ -3515,7 +3519,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">مکان‌های اخیر</translation>
     </message>
     <message>
         <source>Clear recent locations</source>

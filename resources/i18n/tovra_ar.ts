@@ -1937,7 +1937,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>For example 192.168.1.1, ::1</source>
-        <translation>مثال: 192.168.1.1، ::1</translation>
+        <translation>مثال: 192.168.1.1, ::1</translation>
     </message>
     <message>
         <source>Save servers</source>
@@ -2330,406 +2330,408 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تسجيل الدخول</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تسجيل الخروج</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل الحساب</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح صفحة التجديد</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحديث المواقع...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث المواقع قيد التنفيذ بالفعل</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث المفضلة</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث المواقع</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث مجموعات المواقع</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث المواقع</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الاتصال بهذا الموقع</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الاتصال</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر قطع الاتصال</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث اللغة</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إعادة تشغيل Tovra لتطبيق لغة الواجهة.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت إعادة تشغيل Tovra. يُرجى إعادة تشغيل التطبيق يدويًا.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تبديل الوضع</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث إعداد الشبكة المحلية</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث وكيل النظام</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى الانتظار حتى تنتهي العملية الحالية</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر وضع VPN لتفعيل مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث قواعد التقسيم المخصصة، لكن تعذّر إعادة تحميلها</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل قواعد التقسيم</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر استيراد قواعد التقسيم</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (لا قواعد)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (قاعدة واحدة)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (قاعدتان)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (%n قواعد)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (%n قاعدة)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (%n قاعدة)</numerusform>
         </translation>
     </message>
     <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل مسارات الإعدادات</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث عنوان URL لواجهة API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>أُعيد عنوان URL لواجهة API إلى الافتراضي</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>تم التحقق من عنوان URL لواجهة API وحفظه</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم حفظ عنوان URL لواجهة API دون التحقق منه</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث الاتصال التلقائي</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث عنوان استماع الوكيل</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>تم حفظ عنوان استماع الوكيل لإعادة الاتصال</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث عنوان استماع الوكيل</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث DNS المقسَّم</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث DNS المقسَّم</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل الإصلاح</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتمل الإصلاح</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق من توافق خدمة Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>واجهة Tovra وخدمتها غير متوافقتين. حدّث Tovra قبل المتابعة.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل الإصدار</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار الواجهة غير متاح</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر التحقق من وجود تحديثات</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra محدَّث</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق من تحديث إلزامي لـ Tovra قبل الاتصال.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إنهاء آخر عملية تحقق من التحديثات قبل بدء التنزيل...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>معلومات التحديث غير متاحة. تحقّق من وجود تحديثات مجددًا.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الإلغاء...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تأكيد بدء التنزيل. جارٍ التحقق من حالته...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر بدء تنزيل التحديث</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تأكيد الإلغاء. جارٍ إعادة المحاولة...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت قراءة تقدم التنزيل. جارٍ إعادة المحاولة...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتمل التنزيل قبل أن يتسنى إلغاؤه. لم يُفتح المثبّت.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تنزيل التحديث، لكن تعذّر فتح المثبّت.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>يعود التنزيل إلى إصدار تحديث مختلف. تحقّق من وجود تحديثات مجددًا.</translation>
     </message>
     <message>
         <source>Could not load kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Could not load API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل عنوان URL لواجهة API</translation>
     </message>
     <message>
         <source>Could not load split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل DNS المقسَّم</translation>
     </message>
     <message>
         <source>Could not reach the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الوصول إلى خدمة Tovra</translation>
     </message>
     <message>
         <source>Could not load languages</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل اللغات</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق من وجود تحديثات...</translation>
     </message>
     <message>
         <source>Tovra %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر Tovra %1</translation>
     </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished">حفظ</translation>
+        <translation>حفظ</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished">اختيار المناطق</translation>
+        <translation>اختيار المناطق</translation>
     </message>
     <message>
         <source>Search countries</source>
-        <translation type="unfinished"></translation>
+        <translation>البحث في الدول</translation>
     </message>
     <message>
         <source>Countries</source>
-        <translation type="unfinished"></translation>
+        <translation>الدول</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">إلغاء</translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها مباشرة، خارج النفق. وكل ما عدا ذلك يمر عبر النفق.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها مباشرة، لا عبر الوكيل. وكل ما عدا ذلك يمر عبر الوكيل.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها عبر النفق. وكل ما عدا ذلك يمر مباشرة.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها عبر الوكيل. وكل ما عدا ذلك يمر مباشرة.</translation>
     </message>
     <message>
         <source>Checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>المحدَّدة: %1</translation>
     </message>
     <message>
         <source>No country matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد دولة مطابقة لـ «%1».</translation>
     </message>
 </context>
 <context>
     <name>TovraSplitRulesEditorDialog</name>
     <message>
         <source>Rule list</source>
-        <translation type="unfinished"></translation>
+        <translation>قائمة القواعد</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>استيراد</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished">قواعد التقسيم المخصصة</translation>
+        <translation>قواعد التقسيم المخصصة</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>نطاق أو عنوان IP أو نطاق CIDR واحد في كل سطر، مثل example.org أو 203.0.113.7 أو 10.0.0.0/8. الأسطر التي تبدأ بـ # تعليقات.</translation>
     </message>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>القواعد</translation>
     </message>
     <message>
         <source>example.org
 *.example.net
 203.0.113.0/24</source>
-        <translation type="unfinished"></translation>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>إغلاق</translation>
     </message>
     <message>
         <source>Replace the chosen list with these rules</source>
-        <translation type="unfinished"></translation>
+        <translation>استبدال القائمة المختارة بهذه القواعد</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">مباشر</translation>
+        <translation>مباشر</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">الوكيل</translation>
+        <translation>الوكيل</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>حظر</translation>
     </message>
     <message>
         <source>Sites and addresses that always go direct</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع والعناوين التي تمر مباشرة دائمًا</translation>
     </message>
     <message>
         <source>Sites and addresses that always go through Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع والعناوين التي تمر عبر Tovra دائمًا</translation>
     </message>
     <message>
         <source>Sites and addresses that are blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع والعناوين المحظورة</translation>
     </message>
     <message>
         <source>Loading rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحميل القواعد…</translation>
     </message>
     <message>
         <source>The Tovra service reports no rule lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا تُبلغ خدمة Tovra عن أي قوائم قواعد.</translation>
     </message>
     <message>
         <source>Rules are not loaded yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يتم تحميل القواعد بعد.</translation>
     </message>
     <message>
         <source>Rules: %1 · Lines: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>القواعد: %1 · الأسطر: %2</translation>
     </message>
     <message>
         <source>not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُستورد</translation>
     </message>
     <message>
         <source>importing…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاستيراد…</translation>
     </message>
     <message>
         <source>Nothing was imported. Fix these lines first:</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يُستورد شيء. أصلح هذه الأسطر أولًا:</translation>
     </message>
     <message>
         <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
-        <translation type="unfinished"></translation>
+        <translation>السطر %1: «%2» ليس نطاقًا ولا عنوان IP ولا نطاق CIDR.</translation>
     </message>
     <message>
         <source>… Bad lines in all: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>… إجمالي الأسطر الخاطئة: %1.</translation>
     </message>
 </context>
 <context>
@@ -3360,7 +3362,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">جارٍ الإلغاء...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>

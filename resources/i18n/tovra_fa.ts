@@ -2330,401 +2330,403 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>ورود ممکن نشد</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>خروج ممکن نشد</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری حساب ممکن نشد</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن صفحهٔ تمدید ممکن نشد</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال تازه‌سازی مکان‌ها...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی مکان‌ها از قبل در جریان است</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی علاقه‌مندی ممکن نشد</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی مکان‌ها ممکن نشد</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی گروه‌های مکان ممکن نشد</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌ها به‌روز شدند</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال به این مکان ممکن نشد</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال ممکن نشد</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اتصال ممکن نشد</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>تغییر زبان ممکن نشد</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra برای اعمال زبان رابط کاربری دوباره راه‌اندازی می‌شود.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>راه‌اندازی دوبارهٔ Tovra ممکن نشد. لطفاً برنامه را خودتان دوباره اجرا کنید.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>تغییر حالت ممکن نشد</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی شبکهٔ محلی ممکن نشد</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی پراکسی سیستم ممکن نشد</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>لطفاً تا پایان عملیات فعلی صبر کنید</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>برای روشن کردن قطع اضطراری یک حالت VPN انتخاب کنید</translation>
     </message>
     <message>
         <source>Could not load kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری قطع اضطراری ممکن نشد</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی قطع اضطراری ممکن نشد</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد تفکیک سفارشی به‌روز شد، اما تازه‌سازی قواعد ممکن نشد</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری قواعد تفکیک ممکن نشد</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>درون‌ریزی قواعد تفکیک ممکن نشد</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>قواعد تفکیک سفارشی به‌روز شد (%n قاعده)</numerusform>
         </translation>
     </message>
     <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری مسیرهای پیکربندی ممکن نشد</translation>
     </message>
     <message>
         <source>Could not load API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری نشانی API ممکن نشد</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی نشانی API ممکن نشد</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی API به پیش‌فرض بازنشانی شد</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی API تأیید و ذخیره شد</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی API ذخیره شد اما تأیید نشد</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی اتصال خودکار ممکن نشد</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی نشانی شنود پراکسی ممکن نشد</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی شنود پراکسی برای اتصال دوباره ذخیره شد</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>نشانی شنود پراکسی به‌روز شد</translation>
     </message>
     <message>
         <source>Could not load split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری DNS تفکیکی ممکن نشد</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی DNS تفکیکی ممکن نشد</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS تفکیکی به‌روز شد</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>تعمیر ناموفق بود</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
+        <translation>تعمیر انجام شد</translation>
     </message>
     <message>
         <source>Could not reach the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>دسترسی به سرویس Tovra ممکن نشد</translation>
     </message>
     <message>
         <source>Could not load languages</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری زبان‌ها ممکن نشد</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بررسی به‌روزرسانی‌ها...</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>بررسی به‌روزرسانی‌ها ممکن نشد</translation>
     </message>
     <message>
         <source>Tovra %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra %1 در دسترس است</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra به‌روز است</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بررسی سازگاری سرویس Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>رابط کاربری Tovra و سرویس آن با هم سازگار نیستند. پیش از ادامه، Tovra را به‌روزرسانی کنید.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری نسخه ممکن نشد</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال لغو...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>شروع بارگیری به‌روزرسانی ممکن نشد</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>شروع بارگیری تأیید نشد. در حال بررسی وضعیت آن...</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>لغو تأیید نشد. در حال تلاش دوباره...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>خواندن پیشرفت بارگیری ممکن نشد. در حال تلاش دوباره...</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>این بارگیری مربوط به نسخهٔ دیگری از به‌روزرسانی است. دوباره به‌روزرسانی‌ها را بررسی کنید.</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگیری پیش از آنکه لغو شود کامل شد. نصب‌کننده باز نشد.</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>اطلاعات به‌روزرسانی در دسترس نیست. دوباره به‌روزرسانی‌ها را بررسی کنید.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی بارگیری شد، اما باز کردن نصب‌کننده ممکن نشد.</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخهٔ رابط کاربری در دسترس نیست</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>پیش از اتصال، یک به‌روزرسانی الزامی Tovra در حال بررسی است.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال تکمیل آخرین بررسی به‌روزرسانی پیش از شروع بارگیری...</translation>
     </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished">ذخیره</translation>
+        <translation>ذخیره</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished">انتخاب مناطق</translation>
+        <translation>انتخاب مناطق</translation>
     </message>
     <message>
         <source>Search countries</source>
-        <translation type="unfinished"></translation>
+        <translation>جست‌وجوی کشورها</translation>
     </message>
     <message>
         <source>Countries</source>
-        <translation type="unfinished"></translation>
+        <translation>کشورها</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">لغو</translation>
+        <translation>لغو</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک به مناطقی که علامت می‌زنید مستقیم و خارج از تونل می‌رود. بقیهٔ ترافیک از تونل عبور می‌کند.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک به مناطقی که علامت می‌زنید مستقیم و نه از طریق پراکسی می‌رود. بقیهٔ ترافیک از پراکسی عبور می‌کند.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک به مناطقی که علامت می‌زنید از تونل عبور می‌کند. بقیهٔ ترافیک مستقیم می‌رود.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک به مناطقی که علامت می‌زنید از پراکسی عبور می‌کند. بقیهٔ ترافیک مستقیم می‌رود.</translation>
     </message>
     <message>
         <source>Checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>علامت‌خورده: %1</translation>
     </message>
     <message>
         <source>No country matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>هیچ کشوری با «%1» مطابقت ندارد.</translation>
     </message>
 </context>
 <context>
     <name>TovraSplitRulesEditorDialog</name>
     <message>
         <source>Rule list</source>
-        <translation type="unfinished"></translation>
+        <translation>فهرست قواعد</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>درون‌ریزی</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished">قواعد تفکیک سفارشی</translation>
+        <translation>قواعد تفکیک سفارشی</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>در هر خط یک دامنه، نشانی IP یا بازهٔ CIDR، مانند example.org، 203.0.113.7 یا 10.0.0.0/8. خط‌هایی که با # شروع می‌شوند توضیح هستند.</translation>
     </message>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد</translation>
     </message>
     <message>
         <source>example.org
 *.example.net
 203.0.113.0/24</source>
-        <translation type="unfinished"></translation>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>بستن</translation>
     </message>
     <message>
         <source>Replace the chosen list with these rules</source>
-        <translation type="unfinished"></translation>
+        <translation>جایگزینی فهرست انتخاب‌شده با این قواعد</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">مستقیم</translation>
+        <translation>مستقیم</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">پراکسی</translation>
+        <translation>پراکسی</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>مسدود</translation>
     </message>
     <message>
         <source>Sites and addresses that always go direct</source>
-        <translation type="unfinished"></translation>
+        <translation>سایت‌ها و نشانی‌هایی که همیشه مستقیم می‌روند</translation>
     </message>
     <message>
         <source>Sites and addresses that always go through Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>سایت‌ها و نشانی‌هایی که همیشه از طریق Tovra می‌روند</translation>
     </message>
     <message>
         <source>Sites and addresses that are blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>سایت‌ها و نشانی‌های مسدودشده</translation>
     </message>
     <message>
         <source>Loading rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بارگذاری قواعد…</translation>
     </message>
     <message>
         <source>The Tovra service reports no rule lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس Tovra هیچ فهرست قاعده‌ای گزارش نمی‌کند.</translation>
     </message>
     <message>
         <source>Rules are not loaded yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد هنوز بارگذاری نشده‌اند.</translation>
     </message>
     <message>
         <source>Rules: %1 · Lines: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد: %1 · خط‌ها: %2</translation>
     </message>
     <message>
         <source>not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>درون‌ریزی نشده</translation>
     </message>
     <message>
         <source>importing…</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال درون‌ریزی…</translation>
     </message>
     <message>
         <source>Nothing was imported. Fix these lines first:</source>
-        <translation type="unfinished"></translation>
+        <translation>چیزی درون‌ریزی نشد. ابتدا این خط‌ها را اصلاح کنید:</translation>
     </message>
     <message>
         <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
-        <translation type="unfinished"></translation>
+        <translation>خط %1: «%2» دامنه، نشانی IP یا بازهٔ CIDR نیست.</translation>
     </message>
     <message>
         <source>… Bad lines in all: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>… مجموع خط‌های نادرست: %1.</translation>
     </message>
 </context>
 <context>
@@ -3355,7 +3357,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">در حال لغو...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>

@@ -2738,837 +2738,838 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ الاتصال...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ الاتصال بـ %1...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ: %1</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث تقسيم TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث مناطق TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث GFWList في TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN custom rules...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث القواعد المخصصة في TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث Tovra Proxy مقسَّم...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث مناطق Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث GFWList في Tovra Proxy...</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت العملية</translation>
     </message>
     <message>
         <source>log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد السجلات</translation>
     </message>
     <message>
         <source>missing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 غير محدد</translation>
     </message>
     <message>
         <source>%1 does not exist: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 غير موجود: %2</translation>
     </message>
     <message>
         <source>could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح %1: %2</translation>
     </message>
     <message>
         <source>Current: loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالي: جارٍ التحميل...</translation>
     </message>
     <message>
         <source>Refresh Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث المواقع</translation>
     </message>
     <message>
         <source>Loading nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحميل المواقع...</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">تلقائي</translation>
+        <translation>تلقائي</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished">WireGuard</translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
-        <translation type="unfinished"></translation>
+        <translation>الوضع: TovraVPN</translation>
     </message>
     <message>
         <source>Global</source>
-        <translation type="unfinished"></translation>
+        <translation>شامل</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>مقسَّم</translation>
     </message>
     <message>
         <source>Split Options</source>
-        <translation type="unfinished"></translation>
+        <translation>خيارات التقسيم</translation>
     </message>
     <message>
         <source>Default: Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>الافتراضي: النفق</translation>
     </message>
     <message>
         <source>Default: Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>الافتراضي: مباشر</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished">المناطق</translation>
+        <translation>المناطق</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← النفق</translation>
     </message>
     <message>
         <source>Custom Split Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد التقسيم المخصصة</translation>
     </message>
     <message>
         <source>Mode: Tovra Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>الوضع: Tovra Proxy</translation>
     </message>
     <message>
         <source>Default: Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>الافتراضي: الوكيل</translation>
     </message>
     <message>
         <source>GFWList -&gt; Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← الوكيل</translation>
     </message>
     <message>
         <source>Tovra: starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ البدء...</translation>
     </message>
     <message>
         <source>Daemon: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>الخدمة: جارٍ التحقق...</translation>
     </message>
     <message>
         <source>Open Tovra...</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح Tovra...</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">اتصال</translation>
+        <translation>اتصال</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع الاتصال</translation>
     </message>
     <message>
         <source>Node / Location</source>
-        <translation type="unfinished"></translation>
+        <translation>الموقع</translation>
     </message>
     <message>
         <source>System Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>وكيل النظام</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">إيقاف</translation>
+        <translation>إيقاف</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">تشغيل</translation>
+        <translation>تشغيل</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished">قفل</translation>
+        <translation>قفل</translation>
     </message>
     <message>
         <source>Local Network</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة المحلية</translation>
     </message>
     <message>
         <source>LAN Access</source>
-        <translation type="unfinished"></translation>
+        <translation>الوصول إلى الشبكة المحلية</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">مباشر</translation>
+        <translation>مباشر</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished">محمي</translation>
+        <translation>محمي</translation>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">مفتاح الإيقاف</translation>
+        <translation>مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Refresh Status</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث الحالة</translation>
     </message>
     <message>
         <source>Open Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح السجلات</translation>
     </message>
     <message>
         <source>Account: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب: جارٍ التحقق...</translation>
     </message>
     <message>
         <source>Logout</source>
-        <translation type="unfinished"></translation>
+        <translation>تسجيل الخروج</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>إنهاء</translation>
     </message>
     <message>
         <source>Tovra: daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: الخدمة غير متاحة</translation>
     </message>
     <message>
         <source>daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>الخدمة غير متاحة</translation>
     </message>
     <message>
         <source>Account: unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب: غير متاح</translation>
     </message>
     <message>
         <source>Tovra - daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra - الخدمة غير متاحة</translation>
     </message>
     <message>
         <source>Tovra: switching to auto...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ التبديل إلى التلقائي...</translation>
     </message>
     <message>
         <source>Tovra: switching to WireGuard...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ التبديل إلى WireGuard...</translation>
     </message>
     <message>
         <source>Tovra: switching to TovraVPN...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ التبديل إلى TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تبديل تقسيم TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ التبديل إلى Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ التبديل إلى Tovra Proxy مقسَّم...</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>System Proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>وكيل النظام: %1</translation>
     </message>
     <message>
         <source>Local Network: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الشبكة المحلية: %1</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished">النفق</translation>
+        <translation>النفق</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">الوكيل</translation>
+        <translation>الوكيل</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>المناطق بمسار %1: %2</translation>
     </message>
     <message>
         <source>Could not refresh nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث المواقع</translation>
     </message>
     <message>
         <source>Could not load nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل المواقع</translation>
     </message>
     <message>
         <source>Could not refresh node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث مجموعات المواقع</translation>
     </message>
     <message>
         <source>Could not load node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل مجموعات المواقع</translation>
     </message>
     <message>
         <source>Refreshing nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحديث المواقع...</translation>
     </message>
     <message>
         <source>Nodes not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>لم يتم تحميل المواقع</translation>
     </message>
     <message>
         <source>No cached nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مواقع محفوظة مؤقتًا</translation>
     </message>
     <message>
         <source>No nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>لا توجد مواقع</translation>
     </message>
     <message>
         <source>Current: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالي: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">لا شيء</translation>
+        <translation>لا شيء</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث المواقع (%1 ث)</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Location: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الموقع: %1</translation>
     </message>
     <message>
         <source>Location: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>الموقع: %1 · %2</translation>
     </message>
     <message>
         <source>Current: %1 (stale)</source>
-        <translation type="unfinished"></translation>
+        <translation>الحالي: %1 (قديم)</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>مجموعة</translation>
     </message>
     <message>
         <source>less than 1m</source>
-        <translation type="unfinished"></translation>
+        <translation>أقل من دقيقة</translation>
     </message>
     <message>
         <source>%1m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 د</translation>
     </message>
     <message>
         <source>%1h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 س</translation>
     </message>
     <message>
         <source>%1h %2m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 س %2 د</translation>
     </message>
     <message>
         <source>%1d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ي</translation>
     </message>
     <message>
         <source>%1d %2h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ي %2 س</translation>
     </message>
     <message>
         <source>Tovra: disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ قطع الاتصال...</translation>
     </message>
     <message>
         <source>Tovra: logging out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تسجيل الخروج...</translation>
     </message>
     <message>
         <source>Tovra: updating system proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث وكيل النظام...</translation>
     </message>
     <message>
         <source>Tovra: updating local network routing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تحديث توجيه الشبكة المحلية...</translation>
     </message>
     <message>
         <source>Tovra: enabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ تفعيل مفتاح الإيقاف...</translation>
     </message>
     <message>
         <source>Tovra: disabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ إيقاف مفتاح الإيقاف...</translation>
     </message>
     <message>
         <source>Tovra: connect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: فشل الاتصال</translation>
     </message>
     <message>
         <source>Tovra: disconnect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: فشل قطع الاتصال</translation>
     </message>
     <message>
         <source>Logged out</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تسجيل الخروج</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية الحساب</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية الوضع</translation>
     </message>
     <message>
         <source>Mode updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث الوضع</translation>
     </message>
     <message>
         <source>System proxy set to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تم ضبط وكيل النظام على %1</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم التحديث</translation>
     </message>
     <message>
         <source>Kill switch enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تفعيل مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Kill switch disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>تم إيقاف مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished">متصل</translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>غير متصل</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاتصال</translation>
     </message>
     <message>
         <source>disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ قطع الاتصال</translation>
     </message>
     <message>
         <source>ready</source>
-        <translation type="unfinished"></translation>
+        <translation>جاهز</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>Tovra: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: %1</translation>
     </message>
     <message>
         <source>running</source>
-        <translation type="unfinished"></translation>
+        <translation>قيد التشغيل</translation>
     </message>
     <message>
         <source>Daemon: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الخدمة: %1</translation>
     </message>
     <message>
         <source>Daemon: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>الخدمة: %1 (%2)</translation>
     </message>
     <message>
         <source>Account: cached</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب: محفوظ مؤقتًا</translation>
     </message>
     <message>
         <source>Account: Login Required</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب: يلزم تسجيل الدخول</translation>
     </message>
     <message>
         <source>Account: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب: %1</translation>
     </message>
     <message>
         <source>Account: logged in</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب: تم تسجيل الدخول</translation>
     </message>
     <message>
         <source>Kill Switch: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مفتاح الإيقاف: %1</translation>
     </message>
 </context>
 <context>
     <name>UpdateDialog</name>
     <message>
         <source>Could not read the update download status.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت قراءة حالة تنزيل التحديث.</translation>
     </message>
     <message>
         <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>أُلغي التنزيل.</translation>
     </message>
     <message>
         <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تنزيل التحديث.</translation>
     </message>
     <message>
         <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتمل التنزيل. جارٍ فتح المثبّت...</translation>
     </message>
     <message>
         <source>The download link is unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>رابط التنزيل غير متاح.</translation>
     </message>
     <message>
         <source>Could not open the update download link.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح رابط تنزيل التحديث.</translation>
     </message>
     <message>
         <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>فُتح رابط التنزيل في متصفحك. لن يشغّل Tovra المثبّت تلقائيًا.</translation>
     </message>
     <message>
         <source>Tovra Update</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث Tovra</translation>
     </message>
     <message>
         <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>يجب تحديث Tovra قبل أن تتمكن من الاتصال. نزّل المثبّت أو اخرج من Tovra.</translation>
     </message>
     <message>
         <source>What&apos;s New</source>
-        <translation type="unfinished"></translation>
+        <translation>ما الجديد</translation>
     </message>
     <message>
         <source>Download progress</source>
-        <translation type="unfinished"></translation>
+        <translation>تقدم التنزيل</translation>
     </message>
     <message>
         <source>Hide this update</source>
-        <translation type="unfinished"></translation>
+        <translation>إخفاء هذا التحديث</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>ليس الآن</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>الخروج من Tovra</translation>
     </message>
     <message>
         <source>Exit Tovra without updating</source>
-        <translation type="unfinished"></translation>
+        <translation>الخروج من Tovra دون تحديث</translation>
     </message>
     <message>
         <source>Open Download Link</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح رابط التنزيل</translation>
     </message>
     <message>
         <source>Open the Tovra update download link</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح رابط تنزيل تحديث Tovra</translation>
     </message>
     <message>
         <source>A required update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر تحديث إلزامي</translation>
     </message>
     <message>
         <source>A new Tovra update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>يتوفر تحديث جديد لـ Tovra</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished">غير معروف</translation>
+        <translation>غير معروف</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>الأحدث</translation>
     </message>
     <message>
         <source>Current version: %1
 Available version: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>الإصدار الحالي: %1
+الإصدار المتاح: %2</translation>
     </message>
     <message>
         <source>Release notes are unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>ملاحظات الإصدار غير متاحة.</translation>
     </message>
     <message>
         <source>Downloading %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تنزيل %1 من %2</translation>
     </message>
     <message>
         <source>Downloading update...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تنزيل التحديث...</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ميغابايت</translation>
     </message>
     <message>
         <source>Preparing the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تجهيز التنزيل...</translation>
     </message>
     <message>
         <source>Verifying the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق من التنزيل...</translation>
     </message>
     <message>
         <source>Canceling the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إلغاء التنزيل...</translation>
     </message>
     <message>
         <source>Download in Background</source>
-        <translation type="unfinished"></translation>
+        <translation>التنزيل في الخلفية</translation>
     </message>
     <message>
         <source>Download the latest installer without interrupting your current session.</source>
-        <translation type="unfinished"></translation>
+        <translation>نزّل أحدث مثبّت دون مقاطعة جلستك الحالية.</translation>
     </message>
     <message>
         <source>Hide this window while the update downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>إخفاء هذه النافذة أثناء تنزيل التحديث</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished">جارٍ الإلغاء...</translation>
+        <translation>جارٍ الإلغاء...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء تنزيل التحديث</translation>
     </message>
     <message>
         <source>Cancel Download</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء التنزيل</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ فتح المثبّت...</translation>
     </message>
     <message>
         <source>Retry Download</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة التنزيل</translation>
     </message>
     <message>
         <source>Retry the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>إعادة محاولة تنزيل التحديث</translation>
     </message>
     <message>
         <source>Download Update</source>
-        <translation type="unfinished"></translation>
+        <translation>تنزيل التحديث</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
-        <translation type="unfinished"></translation>
+        <translation>تنزيل تحديث Tovra وتثبيته</translation>
     </message>
 </context>
 <context>
     <name>UpdatesSection</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>التحديثات</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>التحقق من وجود تحديثات</translation>
     </message>
     <message>
         <source>Tovra for Linux</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra لنظام Linux</translation>
     </message>
     <message>
         <source>The version of this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار هذا التطبيق.</translation>
     </message>
     <message>
         <source>Ask the Tovra service for a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>اسأل خدمة Tovra عن إصدار أحدث.</translation>
     </message>
     <message>
         <source>%1 (build %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (البنية %2)</translation>
     </message>
 </context>
 <context>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">مفتاح الإيقاف</translation>
+        <translation>مفتاح الإيقاف</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">اتصال</translation>
+        <translation>اتصال</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished">تسجيل الدخول</translation>
+        <translation>تسجيل الدخول</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">إلغاء</translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع الاتصال</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ قطع الاتصال…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Service unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>الخدمة غير متاحة</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>في انتظار استجابة خدمة Tovra.</translation>
     </message>
     <message>
         <source>Signed out</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تسجيل الخروج</translation>
     </message>
     <message>
         <source>Sign in to your Tovra account to connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>سجّل الدخول إلى حساب Tovra للاتصال.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>الموقع</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished">آخر موقع</translation>
+        <translation>آخر موقع</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>Your traffic goes through the Tovra tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>تمر حركة المرور عبر نفق Tovra.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاتصال…</translation>
     </message>
     <message>
         <source>Setting up the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إعداد النفق.</translation>
     </message>
     <message>
         <source>Connecting to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الاتصال بـ %1</translation>
     </message>
     <message>
         <source>Closing the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إغلاق النفق.</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>غير متصل</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحظر مفتاح الإيقاف حركة المرور حتى تتصل.</translation>
     </message>
     <message>
         <source>Your traffic is not protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>حركة المرور غير محمية.</translation>
     </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح</translation>
     </message>
     <message>
         <source>Locations you connect to appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>تظهر هنا المواقع التي تتصل بها.</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished">المواقع الأخيرة</translation>
+        <translation>المواقع الأخيرة</translation>
     </message>
     <message>
         <source>Clear recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>مسح المواقع الأخيرة</translation>
     </message>
     <message>
         <source>Connect to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الاتصال بـ %1</translation>
     </message>
 </context>
 <context>
     <name>VpnStatusCard</name>
     <message>
         <source>Connected for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مدة الاتصال: %1</translation>
     </message>
     <message>
         <source>Mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>الوضع: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح الرابط</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد السجلات غير متاح</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد السجلات غير موجود: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح مجلد السجلات: %1</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished">فشلت عملية الحساب</translation>
+        <translation>فشلت عملية الحساب</translation>
     </message>
 </context>
 </TS>

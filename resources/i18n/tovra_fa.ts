@@ -2733,837 +2733,838 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال اتصال...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال اتصال به %1...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی تفکیک TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی مناطق TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی GFWList در TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN custom rules...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی قواعد سفارشی TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی Tovra Proxy تفکیکی...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی مناطق Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی GFWList در Tovra Proxy...</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات ناموفق بود</translation>
     </message>
     <message>
         <source>log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>پوشهٔ گزارش‌ها</translation>
     </message>
     <message>
         <source>missing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 مشخص نشده است</translation>
     </message>
     <message>
         <source>%1 does not exist: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 وجود ندارد: %2</translation>
     </message>
     <message>
         <source>could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن %1 ممکن نشد: %2</translation>
     </message>
     <message>
         <source>Current: loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>فعلی: در حال بارگذاری...</translation>
     </message>
     <message>
         <source>Refresh Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی مکان‌ها</translation>
     </message>
     <message>
         <source>Loading nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بارگذاری مکان‌ها...</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">خودکار</translation>
+        <translation>خودکار</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished">WireGuard</translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت: TovraVPN</translation>
     </message>
     <message>
         <source>Global</source>
-        <translation type="unfinished"></translation>
+        <translation>سراسری</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>تفکیکی</translation>
     </message>
     <message>
         <source>Split Options</source>
-        <translation type="unfinished"></translation>
+        <translation>گزینه‌های تفکیک</translation>
     </message>
     <message>
         <source>Default: Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>پیش‌فرض: تونل</translation>
     </message>
     <message>
         <source>Default: Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>پیش‌فرض: مستقیم</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished">مناطق</translation>
+        <translation>مناطق</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← تونل</translation>
     </message>
     <message>
         <source>Custom Split Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>قواعد تفکیک سفارشی</translation>
     </message>
     <message>
         <source>Mode: Tovra Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت: Tovra Proxy</translation>
     </message>
     <message>
         <source>Default: Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>پیش‌فرض: پراکسی</translation>
     </message>
     <message>
         <source>GFWList -&gt; Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList ← پراکسی</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Tovra: starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال شروع...</translation>
     </message>
     <message>
         <source>Daemon: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس: در حال بررسی...</translation>
     </message>
     <message>
         <source>Open Tovra...</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن Tovra...</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">اتصال</translation>
+        <translation>اتصال</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اتصال</translation>
     </message>
     <message>
         <source>Node / Location</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان</translation>
     </message>
     <message>
         <source>System Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>پراکسی سیستم</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">خاموش</translation>
+        <translation>خاموش</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">روشن</translation>
+        <translation>روشن</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished">قفل</translation>
+        <translation>قفل</translation>
     </message>
     <message>
         <source>Local Network</source>
-        <translation type="unfinished"></translation>
+        <translation>شبکهٔ محلی</translation>
     </message>
     <message>
         <source>LAN Access</source>
-        <translation type="unfinished"></translation>
+        <translation>دسترسی شبکهٔ محلی</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">مستقیم</translation>
+        <translation>مستقیم</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished">محافظت‌شده</translation>
+        <translation>محافظت‌شده</translation>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">قطع اضطراری</translation>
+        <translation>قطع اضطراری</translation>
     </message>
     <message>
         <source>Refresh Status</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی وضعیت</translation>
     </message>
     <message>
         <source>Open Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن گزارش‌ها</translation>
     </message>
     <message>
         <source>Account: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب: در حال بررسی...</translation>
     </message>
     <message>
         <source>Logout</source>
-        <translation type="unfinished"></translation>
+        <translation>خروج</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>خروج از برنامه</translation>
     </message>
     <message>
         <source>Tovra: daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: سرویس در دسترس نیست</translation>
     </message>
     <message>
         <source>daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس در دسترس نیست</translation>
     </message>
     <message>
         <source>Account: unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب: در دسترس نیست</translation>
     </message>
     <message>
         <source>Tovra - daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra - سرویس در دسترس نیست</translation>
     </message>
     <message>
         <source>Tovra: switching to auto...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال رفتن به خودکار...</translation>
     </message>
     <message>
         <source>Tovra: switching to WireGuard...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال رفتن به WireGuard...</translation>
     </message>
     <message>
         <source>Tovra: switching to TovraVPN...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال رفتن به TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال تغییر تفکیک TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال رفتن به Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال رفتن به Tovra Proxy تفکیکی...</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>System Proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>پراکسی سیستم: %1</translation>
     </message>
     <message>
         <source>Local Network: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>شبکهٔ محلی: %1</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished">تونل</translation>
+        <translation>تونل</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">پراکسی</translation>
+        <translation>پراکسی</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>مناطق با مسیر %1: %2</translation>
     </message>
     <message>
         <source>Could not refresh nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی مکان‌ها ممکن نشد</translation>
     </message>
     <message>
         <source>Could not load nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری مکان‌ها ممکن نشد</translation>
     </message>
     <message>
         <source>Could not refresh node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی گروه‌های مکان ممکن نشد</translation>
     </message>
     <message>
         <source>Could not load node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگذاری گروه‌های مکان ممکن نشد</translation>
     </message>
     <message>
         <source>Refreshing nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال تازه‌سازی مکان‌ها...</translation>
     </message>
     <message>
         <source>Nodes not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌ها بارگذاری نشده‌اند</translation>
     </message>
     <message>
         <source>No cached nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان ذخیره‌شده‌ای وجود ندارد</translation>
     </message>
     <message>
         <source>No nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>مکانی وجود ندارد</translation>
     </message>
     <message>
         <source>Current: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>فعلی: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">هیچ</translation>
+        <translation>هیچ</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌سازی مکان‌ها (%1 ث)</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Location: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان: %1</translation>
     </message>
     <message>
         <source>Location: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان: %1 · %2</translation>
     </message>
     <message>
         <source>Current: %1 (stale)</source>
-        <translation type="unfinished"></translation>
+        <translation>فعلی: %1 (قدیمی)</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>گروه</translation>
     </message>
     <message>
         <source>less than 1m</source>
-        <translation type="unfinished"></translation>
+        <translation>کمتر از 1 دقیقه</translation>
     </message>
     <message>
         <source>%1m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 دقیقه</translation>
     </message>
     <message>
         <source>%1h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ساعت</translation>
     </message>
     <message>
         <source>%1h %2m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ساعت %2 دقیقه</translation>
     </message>
     <message>
         <source>%1d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 روز</translation>
     </message>
     <message>
         <source>%1d %2h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 روز %2 ساعت</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطا: %1</translation>
     </message>
     <message>
         <source>Tovra: disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال قطع اتصال...</translation>
     </message>
     <message>
         <source>Tovra: logging out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال خروج...</translation>
     </message>
     <message>
         <source>Tovra: updating system proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی پراکسی سیستم...</translation>
     </message>
     <message>
         <source>Tovra: updating local network routing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال به‌روزرسانی مسیریابی شبکهٔ محلی...</translation>
     </message>
     <message>
         <source>Tovra: enabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال روشن کردن قطع اضطراری...</translation>
     </message>
     <message>
         <source>Tovra: disabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: در حال خاموش کردن قطع اضطراری...</translation>
     </message>
     <message>
         <source>Tovra: connect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: اتصال ناموفق بود</translation>
     </message>
     <message>
         <source>Tovra: disconnect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: قطع اتصال ناموفق بود</translation>
     </message>
     <message>
         <source>Logged out</source>
-        <translation type="unfinished"></translation>
+        <translation>از حساب خارج شدید</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات حساب ناموفق بود</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات حالت ناموفق بود</translation>
     </message>
     <message>
         <source>Mode updated</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت به‌روز شد</translation>
     </message>
     <message>
         <source>System proxy set to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>پراکسی سیستم روی %1 تنظیم شد</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روز شد</translation>
     </message>
     <message>
         <source>Kill switch enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری روشن شد</translation>
     </message>
     <message>
         <source>Kill switch disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری خاموش شد</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>عملیات قطع اضطراری ناموفق بود</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished">وصل</translation>
+        <translation>وصل</translation>
     </message>
     <message>
         <source>disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اتصال</translation>
     </message>
     <message>
         <source>disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال قطع اتصال</translation>
     </message>
     <message>
         <source>ready</source>
-        <translation type="unfinished"></translation>
+        <translation>آماده</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>نامشخص</translation>
     </message>
     <message>
         <source>Tovra: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: %1</translation>
     </message>
     <message>
         <source>running</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اجرا</translation>
     </message>
     <message>
         <source>Daemon: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس: %1</translation>
     </message>
     <message>
         <source>Daemon: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس: %1 (%2)</translation>
     </message>
     <message>
         <source>Account: cached</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب: ذخیره‌شده</translation>
     </message>
     <message>
         <source>Account: Login Required</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب: ورود لازم است</translation>
     </message>
     <message>
         <source>Account: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب: %1</translation>
     </message>
     <message>
         <source>Account: logged in</source>
-        <translation type="unfinished"></translation>
+        <translation>حساب: وارد شده‌اید</translation>
     </message>
     <message>
         <source>Kill Switch: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری: %1</translation>
     </message>
 </context>
 <context>
     <name>UpdateDialog</name>
     <message>
         <source>Could not read the update download status.</source>
-        <translation type="unfinished"></translation>
+        <translation>خواندن وضعیت بارگیری به‌روزرسانی ممکن نشد.</translation>
     </message>
     <message>
         <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگیری لغو شد.</translation>
     </message>
     <message>
         <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگیری به‌روزرسانی ممکن نشد.</translation>
     </message>
     <message>
         <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگیری کامل شد. در حال باز کردن نصب‌کننده...</translation>
     </message>
     <message>
         <source>The download link is unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>پیوند بارگیری در دسترس نیست.</translation>
     </message>
     <message>
         <source>Could not open the update download link.</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن پیوند بارگیری به‌روزرسانی ممکن نشد.</translation>
     </message>
     <message>
         <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>پیوند بارگیری در مرورگر شما باز شد. Tovra نصب‌کننده را خودکار اجرا نمی‌کند.</translation>
     </message>
     <message>
         <source>Tovra Update</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی Tovra</translation>
     </message>
     <message>
         <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>پیش از اتصال باید Tovra را به‌روزرسانی کنید. نصب‌کننده را بارگیری کنید یا از Tovra خارج شوید.</translation>
     </message>
     <message>
         <source>What&apos;s New</source>
-        <translation type="unfinished"></translation>
+        <translation>تازه‌ها</translation>
     </message>
     <message>
         <source>Download progress</source>
-        <translation type="unfinished"></translation>
+        <translation>پیشرفت بارگیری</translation>
     </message>
     <message>
         <source>Hide this update</source>
-        <translation type="unfinished"></translation>
+        <translation>پنهان کردن این به‌روزرسانی</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>اکنون نه</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>خروج از Tovra</translation>
     </message>
     <message>
         <source>Exit Tovra without updating</source>
-        <translation type="unfinished"></translation>
+        <translation>خروج از Tovra بدون به‌روزرسانی</translation>
     </message>
     <message>
         <source>Open Download Link</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن پیوند بارگیری</translation>
     </message>
     <message>
         <source>Open the Tovra update download link</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن پیوند بارگیری به‌روزرسانی Tovra</translation>
     </message>
     <message>
         <source>A required update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>یک به‌روزرسانی الزامی در دسترس است</translation>
     </message>
     <message>
         <source>A new Tovra update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی جدیدی برای Tovra در دسترس است</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished">نامشخص</translation>
+        <translation>نامشخص</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>جدیدترین</translation>
     </message>
     <message>
         <source>Current version: %1
 Available version: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخهٔ فعلی: %1
+نسخهٔ در دسترس: %2</translation>
     </message>
     <message>
         <source>Release notes are unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>یادداشت‌های انتشار در دسترس نیست.</translation>
     </message>
     <message>
         <source>Downloading %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بارگیری %1 از %2</translation>
     </message>
     <message>
         <source>Downloading update...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بارگیری به‌روزرسانی...</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 مگابایت</translation>
     </message>
     <message>
         <source>Preparing the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال آماده‌سازی بارگیری...</translation>
     </message>
     <message>
         <source>Verifying the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال تأیید بارگیری...</translation>
     </message>
     <message>
         <source>Canceling the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال لغو بارگیری...</translation>
     </message>
     <message>
         <source>Download in Background</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگیری در پس‌زمینه</translation>
     </message>
     <message>
         <source>Download the latest installer without interrupting your current session.</source>
-        <translation type="unfinished"></translation>
+        <translation>آخرین نصب‌کننده را بدون وقفه در کار فعلی‌تان بارگیری کنید.</translation>
     </message>
     <message>
         <source>Hide this window while the update downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>پنهان کردن این پنجره هنگام بارگیری به‌روزرسانی</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished">در حال لغو...</translation>
+        <translation>در حال لغو...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>لغو بارگیری به‌روزرسانی</translation>
     </message>
     <message>
         <source>Cancel Download</source>
-        <translation type="unfinished"></translation>
+        <translation>لغو بارگیری</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال باز کردن نصب‌کننده...</translation>
     </message>
     <message>
         <source>Retry Download</source>
-        <translation type="unfinished"></translation>
+        <translation>تلاش دوباره</translation>
     </message>
     <message>
         <source>Retry the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>تلاش دوباره برای بارگیری به‌روزرسانی</translation>
     </message>
     <message>
         <source>Download Update</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگیری به‌روزرسانی</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
-        <translation type="unfinished"></translation>
+        <translation>بارگیری و نصب به‌روزرسانی Tovra</translation>
     </message>
 </context>
 <context>
     <name>UpdatesSection</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>به‌روزرسانی‌ها</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>بررسی به‌روزرسانی‌ها</translation>
     </message>
     <message>
         <source>Tovra for Linux</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra برای Linux</translation>
     </message>
     <message>
         <source>The version of this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>نسخهٔ این برنامه.</translation>
     </message>
     <message>
         <source>Ask the Tovra service for a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>از سرویس Tovra دربارهٔ نسخهٔ جدیدتر بپرسید.</translation>
     </message>
     <message>
         <source>%1 (build %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (ساخت %2)</translation>
     </message>
 </context>
 <context>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">قطع اضطراری</translation>
+        <translation>قطع اضطراری</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">اتصال</translation>
+        <translation>اتصال</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished">ورود</translation>
+        <translation>ورود</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">لغو</translation>
+        <translation>لغو</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اتصال</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال قطع اتصال…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Service unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>سرویس در دسترس نیست</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>در انتظار پاسخ سرویس Tovra.</translation>
     </message>
     <message>
         <source>Signed out</source>
-        <translation type="unfinished"></translation>
+        <translation>خارج شده‌اید</translation>
     </message>
     <message>
         <source>Sign in to your Tovra account to connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>برای اتصال به حساب Tovra خود وارد شوید.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished">آخرین مکان</translation>
+        <translation>آخرین مکان</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>وصل</translation>
     </message>
     <message>
         <source>Your traffic goes through the Tovra tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک شما از تونل Tovra عبور می‌کند.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اتصال…</translation>
     </message>
     <message>
         <source>Setting up the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال برقراری تونل.</translation>
     </message>
     <message>
         <source>Connecting to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال اتصال به %1</translation>
     </message>
     <message>
         <source>Closing the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>در حال بستن تونل.</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>قطع اضطراری تا زمان اتصال، ترافیک را مسدود می‌کند.</translation>
     </message>
     <message>
         <source>Your traffic is not protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>ترافیک شما محافظت نمی‌شود.</translation>
     </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>پاک کردن</translation>
     </message>
     <message>
         <source>Locations you connect to appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>مکان‌هایی که به آن‌ها وصل می‌شوید اینجا نمایش داده می‌شوند.</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished">مکان‌های اخیر</translation>
+        <translation>مکان‌های اخیر</translation>
     </message>
     <message>
         <source>Clear recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>پاک کردن مکان‌های اخیر</translation>
     </message>
     <message>
         <source>Connect to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>اتصال به %1</translation>
     </message>
 </context>
 <context>
     <name>VpnStatusCard</name>
     <message>
         <source>Connected for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مدت اتصال: %1</translation>
     </message>
     <message>
         <source>Mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>حالت: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished">عملیات حساب ناموفق بود</translation>
+        <translation>عملیات حساب ناموفق بود</translation>
     </message>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن پیوند ممکن نشد</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>پوشهٔ گزارش‌ها در دسترس نیست</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>پوشهٔ گزارش‌ها وجود ندارد: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>باز کردن پوشهٔ گزارش‌ها ممکن نشد: %1</translation>
     </message>
 </context>
 </TS>

@@ -1597,7 +1597,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>None of the locations in %1 is included in your plan.</source>
-        <translation>لا يشمل اشتراكك أيًا من المواقع في %1.</translation>
+        <translation>لا تشمل خطتك أيًا من المواقع في %1.</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>

@@ -59,7 +59,7 @@
     </message>
     <message>
         <source>Sign Out</source>
-        <translation>خروج</translation>
+        <translation>خروج از حساب</translation>
     </message>
     <message>
         <source>Signed in</source>
@@ -83,7 +83,7 @@
     </message>
     <message>
         <source>Signing out...</source>
-        <translation>در حال خروج...</translation>
+        <translation>در حال خروج از حساب...</translation>
     </message>
     <message>
         <source>Opening…</source>
@@ -185,7 +185,7 @@
     </message>
     <message>
         <source>connected</source>
-        <translation>وصل</translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>not in your plan</source>
@@ -2334,7 +2334,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation>خروج ممکن نشد</translation>
+        <translation>خروج از حساب ممکن نشد</translation>
     </message>
     <message>
         <source>Could not load account</source>
@@ -2933,11 +2933,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Logout</source>
-        <translation>خروج</translation>
+        <translation>خروج از حساب</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation>خروج از برنامه</translation>
+        <translation>خروج</translation>
     </message>
     <message>
         <source>Tovra: daemon unavailable</source>
@@ -3101,7 +3101,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Tovra: logging out...</source>
-        <translation>Tovra: در حال خروج...</translation>
+        <translation>Tovra: در حال خروج از حساب...</translation>
     </message>
     <message>
         <source>Tovra: updating system proxy...</source>
@@ -3165,7 +3165,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>connected</source>
-        <translation>وصل</translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>disconnected</source>
@@ -3475,7 +3475,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Connected</source>
-        <translation>وصل</translation>
+        <translation>متصل</translation>
     </message>
     <message>
         <source>Your traffic goes through the Tovra tunnel.</source>
@@ -3499,7 +3499,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation>قطع</translation>
+        <translation>قطع شده</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>

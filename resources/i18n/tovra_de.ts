@@ -5,288 +5,288 @@
     <name>AccountPage</name>
     <message>
         <source>Enter account and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie Konto und Passwort ein.</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontovorgang fehlgeschlagen</translation>
     </message>
 </context>
 <context>
     <name>AccountSignInCard</name>
     <message>
         <source>Remember this account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto merken</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Use your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <translation>Melden Sie sich mit Ihrem Tovra-Konto an, um Verbindungen herzustellen und die verfügbaren Standorte abzurufen.</translation>
     </message>
     <message>
         <source>Email or user ID</source>
-        <translation type="unfinished"></translation>
+        <translation>E-Mail oder Benutzer-ID</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort</translation>
     </message>
     <message>
         <source>Sign Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrieren</translation>
     </message>
     <message>
         <source>Forgot password?</source>
-        <translation type="unfinished"></translation>
+        <translation>Passwort vergessen?</translation>
     </message>
     <message>
         <source>Signing in...</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung läuft...</translation>
     </message>
 </context>
 <context>
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlängern</translation>
     </message>
     <message>
         <source>Sign Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmelden</translation>
     </message>
     <message>
         <source>Signed in</source>
-        <translation type="unfinished"></translation>
+        <translation>Angemeldet</translation>
     </message>
     <message>
         <source>User ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Benutzer-ID: %1</translation>
     </message>
     <message>
         <source>Plan: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tarif: %1</translation>
     </message>
     <message>
         <source>Days left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbleibende Tage: %1</translation>
     </message>
     <message>
         <source>Max simultaneous devices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. gleichzeitige Geräte: %1</translation>
     </message>
     <message>
         <source>Signing out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmeldung läuft...</translation>
     </message>
     <message>
         <source>Opening…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird geöffnet…</translation>
     </message>
 </context>
 <context>
     <name>AppSection</name>
     <message>
         <source>App</source>
-        <translation type="unfinished"></translation>
+        <translation>App</translation>
     </message>
     <message>
         <source>Change…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern…</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei Anmeldung starten</translation>
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra im Infobereich starten, wenn Sie sich am Desktop anmelden.</translation>
     </message>
     <message>
         <source>Show window at launch</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster beim Start anzeigen</translation>
     </message>
     <message>
         <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Fenster öffnen, wenn Tovra startet; sonst erscheint nur das Symbol im Infobereich.</translation>
     </message>
     <message>
         <source>Same as desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie Desktop</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Dunkel</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Erscheinungsbild</translation>
     </message>
     <message>
         <source>Light, dark, or following the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hell, dunkel oder wie der Desktop.</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache ändern</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>%1, following the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, wie der Desktop</translation>
     </message>
     <message>
         <source>Could not update login startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Autostart konnte nicht aktualisiert werden</translation>
     </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
     <message>
         <source>Location %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Standort %1</translation>
     </message>
     <message>
         <source>Other locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Standorte</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>Premium</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte: %1</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>latency not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>Latenz nicht gemessen</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>verbunden</translation>
     </message>
     <message>
         <source>not in your plan</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht in Ihrem Tarif</translation>
     </message>
     <message>
         <source>Your plan does not include this location. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Tarif enthält diesen Standort nicht. Führen Sie ein Upgrade durch, um ihn zu nutzen.</translation>
     </message>
     <message>
         <source>This list may be out of date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Liste ist möglicherweise veraltet.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
 </context>
 <context>
     <name>ConnectionSection</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung</translation>
     </message>
     <message>
         <source>API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf Standard zurücksetzen</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzter Standort</translation>
     </message>
     <message>
         <source>Fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellster Standort</translation>
     </message>
     <message>
         <source>Auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch verbinden</translation>
     </message>
     <message>
         <source>What the Tovra service connects to when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Womit sich der Tovra-Dienst beim Start verbindet.</translation>
     </message>
     <message>
         <source>Save API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL speichern</translation>
     </message>
     <message>
         <source>Reset API URL to default</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL auf Standard zurücksetzen</translation>
     </message>
     <message>
         <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
-        <translation type="unfinished"></translation>
+        <translation>Über diese Adresse erreicht der Tovra-Dienst die Konto- und Standortserver. Ändern Sie sie nur, wenn der Support Sie darum bittet.</translation>
     </message>
     <message>
         <source>Validation: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Prüfung: %1</translation>
     </message>
     <message>
         <source>Validated by the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Tovra-Dienst geprüft</translation>
     </message>
     <message>
         <source>Not validated: the Tovra service saved this address but could not confirm it</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht geprüft: Der Tovra-Dienst hat diese Adresse gespeichert, konnte sie aber nicht bestätigen</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tovra-Dienst läuft nicht.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff auf den Tovra-Dienst verweigert. Fügen Sie diesen Benutzer der Gruppe tovracli hinzu und melden Sie sich dann ab und wieder an.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Verbindung zum Tovra-Dienst möglich.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tovra-Dienst ist zu alt für Kill-Switch-Modi. Aktualisieren Sie Tovra.</translation>
     </message>
 </context>
 <context>
@@ -1228,103 +1228,103 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfiguration</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufzeit</translation>
     </message>
     <message>
         <source>Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolle</translation>
     </message>
     <message>
         <source>State file</source>
-        <translation type="unfinished"></translation>
+        <translation>Statusdatei</translation>
     </message>
     <message>
         <source>Credentials key</source>
-        <translation type="unfinished"></translation>
+        <translation>Schlüssel für Zugangsdaten</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlauf</translation>
     </message>
     <message>
         <source>Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile</translation>
     </message>
     <message>
         <source>Control socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuer-Socket</translation>
     </message>
     <message>
         <source>PID file</source>
-        <translation type="unfinished"></translation>
+        <translation>PID-Datei</translation>
     </message>
     <message>
         <source>Control address</source>
-        <translation type="unfinished"></translation>
+        <translation>Steueradresse</translation>
     </message>
     <message>
         <source>Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnose</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparieren</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolle öffnen</translation>
     </message>
     <message>
         <source>Repair connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung reparieren</translation>
     </message>
     <message>
         <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
-        <translation type="unfinished"></translation>
+        <translation>Setzt Kill Switch, lokalen Proxy und Tunnel zurück, wenn der Datenverkehr hängt.</translation>
     </message>
     <message>
         <source>The Tovra service&apos;s log folder, for support.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Protokollordner des Tovra-Dienstes, für den Support.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
-        <translation type="unfinished"></translation>
+        <translation>Pfad für %1 kopieren</translation>
     </message>
     <message>
         <source>Service paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienstpfade</translation>
     </message>
     <message>
         <source>Where the Tovra service keeps its files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo der Tovra-Dienst seine Dateien ablegt.</translation>
     </message>
     <message>
         <source>Tovra service version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version des Tovra-Dienstes</translation>
     </message>
     <message>
         <source>Control protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>Steuerprotokoll</translation>
     </message>
     <message>
         <source>This app speaks version 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese App verwendet Version 1.</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht festgelegt</translation>
     </message>
     <message>
         <source>%1, not compatible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, nicht kompatibel</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1362,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation>Sperre</translation>
+        <translation>Sperrmodus</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation>Sperre nicht verfügbar</translation>
+        <translation>Sperrmodus nicht verfügbar</translation>
     </message>
     <message>
         <source>On</source>
@@ -1378,168 +1378,168 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch benötigt einen VPN-Modus</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch funktioniert nicht mit Tovra Proxy. Wechseln Sie zu Auto (empfohlen), TovraVPN oder WireGuard, um ihn einzuschalten.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Auto wechseln und einschalten</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Auto wechseln und Kill Switch einschalten</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus wählen…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus für Kill Switch wählen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy erfordert, dass Kill Switch aus ist</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch blockiert Tovra Proxy. Schalten Sie zuerst Kill Switch in den Einstellungen aus und wechseln Sie dann den Modus.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen, um Kill Switch auszuschalten</translation>
     </message>
 </context>
 <context>
     <name>KillSwitchSection</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch</translation>
     </message>
     <message>
         <source>Block traffic outside the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr außerhalb des Tunnels blockieren</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">Automatisch</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange Tovra verbunden ist oder sich verbindet.</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Immer</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange Kill Switch eingeschaltet ist, auch ohne Verbindung.</translation>
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished">Sperre</translation>
+        <translation>Sperrmodus</translation>
     </message>
     <message>
         <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vom Tovra-Dienst festgelegt: Datenverkehr außerhalb des Tunnels bleibt blockiert und Kill Switch lässt sich hier nicht ausschalten.</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>When Kill Switch blocks traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wann Kill Switch Datenverkehr blockiert.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Netzwerk</translation>
     </message>
     <message>
         <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob Drucker, Freigaben und andere Geräte in der Nähe erreichbar bleiben, während Datenverkehr blockiert wird.</translation>
     </message>
     <message>
         <source>Kill Switch mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill-Switch-Modus: %1</translation>
     </message>
     <message>
         <source>Now: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuell: %1</translation>
     </message>
     <message>
         <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Der Tovra-Dienst hält Kill Switch eingeschaltet; er lässt sich hier nicht ausschalten.</translation>
     </message>
     <message>
         <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy ist aktiv: Kill Switch benötigt einen VPN-Modus.</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreichbar</translation>
     </message>
     <message>
         <source>Blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Blockiert</translation>
     </message>
 </context>
 <context>
     <name>LanguagePickerDialog</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>Use system language</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemsprache verwenden</translation>
     </message>
     <message>
         <source>Use system language (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemsprache verwenden (%1)</translation>
     </message>
     <message>
         <source>Follow the desktop&apos;s language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache des Desktops übernehmen</translation>
     </message>
     <message>
         <source>Choose a language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache wählen</translation>
     </message>
     <message>
         <source>Tovra restarts to show the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra wird neu gestartet, um die neue Sprache anzuzeigen.</translation>
     </message>
     <message>
         <source>Search languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprachen suchen</translation>
     </message>
     <message>
         <source>Languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprachen</translation>
     </message>
     <message>
         <source>Use language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache verwenden</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
 </context>
 <context>
@@ -1547,221 +1547,225 @@
     <message>
         <source>The Tovra service is not available.
 Locations appear here as soon as it responds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tovra-Dienst ist nicht verfügbar.
+Standorte erscheinen hier, sobald er antwortet.</translation>
     </message>
     <message>
         <source>Loading locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte werden geladen...</translation>
     </message>
     <message>
         <source>The service has no locations to offer right now.
 Try Refresh in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Dienst bietet gerade keine Standorte an.
+Versuchen Sie es gleich noch einmal mit „Aktualisieren“.</translation>
     </message>
     <message>
         <source>No favourites yet.
 Star a location (or select it and press Space) to keep it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch keine Favoriten.
+Markieren Sie einen Standort mit dem Stern (oder wählen Sie ihn aus und drücken Sie die Leertaste), um ihn hier abzulegen.</translation>
     </message>
     <message>
         <source>No locations in this tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Standorte in diesem Tab.</translation>
     </message>
     <message>
         <source>Nothing matches “%1”.
 Try a country, a city or a code such as ᳞”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Treffer für „%1“.
+Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Standorte</translation>
     </message>
     <message>
         <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
-        <translation type="unfinished"></translation>
+        <translation>Doppelklicken Sie auf einen Standort, um sich mit ihm zu verbinden, oder auf ein Land oder eine Stadt, um sich mit dem schnellsten Standort dort zu verbinden.</translation>
     </message>
     <message>
         <source>Search countries, cities, locations or P2P</source>
-        <translation type="unfinished"></translation>
+        <translation>Länder, Städte, Standorte oder P2P suchen</translation>
     </message>
     <message>
         <source>Search locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte suchen</translation>
     </message>
     <message>
         <source>None of the locations in %1 is included in your plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keiner der Standorte in %1 ist in Ihrem Tarif enthalten.</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ist nicht in Ihrem Tarif enthalten. Führen Sie ein Upgrade durch, um ihn zu nutzen.</translation>
     </message>
     <message>
         <source>Location actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Standortaktionen</translation>
     </message>
     <message>
         <source>Connect to the fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit dem schnellsten Standort verbinden</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>Collapse</source>
-        <translation type="unfinished"></translation>
+        <translation>Einklappen</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausklappen</translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Aus Favoriten entfernen</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Favoriten hinzufügen</translation>
     </message>
     <message>
         <source>Matches in every tab: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Treffer in allen Tabs: %1</translation>
     </message>
     <message>
         <source>Locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte: %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
-        <translation type="unfinished"></translation>
+        <translation>Latenz wird gemessen...</translation>
     </message>
     <message>
         <source>This list may be out of date; Refresh fetches a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Liste ist möglicherweise veraltet; „Aktualisieren“ lädt eine neue.</translation>
     </message>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppierung nach Region, bis die Gruppen des Dienstes eintreffen.</translation>
     </message>
 </context>
 <context>
     <name>LocationsToolbar</name>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>Kostenlos</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>Premium</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoriten</translation>
     </message>
     <message>
         <source>Location tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Standort-Tabs</translation>
     </message>
     <message>
         <source>Sort locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte sortieren</translation>
     </message>
     <message>
         <source>Service order</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge des Dienstes</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>Latency</source>
-        <translation type="unfinished"></translation>
+        <translation>Latenz</translation>
     </message>
     <message>
         <source>Order of the locations within each group</source>
-        <translation type="unfinished"></translation>
+        <translation>Reihenfolge der Standorte innerhalb jeder Gruppe</translation>
     </message>
     <message>
         <source>Fetch the list of locations again and measure their latency</source>
-        <translation type="unfinished"></translation>
+        <translation>Standortliste neu laden und Latenz messen</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren (%1 s)</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisieren</translation>
     </message>
     <message>
         <source>Refresh locations, possible again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte aktualisieren, wieder möglich in %1 s</translation>
     </message>
     <message>
         <source>Refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte aktualisieren</translation>
     </message>
 </context>
 <context>
     <name>LocationsTreeView</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgang fehlgeschlagen</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen konnten nicht geändert werden</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus konnte nicht geändert werden</translation>
     </message>
 </context>
 <context>
     <name>ModeChoiceCard</name>
     <message>
         <source>Tovra picks the protocol that works best here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra wählt das Protokoll, das hier am besten funktioniert.</translation>
     </message>
     <message>
         <source>A fast, modern tunnel for all your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein schneller, moderner Tunnel für Ihren gesamten Datenverkehr.</translation>
     </message>
     <message>
         <source>All traffic goes through the TovraVPN tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der gesamte Datenverkehr läuft durch den TovraVPN-Tunnel.</translation>
     </message>
     <message>
         <source>The tunnel by default; chosen regions and sites go direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardmäßig durch den Tunnel; ausgewählte Regionen und Websites gehen direkt.</translation>
     </message>
     <message>
         <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Tunnel: Apps, die den lokalen Proxy nutzen, erreichen das Internet über Tovra.</translation>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
@@ -1827,15 +1831,15 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Standorte</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Modus</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">VPN</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1850,7 +1854,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lokales Netzwerk</translation>
     </message>
     <message>
         <source>System proxy</source>
@@ -1977,7 +1981,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Lokales Netzwerk</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
@@ -2066,7 +2070,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Verbinden</translation>
     </message>
 </context>
 <context>
@@ -2121,7 +2125,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abbrechen</translation>
     </message>
     <message>
         <source>Preferences</source>
@@ -2584,7 +2588,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Speichern</translation>
     </message>
     <message>
         <source>Choose regions</source>
@@ -2600,7 +2604,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abbrechen</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
@@ -2872,7 +2876,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Verbinden</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -2916,7 +2920,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kill Switch</translation>
     </message>
     <message>
         <source>Refresh Status</source>
@@ -3160,7 +3164,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">verbunden</translation>
     </message>
     <message>
         <source>disconnected</source>
@@ -3414,22 +3418,22 @@ Available version: %2</source>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Verbinden</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Anmelden</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Abbrechen</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -3465,7 +3469,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Letzter Standort</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -3558,7 +3562,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kontovorgang fehlgeschlagen</translation>
     </message>
 </context>
 </TS>

@@ -1769,978 +1769,980 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der lokale Proxy; ausgewählte Regionen und Websites gehen direkt.</translation>
     </message>
     <message>
         <source>Applying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird angewendet…</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch benötigt einen VPN-Modus: Wählen Sie Auto, WireGuard oder TovraVPN, um ihn einzuschalten.</translation>
     </message>
     <message>
         <source>Choose a mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus wählen</translation>
     </message>
     <message>
         <source>The current mode shows once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der aktuelle Modus wird angezeigt, sobald der Tovra-Dienst antwortet.</translation>
     </message>
     <message>
         <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktueller Modus: %1. Diese Tovra-Version kennt ihn nicht; wählen Sie einen der obigen Modi, um ihn zu ersetzen.</translation>
     </message>
 </context>
 <context>
     <name>ModePage</name>
     <message>
         <source>Auto</source>
-        <translation>Automatisch</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Split</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Global</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Split</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Global</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Routing-Modus</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie fest, wie Ihr Datenverkehr geleitet wird und welche Websites den Tunnel umgehen.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished">Standorte</translation>
+        <translation>Standorte</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished">Modus</translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished">VPN</translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto</translation>
     </message>
 </context>
 <context>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">Lokales Netzwerk</translation>
+        <translation>Lokales Netzwerk</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Proxy</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt</translation>
     </message>
     <message>
         <source>Printers, shares and other devices on your network stay reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Drucker, Freigaben und andere Geräte in Ihrem Netzwerk bleiben erreichbar</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschützt</translation>
     </message>
     <message>
         <source>Local network traffic is protected like the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr im lokalen Netzwerk wird wie alles andere geschützt</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings are left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Proxy-Einstellungen des Desktops bleiben unverändert</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Ein</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Proxy-Einstellungen des Desktops verweisen auf Tovra</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesperrt</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Proxy-Einstellungen des Desktops verweisen auf Tovra und bleiben so</translation>
     </message>
     <message>
         <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ob Geräte in Ihrem lokalen Netzwerk erreichbar bleiben, während Tovra Ihren Datenverkehr leitet.</translation>
     </message>
     <message>
         <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Proxy-Einstellungen des Desktops auf Tovra verweisen lassen und sie optional vor Änderungen durch andere Programme schützen.</translation>
     </message>
 </context>
 <context>
     <name>NetworkSection</name>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Netzwerk</translation>
     </message>
     <message>
         <source>SOCKS5 listener</source>
-        <translation type="unfinished"></translation>
+        <translation>SOCKS5-Listener</translation>
     </message>
     <message>
         <source>HTTP listener</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP-Listener</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>Listener anwenden</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale DNS-Server</translation>
     </message>
     <message>
         <source>For example 192.168.1.1, ::1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Beispiel 192.168.1.1, ::1</translation>
     </message>
     <message>
         <source>Save servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Server speichern</translation>
     </message>
     <message>
         <source>Clear servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Server leeren</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-DNS zurücksetzen</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Ein</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>On and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein und gesperrt</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Proxy</translation>
     </message>
     <message>
         <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lässt die Proxy-Einstellungen des Desktops auf Tovra verweisen; „gesperrt“ hindert andere Programme daran, sie zu ändern.</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Geschützt</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">Lokales Netzwerk</translation>
+        <translation>Lokales Netzwerk</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
-        <translation type="unfinished"></translation>
+        <translation>„Direkt“ erreicht Geräte in der Nähe außerhalb des Tunnels; „Geschützt“ leitet alles durch ihn.</translation>
     </message>
     <message>
         <source>SOCKS5</source>
-        <translation type="unfinished"></translation>
+        <translation>SOCKS5</translation>
     </message>
     <message>
         <source>HTTP</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP</translation>
     </message>
     <message>
         <source>Local proxy listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokale Proxy-Listener</translation>
     </message>
     <message>
         <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adressen, an denen der Dienst Proxy-Verbindungen annimmt, als Host:Port. Lassen Sie ein Feld leer, um diesen Listener zu schließen.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>Local DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales DNS</translation>
     </message>
     <message>
         <source>Remote DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Entferntes DNS</translation>
     </message>
     <message>
         <source>Split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-DNS</translation>
     </message>
     <message>
         <source>Which resolver answers for names that stay outside the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Welcher Resolver Namen auflöst, die außerhalb des Tunnels bleiben.</translation>
     </message>
     <message>
         <source>IP addresses of the resolvers for local names, separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>IP-Adressen der Resolver für lokale Namen, durch Kommas getrennt.</translation>
     </message>
     <message>
         <source>In effect: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wirksam: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>keine</translation>
     </message>
     <message>
         <source>In effect: %1, servers %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Wirksam: %1, Server %2</translation>
     </message>
     <message>
         <source>(from %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aus %1)</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigung schließen</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigung: %1</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::ShellText</name>
     <message>
         <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Split-Regeln unverändert</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Verbinden</translation>
+        <translation>Verbinden</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryField</name>
     <message>
         <source>Search for a country, city or location</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Land, Stadt oder Standort suchen</translation>
     </message>
     <message>
         <source>Quick connect search</source>
-        <translation type="unfinished"></translation>
+        <translation>Schnellverbindung suchen</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryModel</name>
     <message>
         <source>Recent searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Suchen</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Standorte</translation>
     </message>
     <message>
         <source>Type a country, city or location name</source>
-        <translation type="unfinished"></translation>
+        <translation>Land, Stadt oder Standortnamen eingeben</translation>
     </message>
     <message>
         <source>No locations match “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Standorte passen zu „%1“</translation>
     </message>
     <message>
         <source>%1  ·  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  %2</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryPopup</name>
     <message>
         <source>Search results</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchergebnisse</translation>
     </message>
 </context>
 <context>
     <name>SettingsCard</name>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannt</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen werden angewendet...</translation>
     </message>
     <message>
         <source>Changes take effect once the Tovra service confirms them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Änderungen werden wirksam, sobald der Tovra-Dienst sie bestätigt.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Settings can be changed again once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen können wieder geändert werden, sobald der Tovra-Dienst antwortet.</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service...</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf den Tovra-Dienst...</translation>
     </message>
 </context>
 <context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie einen Port an: Host:Port, zum Beispiel 127.0.0.1:1080.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IPv6 address.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine IPv6-Adresse.</translation>
     </message>
     <message>
         <source>Write an IPv6 address in brackets: [::1]:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>Schreiben Sie eine IPv6-Adresse in eckigen Klammern: [::1]:1080.</translation>
     </message>
     <message>
         <source>Add a host before the port: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie vor dem Port einen Host an: Host:Port.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a host name or IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist kein Hostname und keine IP-Adresse.</translation>
     </message>
     <message>
         <source>Add a port after the colon: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie nach dem Doppelpunkt einen Port an: Host:Port.</translation>
     </message>
     <message>
         <source>The port must be a number from 1 to 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Port muss eine Zahl von 1 bis 65535 sein.</translation>
     </message>
     <message>
         <source>Enter an API URL, or reset it to the default.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie eine API-URL ein oder setzen Sie sie auf den Standard zurück.</translation>
     </message>
     <message>
         <source>The API URL must start with http:// or https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die API-URL muss mit http:// oder https:// beginnen.</translation>
     </message>
     <message>
         <source>The API URL needs a host, for example https://api.example.com.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die API-URL benötigt einen Host, zum Beispiel https://api.example.com.</translation>
     </message>
     <message>
         <source>Enter at least one DNS server, or clear the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geben Sie mindestens einen DNS-Server ein oder leeren Sie die Liste.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ ist keine IP-Adresse.</translation>
     </message>
 </context>
 <context>
     <name>SplitOptionsCard</name>
     <message>
         <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie TovraVPN Split oder Tovra Proxy Split, um einen Teil des Datenverkehrs direkt zu leiten: nach Region, nach der GFWList oder nach eigenen Regeln.</translation>
     </message>
     <message>
         <source>Default route</source>
-        <translation type="unfinished"></translation>
+        <translation>Standardroute</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt</translation>
     </message>
     <message>
         <source>Everything not chosen below goes direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was unten nicht ausgewählt ist, geht direkt</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen…</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Regionen wählen</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Regionen</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Split-Regeln</translation>
     </message>
     <message>
         <source>Edit rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>Regeln bearbeiten…</translation>
     </message>
     <message>
         <source>Edit custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Split-Regeln bearbeiten</translation>
     </message>
     <message>
         <source>Split routing</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-Tunneling</translation>
     </message>
     <message>
         <source>TovraVPN Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen für TovraVPN Split</translation>
     </message>
     <message>
         <source>Tovra Proxy Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen für Tovra Proxy Split</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Tunnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was unten nicht ausgewählt ist, geht durch den Tunnel</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles, was unten nicht ausgewählt ist, geht über den Proxy</translation>
     </message>
     <message>
         <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr geht direkt, sofern keine Region, die GFWList oder eine Regel etwas anderes vorgibt.</translation>
     </message>
     <message>
         <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr geht durch den Tunnel, sofern keine Region oder Regel ihn direkt leitet.</translation>
     </message>
     <message>
         <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr geht über den Proxy, sofern keine Region oder Regel ihn direkt leitet.</translation>
     </message>
     <message>
         <source>No regions chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Regionen ausgewählt.</translation>
     </message>
     <message>
         <source>Go direct: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt: %1</translation>
     </message>
     <message>
         <source>Go through the tunnel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Durch den Tunnel: %1</translation>
     </message>
     <message>
         <source>Go through the proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Über den Proxy: %1</translation>
     </message>
     <message>
         <source>GFWList → Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList → Tunnel</translation>
     </message>
     <message>
         <source>GFWList → Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList → Proxy</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Websites auf der GFWList gehen immer durch den Tunnel.</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Websites auf der GFWList gehen immer über den Proxy.</translation>
     </message>
     <message>
         <source>Your own domain and address lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre eigenen Domain- und Adresslisten.</translation>
     </message>
     <message>
         <source>Your own domain and address lists. Rules held: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre eigenen Domain- und Adresslisten. Gespeicherte Regeln: %1.</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmeldung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto konnte nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlängerungsseite konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte werden aktualisiert...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standorte werden bereits aktualisiert</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit konnte nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte konnten nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Standortgruppen konnten nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte aktualisiert</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung mit diesem Standort fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennen fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra wird neu gestartet, um die Sprache der Oberfläche zu übernehmen.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra konnte nicht neu gestartet werden. Bitte starten Sie die App manuell neu.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus konnte nicht gewechselt werden</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Netzwerk konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Proxy konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte warten Sie, bis der aktuelle Vorgang abgeschlossen ist</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen VPN-Modus, um Kill Switch einzuschalten</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Split-Regeln aktualisiert, aber die Regeln konnten nicht neu geladen werden</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-Regeln konnten nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-Regeln konnten nicht importiert werden</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Eigene Split-Regeln aktualisiert (%n Regel)</numerusform>
+            <numerusform>Eigene Split-Regeln aktualisiert (%n Regeln)</numerusform>
         </translation>
     </message>
     <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationspfade konnten nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL auf Standard zurückgesetzt</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL geprüft und gespeichert</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL gespeichert, aber nicht geprüft</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisches Verbinden konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy-Adresse konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy-Adresse gespeichert, gilt ab der nächsten Verbindung</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy-Adresse aktualisiert</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-DNS konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-DNS aktualisiert</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparatur fehlgeschlagen</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparatur abgeschlossen</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kompatibilität des Tovra-Dienstes wird geprüft...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra-Oberfläche und -Dienst sind nicht kompatibel. Aktualisieren Sie Tovra, bevor Sie fortfahren.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version konnte nicht geladen werden</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Version der Oberfläche ist nicht verfügbar</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates fehlgeschlagen</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra ist auf dem neuesten Stand</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor dem Verbinden wird ein erforderliches Tovra-Update geprüft.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Die laufende Update-Prüfung wird abgeschlossen, bevor der Download beginnt...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Update-Informationen sind nicht verfügbar. Suchen Sie erneut nach Updates.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird abgebrochen...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Start des Downloads konnte nicht bestätigt werden. Status wird geprüft...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Download des Updates konnte nicht gestartet werden</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbruch konnte nicht bestätigt werden. Neuer Versuch...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Download-Fortschritt konnte nicht gelesen werden. Neuer Versuch...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download war abgeschlossen, bevor er abgebrochen werden konnte. Das Installationsprogramm wurde nicht geöffnet.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update wurde heruntergeladen, aber das Installationsprogramm konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download gehört zu einer anderen Update-Version. Suchen Sie erneut nach Updates.</translation>
     </message>
     <message>
         <source>Could not load kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch konnte nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not load API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL konnte nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not load split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-DNS konnte nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not reach the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra-Dienst nicht erreichbar</translation>
     </message>
     <message>
         <source>Could not load languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprachen konnten nicht geladen werden</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates...</translation>
     </message>
     <message>
         <source>Tovra %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra %1 ist verfügbar</translation>
     </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Speichern</translation>
+        <translation>Speichern</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Regionen wählen</translation>
     </message>
     <message>
         <source>Search countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Länder suchen</translation>
     </message>
     <message>
         <source>Countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Länder</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr zu den markierten Regionen geht direkt, außerhalb des Tunnels. Alles andere geht durch den Tunnel.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr zu den markierten Regionen geht direkt, nicht über den Proxy. Alles andere geht über den Proxy.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr zu den markierten Regionen geht durch den Tunnel. Alles andere geht direkt.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datenverkehr zu den markierten Regionen geht über den Proxy. Alles andere geht direkt.</translation>
     </message>
     <message>
         <source>Checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Markiert: %1</translation>
     </message>
     <message>
         <source>No country matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Land passt zu „%1“.</translation>
     </message>
 </context>
 <context>
     <name>TovraSplitRulesEditorDialog</name>
     <message>
         <source>Rule list</source>
-        <translation type="unfinished"></translation>
+        <translation>Regelliste</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Split-Regeln</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Domain, IP-Adresse oder ein CIDR-Bereich pro Zeile, etwa example.org, 203.0.113.7 oder 10.0.0.0/8. Zeilen, die mit # beginnen, sind Kommentare.</translation>
     </message>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Regeln</translation>
     </message>
     <message>
         <source>example.org
 *.example.net
 203.0.113.0/24</source>
-        <translation type="unfinished"></translation>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
     </message>
     <message>
         <source>Replace the chosen list with these rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ausgewählte Liste durch diese Regeln ersetzen</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direkt</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Blockieren</translation>
     </message>
     <message>
         <source>Sites and addresses that always go direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Websites und Adressen, die immer direkt gehen</translation>
     </message>
     <message>
         <source>Sites and addresses that always go through Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Websites und Adressen, die immer über Tovra gehen</translation>
     </message>
     <message>
         <source>Sites and addresses that are blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Websites und Adressen, die blockiert werden</translation>
     </message>
     <message>
         <source>Loading rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>Regeln werden geladen…</translation>
     </message>
     <message>
         <source>The Tovra service reports no rule lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tovra-Dienst meldet keine Regellisten.</translation>
     </message>
     <message>
         <source>Rules are not loaded yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Regeln sind noch nicht geladen.</translation>
     </message>
     <message>
         <source>Rules: %1 · Lines: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Regeln: %1 · Zeilen: %2</translation>
     </message>
     <message>
         <source>not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>nicht importiert</translation>
     </message>
     <message>
         <source>importing…</source>
-        <translation type="unfinished"></translation>
+        <translation>wird importiert…</translation>
     </message>
     <message>
         <source>Nothing was imported. Fix these lines first:</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts importiert. Korrigieren Sie zuerst diese Zeilen:</translation>
     </message>
     <message>
         <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeile %1: „%2“ ist keine Domain, IP-Adresse und kein CIDR-Bereich.</translation>
     </message>
     <message>
         <source>… Bad lines in all: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>… Fehlerhafte Zeilen insgesamt: %1.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Verbindung wird hergestellt...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Verbindung mit %1 wird hergestellt...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
@@ -2812,7 +2814,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
@@ -2840,7 +2842,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Regionen</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
@@ -2900,7 +2902,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Gesperrt</translation>
     </message>
     <message>
         <source>Local Network</source>
@@ -2912,11 +2914,11 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Direkt</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Geschützt</translation>
     </message>
     <message>
         <source>Kill Switch</source>
@@ -2996,11 +2998,11 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tunnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Proxy</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
@@ -3044,7 +3046,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">keine</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
@@ -3303,7 +3305,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Unbekannt</translation>
     </message>
     <message>
         <source>Latest</source>
@@ -3356,7 +3358,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Wird abgebrochen...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>
@@ -3520,7 +3522,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Letzte Standorte</translation>
     </message>
     <message>
         <source>Clear recent locations</source>

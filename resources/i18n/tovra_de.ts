@@ -2746,825 +2746,826 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: %1</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: TovraVPN Split wird aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: TovraVPN-Regionen werden aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: TovraVPN-GFWList wird aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN custom rules...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Eigene TovraVPN-Regeln werden aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Tovra Proxy Split wird aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Tovra-Proxy-Regionen werden aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Tovra-Proxy-GFWList wird aktualisiert...</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgang fehlgeschlagen</translation>
     </message>
     <message>
         <source>log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner</translation>
     </message>
     <message>
         <source>missing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fehlt</translation>
     </message>
     <message>
         <source>%1 does not exist: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 existiert nicht: %2</translation>
     </message>
     <message>
         <source>could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konnte nicht geöffnet werden: %2</translation>
     </message>
     <message>
         <source>Current: loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuell: wird geladen...</translation>
     </message>
     <message>
         <source>Refresh Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte aktualisieren</translation>
     </message>
     <message>
         <source>Loading nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte werden geladen...</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">Automatisch</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished">WireGuard</translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus: TovraVPN</translation>
     </message>
     <message>
         <source>Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Global</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Split</translation>
     </message>
     <message>
         <source>Split Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-Optionen</translation>
     </message>
     <message>
         <source>Default: Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard: Tunnel</translation>
     </message>
     <message>
         <source>Default: Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard: Direkt</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished">Regionen</translation>
+        <translation>Regionen</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList -&gt; Tunnel</translation>
     </message>
     <message>
         <source>Custom Split Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Split-Regeln</translation>
     </message>
     <message>
         <source>Mode: Tovra Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus: Tovra Proxy</translation>
     </message>
     <message>
         <source>Default: Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Standard: Proxy</translation>
     </message>
     <message>
         <source>GFWList -&gt; Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList -&gt; Proxy</translation>
     </message>
     <message>
         <source>Tovra: starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: wird gestartet...</translation>
     </message>
     <message>
         <source>Daemon: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienst: wird geprüft...</translation>
     </message>
     <message>
         <source>Open Tovra...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra öffnen...</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Verbinden</translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennen</translation>
     </message>
     <message>
         <source>Node / Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Standort</translation>
     </message>
     <message>
         <source>System Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Proxy</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Aus</translation>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Ein</translation>
+        <translation>Ein</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished">Gesperrt</translation>
+        <translation>Gesperrt</translation>
     </message>
     <message>
         <source>Local Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Netzwerk</translation>
     </message>
     <message>
         <source>LAN Access</source>
-        <translation type="unfinished"></translation>
+        <translation>LAN-Zugriff</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">Direkt</translation>
+        <translation>Direkt</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished">Geschützt</translation>
+        <translation>Geschützt</translation>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">Kill Switch</translation>
+        <translation>Kill Switch</translation>
     </message>
     <message>
         <source>Refresh Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status aktualisieren</translation>
     </message>
     <message>
         <source>Open Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokolle öffnen</translation>
     </message>
     <message>
         <source>Account: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto: wird geprüft...</translation>
     </message>
     <message>
         <source>Logout</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmelden</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Beenden</translation>
     </message>
     <message>
         <source>Tovra: daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Dienst nicht verfügbar</translation>
     </message>
     <message>
         <source>daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienst nicht verfügbar</translation>
     </message>
     <message>
         <source>Account: unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto: nicht verfügbar</translation>
     </message>
     <message>
         <source>Tovra - daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra – Dienst nicht verfügbar</translation>
     </message>
     <message>
         <source>Tovra: switching to auto...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Wechsel zu Auto...</translation>
     </message>
     <message>
         <source>Tovra: switching to WireGuard...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Wechsel zu WireGuard...</translation>
     </message>
     <message>
         <source>Tovra: switching to TovraVPN...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Wechsel zu TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: TovraVPN Split wird umgeschaltet...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Wechsel zu Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Wechsel zu Tovra Proxy Split...</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1: %2</translation>
     </message>
     <message>
         <source>System Proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Proxy: %1</translation>
     </message>
     <message>
         <source>Local Network: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Netzwerk: %1</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished">Tunnel</translation>
+        <translation>Tunnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">Proxy</translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Regionen über %1: %2</translation>
     </message>
     <message>
         <source>Could not refresh nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte konnten nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Could not load nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte konnten nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not refresh node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Standortgruppen konnten nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Could not load node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Standortgruppen konnten nicht geladen werden</translation>
     </message>
     <message>
         <source>Refreshing nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte werden aktualisiert...</translation>
     </message>
     <message>
         <source>Nodes not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte nicht geladen</translation>
     </message>
     <message>
         <source>No cached nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine zwischengespeicherten Standorte</translation>
     </message>
     <message>
         <source>No nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Standorte</translation>
     </message>
     <message>
         <source>Current: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuell: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">keine</translation>
+        <translation>keiner</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte aktualisieren (%1 s)</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Location: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Standort: %1</translation>
     </message>
     <message>
         <source>Location: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Standort: %1 · %2</translation>
     </message>
     <message>
         <source>Current: %1 (stale)</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuell: %1 (veraltet)</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Gruppe</translation>
     </message>
     <message>
         <source>less than 1m</source>
-        <translation type="unfinished"></translation>
+        <translation>unter 1 Min.</translation>
     </message>
     <message>
         <source>%1m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Min.</translation>
     </message>
     <message>
         <source>%1h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Std.</translation>
     </message>
     <message>
         <source>%1h %2m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Std. %2 Min.</translation>
     </message>
     <message>
         <source>%1d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 T.</translation>
     </message>
     <message>
         <source>%1d %2h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 T. %2 Std.</translation>
     </message>
     <message>
         <source>Tovra: disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Verbindung wird getrennt...</translation>
     </message>
     <message>
         <source>Tovra: logging out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Abmeldung läuft...</translation>
     </message>
     <message>
         <source>Tovra: updating system proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: System-Proxy wird aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: updating local network routing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Routing im lokalen Netzwerk wird aktualisiert...</translation>
     </message>
     <message>
         <source>Tovra: enabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Kill Switch wird eingeschaltet...</translation>
     </message>
     <message>
         <source>Tovra: disabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Kill Switch wird ausgeschaltet...</translation>
     </message>
     <message>
         <source>Tovra: connect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Verbindung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Tovra: disconnect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Trennen fehlgeschlagen</translation>
     </message>
     <message>
         <source>Logged out</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgemeldet</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontovorgang fehlgeschlagen</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Moduswechsel fehlgeschlagen</translation>
     </message>
     <message>
         <source>Mode updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus geändert</translation>
     </message>
     <message>
         <source>System proxy set to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Proxy auf %1 gesetzt</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktualisiert</translation>
     </message>
     <message>
         <source>Kill switch enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch eingeschaltet</translation>
     </message>
     <message>
         <source>Kill switch disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch ausgeschaltet</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill-Switch-Vorgang fehlgeschlagen</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished">verbunden</translation>
+        <translation>verbunden</translation>
     </message>
     <message>
         <source>disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>getrennt</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>wird verbunden</translation>
     </message>
     <message>
         <source>disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>wird getrennt</translation>
     </message>
     <message>
         <source>ready</source>
-        <translation type="unfinished"></translation>
+        <translation>bereit</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>unbekannt</translation>
     </message>
     <message>
         <source>Tovra: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: %1</translation>
     </message>
     <message>
         <source>running</source>
-        <translation type="unfinished"></translation>
+        <translation>läuft</translation>
     </message>
     <message>
         <source>Daemon: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienst: %1</translation>
     </message>
     <message>
         <source>Daemon: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienst: %1 (%2)</translation>
     </message>
     <message>
         <source>Account: cached</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto: zwischengespeichert</translation>
     </message>
     <message>
         <source>Account: Login Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto: Anmeldung erforderlich</translation>
     </message>
     <message>
         <source>Account: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto: %1</translation>
     </message>
     <message>
         <source>Account: logged in</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto: angemeldet</translation>
     </message>
     <message>
         <source>Kill Switch: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch: %1</translation>
     </message>
 </context>
 <context>
     <name>UpdateDialog</name>
     <message>
         <source>Could not read the update download status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download-Status des Updates konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Download abgebrochen.</translation>
     </message>
     <message>
         <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update konnte nicht heruntergeladen werden.</translation>
     </message>
     <message>
         <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Download abgeschlossen. Installationsprogramm wird geöffnet...</translation>
     </message>
     <message>
         <source>The download link is unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download-Link ist nicht verfügbar.</translation>
     </message>
     <message>
         <source>Could not open the update download link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download-Link des Updates konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download-Link wurde in Ihrem Browser geöffnet. Tovra führt das Installationsprogramm nicht automatisch aus.</translation>
     </message>
     <message>
         <source>Tovra Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra-Update</translation>
     </message>
     <message>
         <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra muss aktualisiert werden, bevor Sie eine Verbindung herstellen können. Laden Sie das Installationsprogramm herunter oder beenden Sie Tovra.</translation>
     </message>
     <message>
         <source>What&apos;s New</source>
-        <translation type="unfinished"></translation>
+        <translation>Neuerungen</translation>
     </message>
     <message>
         <source>Download progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Download-Fortschritt</translation>
     </message>
     <message>
         <source>Hide this update</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Update ausblenden</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht jetzt</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra beenden</translation>
     </message>
     <message>
         <source>Exit Tovra without updating</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra ohne Update beenden</translation>
     </message>
     <message>
         <source>Open Download Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Download-Link öffnen</translation>
     </message>
     <message>
         <source>Open the Tovra update download link</source>
-        <translation type="unfinished"></translation>
+        <translation>Download-Link des Tovra-Updates öffnen</translation>
     </message>
     <message>
         <source>A required update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein erforderliches Update ist verfügbar</translation>
     </message>
     <message>
         <source>A new Tovra update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein neues Tovra-Update ist verfügbar</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished">Unbekannt</translation>
+        <translation>Unbekannt</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Neueste</translation>
     </message>
     <message>
         <source>Current version: %1
 Available version: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Aktuelle Version: %1
+Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Release notes are unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versionshinweise sind nicht verfügbar.</translation>
     </message>
     <message>
         <source>Downloading %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 wird heruntergeladen</translation>
     </message>
     <message>
         <source>Downloading update...</source>
-        <translation type="unfinished"></translation>
+        <translation>Update wird heruntergeladen...</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>Preparing the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Download wird vorbereitet...</translation>
     </message>
     <message>
         <source>Verifying the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Download wird überprüft...</translation>
     </message>
     <message>
         <source>Canceling the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Download wird abgebrochen...</translation>
     </message>
     <message>
         <source>Download in Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Hintergrund laden</translation>
     </message>
     <message>
         <source>Download the latest installer without interrupting your current session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das neueste Installationsprogramm herunterladen, ohne Ihre aktuelle Sitzung zu unterbrechen.</translation>
     </message>
     <message>
         <source>Hide this window while the update downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieses Fenster ausblenden, während das Update heruntergeladen wird</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished">Wird abgebrochen...</translation>
+        <translation>Wird abgebrochen...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Download des Updates abbrechen</translation>
     </message>
     <message>
         <source>Cancel Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Download abbrechen</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Installationsprogramm wird geöffnet...</translation>
     </message>
     <message>
         <source>Retry Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Erneut versuchen</translation>
     </message>
     <message>
         <source>Retry the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Download des Updates erneut versuchen</translation>
     </message>
     <message>
         <source>Download Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Update laden</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra-Update herunterladen und installieren</translation>
     </message>
 </context>
 <context>
     <name>UpdatesSection</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Updates</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach Updates suchen</translation>
     </message>
     <message>
         <source>Tovra for Linux</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra für Linux</translation>
     </message>
     <message>
         <source>The version of this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Version dieser App.</translation>
     </message>
     <message>
         <source>Ask the Tovra service for a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Beim Tovra-Dienst nach einer neueren Version fragen.</translation>
     </message>
     <message>
         <source>%1 (build %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (Build %2)</translation>
     </message>
 </context>
 <context>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">Kill Switch</translation>
+        <translation>Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Verbinden</translation>
+        <translation>Verbinden</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished">Anmelden</translation>
+        <translation>Anmelden</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Abbrechen</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennen</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird getrennt…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Service unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Dienst nicht verfügbar</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Warten auf Antwort des Tovra-Dienstes.</translation>
     </message>
     <message>
         <source>Signed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgemeldet</translation>
     </message>
     <message>
         <source>Sign in to your Tovra account to connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Melden Sie sich bei Ihrem Tovra-Konto an, um eine Verbindung herzustellen.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Standort</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished">Letzter Standort</translation>
+        <translation>Letzter Standort</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden</translation>
     </message>
     <message>
         <source>Your traffic goes through the Tovra tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Datenverkehr läuft durch den Tovra-Tunnel.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird hergestellt…</translation>
     </message>
     <message>
         <source>Setting up the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tunnel wird eingerichtet.</translation>
     </message>
     <message>
         <source>Connecting to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung mit %1 wird hergestellt</translation>
     </message>
     <message>
         <source>Closing the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tunnel wird geschlossen.</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Getrennt</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch blockiert den Datenverkehr, bis Sie sich verbinden.</translation>
     </message>
     <message>
         <source>Your traffic is not protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihr Datenverkehr ist nicht geschützt.</translation>
     </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Locations you connect to appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte, mit denen Sie sich verbinden, erscheinen hier.</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished">Letzte Standorte</translation>
+        <translation>Letzte Standorte</translation>
     </message>
     <message>
         <source>Clear recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Letzte Standorte leeren</translation>
     </message>
     <message>
         <source>Connect to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mit %1 verbinden</translation>
     </message>
 </context>
 <context>
     <name>VpnStatusCard</name>
     <message>
         <source>Connected for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbunden seit %1</translation>
     </message>
     <message>
         <source>Mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>Link konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner ist nicht verfügbar</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner existiert nicht: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner konnte nicht geöffnet werden: %1</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished">Kontovorgang fehlgeschlagen</translation>
+        <translation>Kontovorgang fehlgeschlagen</translation>
     </message>
 </context>
 </TS>

@@ -5,288 +5,288 @@
     <name>AccountPage</name>
     <message>
         <source>Enter account and password.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez votre compte et votre mot de passe.</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’opération sur le compte</translation>
     </message>
 </context>
 <context>
     <name>AccountSignInCard</name>
     <message>
         <source>Remember this account</source>
-        <translation type="unfinished"></translation>
+        <translation>Mémoriser ce compte</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation>Se connecter</translation>
     </message>
     <message>
         <source>Sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion</translation>
     </message>
     <message>
         <source>Use your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez-vous avec votre compte Tovra pour utiliser le VPN et synchroniser les emplacements disponibles.</translation>
     </message>
     <message>
         <source>Email or user ID</source>
-        <translation type="unfinished"></translation>
+        <translation>E-mail ou identifiant</translation>
     </message>
     <message>
         <source>Password</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe</translation>
     </message>
     <message>
         <source>Sign Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Créer un compte</translation>
     </message>
     <message>
         <source>Forgot password?</source>
-        <translation type="unfinished"></translation>
+        <translation>Mot de passe oublié&#xa0;?</translation>
     </message>
     <message>
         <source>Signing in...</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion au compte...</translation>
     </message>
 </context>
 <context>
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
-        <translation type="unfinished"></translation>
+        <translation>Renouveler</translation>
     </message>
     <message>
         <source>Sign Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Se déconnecter</translation>
     </message>
     <message>
         <source>Signed in</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte connecté</translation>
     </message>
     <message>
         <source>User ID: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Identifiant&#xa0;: %1</translation>
     </message>
     <message>
         <source>Plan: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Forfait&#xa0;: %1</translation>
     </message>
     <message>
         <source>Days left: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Jours restants&#xa0;: %1</translation>
     </message>
     <message>
         <source>Max simultaneous devices: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareils simultanés max.&#xa0;: %1</translation>
     </message>
     <message>
         <source>Signing out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnexion du compte...</translation>
     </message>
     <message>
         <source>Opening…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture…</translation>
     </message>
 </context>
 <context>
     <name>AppSection</name>
     <message>
         <source>App</source>
-        <translation type="unfinished"></translation>
+        <translation>Application</translation>
     </message>
     <message>
         <source>Change…</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier…</translation>
     </message>
     <message>
         <source>Launch at login</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer à l’ouverture de session</translation>
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Démarrer Tovra dans la zone de notification quand vous ouvrez votre session.</translation>
     </message>
     <message>
         <source>Show window at launch</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la fenêtre au lancement</translation>
     </message>
     <message>
         <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir cette fenêtre au démarrage de Tovra&#xa0;; sinon, seule l’icône de la zone de notification apparaît.</translation>
     </message>
     <message>
         <source>Same as desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme le bureau</translation>
     </message>
     <message>
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message>
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message>
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
     <message>
         <source>Light, dark, or following the desktop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair, sombre ou comme le bureau.</translation>
     </message>
     <message>
         <source>Change language</source>
-        <translation type="unfinished"></translation>
+        <translation>Changer de langue</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>%1, following the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, comme le bureau</translation>
     </message>
     <message>
         <source>Could not update login startup</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le lancement à l’ouverture de session</translation>
     </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
     <message>
         <source>Location %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement %1</translation>
     </message>
     <message>
         <source>Other locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres emplacements</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>Premium</translation>
     </message>
     <message>
         <source>locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>emplacements&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
     <message>
         <source>latency not measured</source>
-        <translation type="unfinished"></translation>
+        <translation>latence non mesurée</translation>
     </message>
     <message>
         <source>favourite</source>
-        <translation type="unfinished"></translation>
+        <translation>favori</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation>connecté</translation>
     </message>
     <message>
         <source>not in your plan</source>
-        <translation type="unfinished"></translation>
+        <translation>non inclus dans votre forfait</translation>
     </message>
     <message>
         <source>Your plan does not include this location. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre forfait n’inclut pas cet emplacement. Passez à une offre supérieure pour l’utiliser.</translation>
     </message>
     <message>
         <source>This list may be out of date.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette liste n’est peut-être pas à jour.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
 </context>
 <context>
     <name>ConnectionSection</name>
     <message>
         <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion</translation>
     </message>
     <message>
         <source>API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de l’API</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir la valeur par défaut</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernier emplacement</translation>
     </message>
     <message>
         <source>Fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement le plus rapide</translation>
     </message>
     <message>
         <source>Auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion automatique</translation>
     </message>
     <message>
         <source>What the Tovra service connects to when it starts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce à quoi le service Tovra se connecte au démarrage.</translation>
     </message>
     <message>
         <source>Save API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer l’URL de l’API</translation>
     </message>
     <message>
         <source>Reset API URL to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir l’URL de l’API par défaut</translation>
     </message>
     <message>
         <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’adresse par laquelle le service Tovra joint les serveurs de comptes et d’emplacements. Ne la modifiez que si l’assistance vous le demande.</translation>
     </message>
     <message>
         <source>Validation: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification&#xa0;: %1</translation>
     </message>
     <message>
         <source>Validated by the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiée par le service Tovra</translation>
     </message>
     <message>
         <source>Not validated: the Tovra service saved this address but could not confirm it</source>
-        <translation type="unfinished"></translation>
+        <translation>Non vérifiée&#xa0;: le service Tovra a enregistré cette adresse mais n’a pas pu la confirmer</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service Tovra n’est pas en cours d’exécution.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès au service Tovra refusé. Ajoutez cet utilisateur au groupe tovracli, puis fermez la session et rouvrez-la.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de joindre le service Tovra.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service Tovra est trop ancien pour les modes du Kill Switch. Mettez Tovra à jour.</translation>
     </message>
 </context>
 <context>
@@ -1228,130 +1228,130 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
-        <translation type="unfinished"></translation>
+        <translation>Configuration</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation type="unfinished"></translation>
+        <translation>Exécution</translation>
     </message>
     <message>
         <source>Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Journaux</translation>
     </message>
     <message>
         <source>State file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier d’état</translation>
     </message>
     <message>
         <source>Credentials key</source>
-        <translation type="unfinished"></translation>
+        <translation>Clé des identifiants</translation>
     </message>
     <message>
         <source>History</source>
-        <translation type="unfinished"></translation>
+        <translation>Historique</translation>
     </message>
     <message>
         <source>Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Profils</translation>
     </message>
     <message>
         <source>Control socket</source>
-        <translation type="unfinished"></translation>
+        <translation>Socket de contrôle</translation>
     </message>
     <message>
         <source>PID file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier PID</translation>
     </message>
     <message>
         <source>Control address</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse de contrôle</translation>
     </message>
     <message>
         <source>Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnostic</translation>
     </message>
     <message>
         <source>Repair</source>
-        <translation type="unfinished"></translation>
+        <translation>Réparer</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les journaux</translation>
     </message>
     <message>
         <source>Repair connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Réparer la connexion</translation>
     </message>
     <message>
         <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialise le Kill Switch, le proxy local et le tunnel quand le trafic est bloqué.</translation>
     </message>
     <message>
         <source>The Tovra service&apos;s log folder, for support.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des journaux du service Tovra, pour l’assistance.</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le chemin&#xa0;: %1</translation>
     </message>
     <message>
         <source>Service paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Chemins du service</translation>
     </message>
     <message>
         <source>Where the Tovra service keeps its files.</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement des fichiers du service Tovra.</translation>
     </message>
     <message>
         <source>Tovra service version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version du service Tovra</translation>
     </message>
     <message>
         <source>Control protocol</source>
-        <translation type="unfinished"></translation>
+        <translation>Protocole de contrôle</translation>
     </message>
     <message>
         <source>This app speaks version 1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette application utilise la version 1.</translation>
     </message>
     <message>
         <source>Not set</source>
-        <translation type="unfinished"></translation>
+        <translation>Non défini</translation>
     </message>
     <message>
         <source>%1, not compatible</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, non compatible</translation>
     </message>
 </context>
 <context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lancement à l’ouverture de session n’est pas pris en charge sur ce système.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de trouver l’exécutable de Tovra pour le lancement à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de préparer le dossier de lancement à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le lancement de Tovra à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de sécuriser le lancement de Tovra à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de retirer Tovra du lancement à l’ouverture de session.</translation>
     </message>
 </context>
 <context>
@@ -1362,11 +1362,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage indisponible</translation>
     </message>
     <message>
         <source>On</source>
@@ -1378,168 +1378,168 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch nécessite un mode VPN</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch ne fonctionne pas avec Tovra Proxy. Passez en mode Auto (recommandé), TovraVPN ou WireGuard pour l’activer.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer en Auto et activer</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer en Auto et activer le Kill Switch</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un mode…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un mode pour le Kill Switch</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy nécessite de désactiver le Kill Switch</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch bloque Tovra Proxy. Désactivez d’abord le Kill Switch dans les Paramètres, puis changez de mode.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les Paramètres</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les Paramètres pour désactiver le Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>KillSwitchSection</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch</translation>
     </message>
     <message>
         <source>Block traffic outside the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquer le trafic hors du tunnel</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">Automatique</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque le trafic hors du tunnel quand Tovra est connecté ou en cours de connexion.</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours</translation>
     </message>
     <message>
         <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloque le trafic hors du tunnel tant que le Kill Switch est activé, même déconnecté.</translation>
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage</translation>
     </message>
     <message>
         <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Défini par le service Tovra&#xa0;: le trafic hors du tunnel reste bloqué et le Kill Switch ne peut pas être désactivé ici.</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode</translation>
     </message>
     <message>
         <source>When Kill Switch blocks traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quand le Kill Switch bloque le trafic.</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau local</translation>
     </message>
     <message>
         <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si les imprimantes, partages et autres appareils à proximité restent accessibles pendant le blocage du trafic.</translation>
     </message>
     <message>
         <source>Kill Switch mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode du Kill Switch&#xa0;: %1</translation>
     </message>
     <message>
         <source>Now: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Actuellement&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. Le service Tovra maintient le Kill Switch activé&#xa0;; il ne peut pas être désactivé ici.</translation>
     </message>
     <message>
         <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy est utilisé&#xa0;: le Kill Switch nécessite un mode VPN.</translation>
     </message>
     <message>
         <source>Reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Accessible</translation>
     </message>
     <message>
         <source>Blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqué</translation>
     </message>
 </context>
 <context>
     <name>LanguagePickerDialog</name>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>Use system language</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser la langue du système</translation>
     </message>
     <message>
         <source>Use system language (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser la langue du système (%1)</translation>
     </message>
     <message>
         <source>Follow the desktop&apos;s language</source>
-        <translation type="unfinished"></translation>
+        <translation>Suivre la langue du bureau</translation>
     </message>
     <message>
         <source>Choose a language</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une langue</translation>
     </message>
     <message>
         <source>Tovra restarts to show the new language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra redémarre pour afficher la nouvelle langue.</translation>
     </message>
     <message>
         <source>Search languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher une langue</translation>
     </message>
     <message>
         <source>Languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Langues</translation>
     </message>
     <message>
         <source>Use language</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser cette langue</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
     </message>
 </context>
 <context>
@@ -1547,221 +1547,225 @@
     <message>
         <source>The Tovra service is not available.
 Locations appear here as soon as it responds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service Tovra n’est pas disponible.
+Les emplacements s’afficheront ici dès qu’il répondra.</translation>
     </message>
     <message>
         <source>Loading locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement des emplacements...</translation>
     </message>
     <message>
         <source>The service has no locations to offer right now.
 Try Refresh in a moment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service ne propose aucun emplacement pour le moment.
+Réessayez «&#xa0;Actualiser&#xa0;» dans un instant.</translation>
     </message>
     <message>
         <source>No favourites yet.
 Star a location (or select it and press Space) to keep it here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun favori pour l’instant.
+Ajoutez une étoile à un emplacement (ou sélectionnez-le et appuyez sur Espace) pour le retrouver ici.</translation>
     </message>
     <message>
         <source>No locations in this tab.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun emplacement dans cet onglet.</translation>
     </message>
     <message>
         <source>Nothing matches “%1”.
 Try a country, a city or a code such as ᳞”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun résultat pour «&#xa0;%1&#xa0;».
+Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les emplacements</translation>
     </message>
     <message>
         <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
-        <translation type="unfinished"></translation>
+        <translation>Double-cliquez sur un emplacement pour vous y connecter, ou sur un pays ou une ville pour vous connecter à son emplacement le plus rapide.</translation>
     </message>
     <message>
         <source>Search countries, cities, locations or P2P</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des pays, villes, emplacements ou P2P</translation>
     </message>
     <message>
         <source>Search locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des emplacements</translation>
     </message>
     <message>
         <source>None of the locations in %1 is included in your plan.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun des emplacements de %1 n’est inclus dans votre forfait.</translation>
     </message>
     <message>
         <source>%1 is not included in your plan. Upgrade to use it.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas inclus dans votre forfait. Passez à une offre supérieure pour l’utiliser.</translation>
     </message>
     <message>
         <source>Location actions</source>
-        <translation type="unfinished"></translation>
+        <translation>Actions sur l’emplacement</translation>
     </message>
     <message>
         <source>Connect to the fastest location</source>
-        <translation type="unfinished"></translation>
+        <translation>Se connecter à l’emplacement le plus rapide</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecter</translation>
     </message>
     <message>
         <source>Collapse</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>Expand</source>
-        <translation type="unfinished"></translation>
+        <translation>Développer</translation>
     </message>
     <message>
         <source>Remove from favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer des favoris</translation>
     </message>
     <message>
         <source>Add to favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter aux favoris</translation>
     </message>
     <message>
         <source>Matches in every tab: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats dans tous les onglets&#xa0;: %1</translation>
     </message>
     <message>
         <source>Locations: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements&#xa0;: %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
-        <translation type="unfinished"></translation>
+        <translation>Mesure de la latence...</translation>
     </message>
     <message>
         <source>This list may be out of date; Refresh fetches a new one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette liste n’est peut-être pas à jour&#xa0;; «&#xa0;Actualiser&#xa0;» en récupère une nouvelle.</translation>
     </message>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
-        <translation type="unfinished"></translation>
+        <translation>Regroupement par région en attendant les groupes du service.</translation>
     </message>
 </context>
 <context>
     <name>LocationsToolbar</name>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>Free</source>
-        <translation type="unfinished"></translation>
+        <translation>Gratuits</translation>
     </message>
     <message>
         <source>Premium</source>
-        <translation type="unfinished"></translation>
+        <translation>Premium</translation>
     </message>
     <message>
         <source>Favourites</source>
-        <translation type="unfinished"></translation>
+        <translation>Favoris</translation>
     </message>
     <message>
         <source>Location tabs</source>
-        <translation type="unfinished"></translation>
+        <translation>Onglets des emplacements</translation>
     </message>
     <message>
         <source>Sort locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Trier les emplacements</translation>
     </message>
     <message>
         <source>Service order</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre du service</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>Latency</source>
-        <translation type="unfinished"></translation>
+        <translation>Latence</translation>
     </message>
     <message>
         <source>Order of the locations within each group</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordre des emplacements dans chaque groupe</translation>
     </message>
     <message>
         <source>Fetch the list of locations again and measure their latency</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupérer à nouveau la liste des emplacements et mesurer leur latence</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser (%1 s)</translation>
     </message>
     <message>
         <source>Refresh</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser</translation>
     </message>
     <message>
         <source>Refresh locations, possible again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser les emplacements, de nouveau possible dans %1 s</translation>
     </message>
     <message>
         <source>Refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser les emplacements</translation>
     </message>
 </context>
 <context>
     <name>LocationsTreeView</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’opération</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la modification des paramètres</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec du changement de mode</translation>
     </message>
 </context>
 <context>
     <name>ModeChoiceCard</name>
     <message>
         <source>Tovra picks the protocol that works best here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra choisit le protocole qui fonctionne le mieux ici.</translation>
     </message>
     <message>
         <source>A fast, modern tunnel for all your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un tunnel rapide et moderne pour tout votre trafic.</translation>
     </message>
     <message>
         <source>All traffic goes through the TovraVPN tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout le trafic passe par le tunnel TovraVPN.</translation>
     </message>
     <message>
         <source>The tunnel by default; chosen regions and sites go direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le tunnel par défaut&#xa0;; les régions et sites choisis passent en direct.</translation>
     </message>
     <message>
         <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans tunnel&#xa0;: les applications qui utilisent le proxy local accèdent à Internet via Tovra.</translation>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
@@ -1827,15 +1831,15 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Emplacements</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Mode</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">VPN</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1850,7 +1854,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Réseau local</translation>
     </message>
     <message>
         <source>System proxy</source>
@@ -1977,7 +1981,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Réseau local</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
@@ -2066,7 +2070,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Connecter</translation>
     </message>
 </context>
 <context>
@@ -2121,7 +2125,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annuler</translation>
     </message>
     <message>
         <source>Preferences</source>
@@ -2584,7 +2588,7 @@ Try a country, a city or a code such as ᳞”.</source>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Enregistrer</translation>
     </message>
     <message>
         <source>Choose regions</source>
@@ -2600,7 +2604,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annuler</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
@@ -2872,7 +2876,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Connecter</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -2916,7 +2920,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kill Switch</translation>
     </message>
     <message>
         <source>Refresh Status</source>
@@ -3160,7 +3164,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">connecté</translation>
     </message>
     <message>
         <source>disconnected</source>
@@ -3414,22 +3418,22 @@ Available version: %2</source>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Connecter</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Se connecter</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annuler</translation>
     </message>
     <message>
         <source>Disconnect</source>
@@ -3465,7 +3469,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Dernier emplacement</translation>
     </message>
     <message>
         <source>Connected</source>
@@ -3558,7 +3562,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Échec de l’opération sur le compte</translation>
     </message>
 </context>
 </TS>

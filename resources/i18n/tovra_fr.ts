@@ -1769,978 +1769,980 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy local&#xa0;; les régions et sites choisis passent en direct.</translation>
     </message>
     <message>
         <source>Applying…</source>
-        <translation type="unfinished"></translation>
+        <translation>Application…</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch nécessite un mode VPN&#xa0;: choisissez Auto, WireGuard ou TovraVPN pour l’activer.</translation>
     </message>
     <message>
         <source>Choose a mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un mode</translation>
     </message>
     <message>
         <source>The current mode shows once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le mode actuel s’affichera dès que le service Tovra répondra.</translation>
     </message>
     <message>
         <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode actuel&#xa0;: %1. Cette version de Tovra ne le connaît pas&#xa0;; choisissez l’un des modes ci-dessus pour le remplacer.</translation>
     </message>
 </context>
 <context>
     <name>ModePage</name>
     <message>
         <source>Auto</source>
-        <translation>Automatique</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Split</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Global</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Split</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Global</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode de routage</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez comment votre trafic est acheminé et quels sites contournent le tunnel.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished">Emplacements</translation>
+        <translation>Emplacements</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished">Mode</translation>
+        <translation>Mode</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished">VPN</translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte</translation>
     </message>
 </context>
 <context>
     <name>NetworkOptionsCard</name>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">Réseau local</translation>
+        <translation>Réseau local</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy système</translation>
     </message>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direct</translation>
     </message>
     <message>
         <source>Printers, shares and other devices on your network stay reachable</source>
-        <translation type="unfinished"></translation>
+        <translation>Les imprimantes, partages et autres appareils de votre réseau restent accessibles</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Protégé</translation>
     </message>
     <message>
         <source>Local network traffic is protected like the rest</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic du réseau local est protégé comme le reste</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings are left alone</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres de proxy du bureau ne sont pas modifiés</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Activé</translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres de proxy du bureau pointent vers Tovra</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillé</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres de proxy du bureau pointent vers Tovra et sont maintenus ainsi</translation>
     </message>
     <message>
         <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indique si les appareils de votre réseau local restent accessibles pendant que Tovra achemine votre trafic.</translation>
     </message>
     <message>
         <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire pointer les paramètres de proxy du bureau vers Tovra, et éventuellement empêcher les autres programmes de les modifier.</translation>
     </message>
 </context>
 <context>
     <name>NetworkSection</name>
     <message>
         <source>Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau</translation>
     </message>
     <message>
         <source>SOCKS5 listener</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoute SOCKS5</translation>
     </message>
     <message>
         <source>HTTP listener</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoute HTTP</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer les adresses d’écoute</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Serveurs DNS locaux</translation>
     </message>
     <message>
         <source>For example 192.168.1.1, ::1</source>
-        <translation type="unfinished"></translation>
+        <translation>Par exemple 192.168.1.1,&#xa0;::1</translation>
     </message>
     <message>
         <source>Save servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer les serveurs</translation>
     </message>
     <message>
         <source>Clear servers</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les serveurs</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser le DNS fractionné</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Activé</translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>On and locked</source>
-        <translation type="unfinished"></translation>
+        <translation>Activé et verrouillé</translation>
     </message>
     <message>
         <source>System proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy système</translation>
     </message>
     <message>
         <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fait pointer les paramètres de proxy du bureau vers Tovra&#xa0;; «&#xa0;verrouillé&#xa0;» empêche les autres programmes de les modifier.</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direct</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation>Protégé</translation>
     </message>
     <message>
         <source>Local network</source>
-        <translation type="unfinished">Réseau local</translation>
+        <translation>Réseau local</translation>
     </message>
     <message>
         <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;Direct&#xa0;» joint les appareils à proximité hors du tunnel&#xa0;; «&#xa0;Protégé&#xa0;» fait tout passer par le tunnel.</translation>
     </message>
     <message>
         <source>SOCKS5</source>
-        <translation type="unfinished"></translation>
+        <translation>SOCKS5</translation>
     </message>
     <message>
         <source>HTTP</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP</translation>
     </message>
     <message>
         <source>Local proxy listeners</source>
-        <translation type="unfinished"></translation>
+        <translation>Écoute du proxy local</translation>
     </message>
     <message>
         <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresses sur lesquelles le service accepte les connexions proxy, au format hôte:port. Laissez un champ vide pour fermer cette écoute.</translation>
     </message>
     <message>
         <source>Automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>Local DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS local</translation>
     </message>
     <message>
         <source>Remote DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS distant</translation>
     </message>
     <message>
         <source>Split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS fractionné</translation>
     </message>
     <message>
         <source>Which resolver answers for names that stay outside the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le résolveur qui répond pour les noms restant hors du tunnel.</translation>
     </message>
     <message>
         <source>IP addresses of the resolvers for local names, separated by commas.</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresses IP des résolveurs pour les noms locaux, séparées par des virgules.</translation>
     </message>
     <message>
         <source>In effect: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En vigueur&#xa0;: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>In effect: %1, servers %2</source>
-        <translation type="unfinished"></translation>
+        <translation>En vigueur&#xa0;: %1, serveurs %2</translation>
     </message>
     <message>
         <source>(from %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>(depuis %1)</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Inconnu</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la notification</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notification&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::ShellText</name>
     <message>
         <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles de fractionnement personnalisées inchangées</translation>
     </message>
 </context>
 <context>
     <name>QCoreApplication::TrayMenuText</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Connecter</translation>
+        <translation>Connecter</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryField</name>
     <message>
         <source>Search for a country, city or location</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher un pays, une ville ou un emplacement</translation>
     </message>
     <message>
         <source>Quick connect search</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de connexion rapide</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryModel</name>
     <message>
         <source>Recent searches</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherches récentes</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements récents</translation>
     </message>
     <message>
         <source>Type a country, city or location name</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez un pays, une ville ou un nom d’emplacement</translation>
     </message>
     <message>
         <source>No locations match “%1”</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun emplacement ne correspond à «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1  ·  %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1  ·  %2</translation>
     </message>
 </context>
 <context>
     <name>QuickEntryPopup</name>
     <message>
         <source>Search results</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultats de la recherche</translation>
     </message>
 </context>
 <context>
     <name>SettingsCard</name>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>Inconnu</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Application des paramètres...</translation>
     </message>
     <message>
         <source>Changes take effect once the Tovra service confirms them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les modifications prennent effet dès que le service Tovra les confirme.</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Settings can be changed again once the Tovra service answers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les paramètres pourront de nouveau être modifiés dès que le service Tovra répondra.</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service...</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente du service Tovra...</translation>
     </message>
 </context>
 <context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez un port&#xa0;: hôte:port, par exemple 127.0.0.1:1080.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IPv6 address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse IPv6.</translation>
     </message>
     <message>
         <source>Write an IPv6 address in brackets: [::1]:1080.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrivez une adresse IPv6 entre crochets&#xa0;: [::1]:1080.</translation>
     </message>
     <message>
         <source>Add a host before the port: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez un hôte avant le port&#xa0;: hôte:port.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not a host name or IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un nom d’hôte ni une adresse IP.</translation>
     </message>
     <message>
         <source>Add a port after the colon: host:port.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajoutez un port après les deux-points&#xa0;: hôte:port.</translation>
     </message>
     <message>
         <source>The port must be a number from 1 to 65535.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le port doit être un nombre compris entre 1 et 65535.</translation>
     </message>
     <message>
         <source>Enter an API URL, or reset it to the default.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez une URL d’API ou rétablissez la valeur par défaut.</translation>
     </message>
     <message>
         <source>The API URL must start with http:// or https://.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’URL de l’API doit commencer par http:// ou https://.</translation>
     </message>
     <message>
         <source>The API URL needs a host, for example https://api.example.com.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’URL de l’API doit comporter un hôte, par exemple https://api.example.com.</translation>
     </message>
     <message>
         <source>Enter at least one DNS server, or clear the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Saisissez au moins un serveur DNS ou videz la liste.</translation>
     </message>
     <message>
         <source>&quot;%1&quot; is not an IP address.</source>
-        <translation type="unfinished"></translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse IP.</translation>
     </message>
 </context>
 <context>
     <name>SplitOptionsCard</name>
     <message>
         <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez TovraVPN Split ou Tovra Proxy Split pour faire passer une partie du trafic en direct&#xa0;: par région, selon la GFWList ou selon vos propres règles.</translation>
     </message>
     <message>
         <source>Default route</source>
-        <translation type="unfinished"></translation>
+        <translation>Route par défaut</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direct</translation>
     </message>
     <message>
         <source>Everything not chosen below goes direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce qui n’est pas choisi ci-dessous passe en direct</translation>
     </message>
     <message>
         <source>Choose…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir…</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir les régions</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Régions</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles de fractionnement personnalisées</translation>
     </message>
     <message>
         <source>Edit rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les règles…</translation>
     </message>
     <message>
         <source>Edit custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifier les règles de fractionnement personnalisées</translation>
     </message>
     <message>
         <source>Split routing</source>
-        <translation type="unfinished"></translation>
+        <translation>Tunnel fractionné</translation>
     </message>
     <message>
         <source>TovraVPN Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de TovraVPN Split</translation>
     </message>
     <message>
         <source>Tovra Proxy Split options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de Tovra Proxy Split</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Tunnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce qui n’est pas choisi ci-dessous passe par le tunnel</translation>
     </message>
     <message>
         <source>Everything not chosen below goes through the proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout ce qui n’est pas choisi ci-dessous passe par le proxy</translation>
     </message>
     <message>
         <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic passe en direct, sauf si une région, la GFWList ou une règle en décide autrement.</translation>
     </message>
     <message>
         <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic passe par le tunnel, sauf si une région ou une règle le fait passer en direct.</translation>
     </message>
     <message>
         <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic passe par le proxy, sauf si une région ou une règle le fait passer en direct.</translation>
     </message>
     <message>
         <source>No regions chosen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune région choisie.</translation>
     </message>
     <message>
         <source>Go direct: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>En direct&#xa0;: %1</translation>
     </message>
     <message>
         <source>Go through the tunnel: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Par le tunnel&#xa0;: %1</translation>
     </message>
     <message>
         <source>Go through the proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Par le proxy&#xa0;: %1</translation>
     </message>
     <message>
         <source>GFWList → Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList → Tunnel</translation>
     </message>
     <message>
         <source>GFWList → Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList → Proxy</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les sites de la GFWList passent toujours par le tunnel.</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les sites de la GFWList passent toujours par le proxy.</translation>
     </message>
     <message>
         <source>Your own domain and address lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos propres listes de domaines et d’adresses.</translation>
     </message>
     <message>
         <source>Your own domain and address lists. Rules held: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos propres listes de domaines et d’adresses. Règles enregistrées&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter au compte</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se déconnecter du compte</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger le compte</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir la page de renouvellement</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualisation des emplacements...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Une mise à jour des emplacements est déjà en cours</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le favori</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’actualiser les emplacements</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’actualiser les groupes d’emplacements</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements mis à jour</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter à cet emplacement</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion impossible</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnexion impossible</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de changer la langue</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Redémarrage de Tovra pour appliquer la langue de l’interface.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de redémarrer Tovra. Veuillez redémarrer l’application manuellement.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de changer de mode</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le réseau local</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le proxy système</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez attendre la fin de l’opération en cours</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un mode VPN pour activer le Kill Switch</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le Kill Switch</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles de fractionnement personnalisées mises à jour, mais impossible de les recharger</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger les règles de fractionnement</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’importer les règles de fractionnement</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Règles de fractionnement personnalisées mises à jour (%n règle)</numerusform>
+            <numerusform>Règles de fractionnement personnalisées mises à jour (%n règles)</numerusform>
         </translation>
     </message>
     <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger les chemins de configuration</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier l’URL de l’API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de l’API rétablie par défaut</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de l’API vérifiée et enregistrée</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de l’API enregistrée mais non vérifiée</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier la connexion automatique</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier l’adresse d’écoute du proxy</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse d’écoute du proxy enregistrée pour la prochaine connexion</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse d’écoute du proxy mise à jour</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le DNS fractionné</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS fractionné mis à jour</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la réparation</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
+        <translation>Réparation terminée</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification de la compatibilité du service Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’interface et le service Tovra sont incompatibles. Mettez Tovra à jour avant de continuer.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger la version</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>La version de l’interface n’est pas disponible</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rechercher les mises à jour</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra est à jour</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification d’une mise à jour obligatoire de Tovra avant la connexion.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de la dernière recherche de mises à jour avant de lancer le téléchargement...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les informations de mise à jour ne sont pas disponibles. Recherchez de nouveau les mises à jour.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de confirmer le début du téléchargement. Vérification de son état...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lancer le téléchargement de la mise à jour</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de confirmer l’annulation. Nouvelle tentative...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la progression du téléchargement. Nouvelle tentative...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement s’est terminé avant de pouvoir être annulé. Le programme d’installation n’a pas été ouvert.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour a été téléchargée, mais le programme d’installation n’a pas pu être ouvert.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement correspond à une autre version de mise à jour. Recherchez de nouveau les mises à jour.</translation>
     </message>
     <message>
         <source>Could not load kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger le Kill Switch</translation>
     </message>
     <message>
         <source>Could not load API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger l’URL de l’API</translation>
     </message>
     <message>
         <source>Could not load split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger le DNS fractionné</translation>
     </message>
     <message>
         <source>Could not reach the Tovra service</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de joindre le service Tovra</translation>
     </message>
     <message>
         <source>Could not load languages</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger les langues</translation>
     </message>
     <message>
         <source>Checking for updates...</source>
-        <translation type="unfinished"></translation>
+        <translation>Recherche de mises à jour...</translation>
     </message>
     <message>
         <source>Tovra %1 is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra %1 est disponible</translation>
     </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
-        <translation type="unfinished">Enregistrer</translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Choose regions</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir les régions</translation>
     </message>
     <message>
         <source>Search countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher un pays</translation>
     </message>
     <message>
         <source>Countries</source>
-        <translation type="unfinished"></translation>
+        <translation>Pays</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic vers les régions cochées passe en direct, hors du tunnel. Tout le reste passe par le tunnel.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic vers les régions cochées passe en direct, sans le proxy. Tout le reste passe par le proxy.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic vers les régions cochées passe par le tunnel. Tout le reste passe en direct.</translation>
     </message>
     <message>
         <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le trafic vers les régions cochées passe par le proxy. Tout le reste passe en direct.</translation>
     </message>
     <message>
         <source>Checked: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochées&#xa0;: %1</translation>
     </message>
     <message>
         <source>No country matches “%1”.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun pays ne correspond à «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>TovraSplitRulesEditorDialog</name>
     <message>
         <source>Rule list</source>
-        <translation type="unfinished"></translation>
+        <translation>Liste de règles</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>Custom split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles de fractionnement personnalisées</translation>
     </message>
     <message>
         <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un domaine, une adresse IP ou une plage CIDR par ligne, par exemple example.org, 203.0.113.7 ou 10.0.0.0/8. Les lignes commençant par # sont des commentaires.</translation>
     </message>
     <message>
         <source>Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles</translation>
     </message>
     <message>
         <source>example.org
 *.example.net
 203.0.113.0/24</source>
-        <translation type="unfinished"></translation>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
     </message>
     <message>
         <source>Replace the chosen list with these rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Remplacer la liste choisie par ces règles</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Direct</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Block</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloquer</translation>
     </message>
     <message>
         <source>Sites and addresses that always go direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Sites et adresses qui passent toujours en direct</translation>
     </message>
     <message>
         <source>Sites and addresses that always go through Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Sites et adresses qui passent toujours par Tovra</translation>
     </message>
     <message>
         <source>Sites and addresses that are blocked</source>
-        <translation type="unfinished"></translation>
+        <translation>Sites et adresses bloqués</translation>
     </message>
     <message>
         <source>Loading rules…</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement des règles…</translation>
     </message>
     <message>
         <source>The Tovra service reports no rule lists.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service Tovra n’indique aucune liste de règles.</translation>
     </message>
     <message>
         <source>Rules are not loaded yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les règles ne sont pas encore chargées.</translation>
     </message>
     <message>
         <source>Rules: %1 · Lines: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles&#xa0;: %1 · Lignes&#xa0;: %2</translation>
     </message>
     <message>
         <source>not imported</source>
-        <translation type="unfinished"></translation>
+        <translation>non importé</translation>
     </message>
     <message>
         <source>importing…</source>
-        <translation type="unfinished"></translation>
+        <translation>importation…</translation>
     </message>
     <message>
         <source>Nothing was imported. Fix these lines first:</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été importé. Corrigez d’abord ces lignes&#xa0;:</translation>
     </message>
     <message>
         <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ligne %1&#xa0;: «&#xa0;%2&#xa0;» n’est ni un domaine, ni une adresse IP, ni une plage CIDR.</translation>
     </message>
     <message>
         <source>… Bad lines in all: %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>… Lignes incorrectes au total&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: connexion...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: connexion à %1...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
@@ -2812,7 +2814,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
@@ -2840,7 +2842,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Régions</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
@@ -2900,7 +2902,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Verrouillé</translation>
     </message>
     <message>
         <source>Local Network</source>
@@ -2912,11 +2914,11 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Direct</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Protégé</translation>
     </message>
     <message>
         <source>Kill Switch</source>
@@ -2996,11 +2998,11 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Tunnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Proxy</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
@@ -3044,7 +3046,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">aucun</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
@@ -3303,7 +3305,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Inconnu</translation>
     </message>
     <message>
         <source>Latest</source>
@@ -3356,7 +3358,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Annulation...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>
@@ -3520,7 +3522,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation type="unfinished">Emplacements récents</translation>
     </message>
     <message>
         <source>Clear recent locations</source>

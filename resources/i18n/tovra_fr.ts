@@ -2746,825 +2746,826 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour de TovraVPN Split...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour des régions TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour de la GFWList TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN custom rules...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour des règles personnalisées TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour de Tovra Proxy Split...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy regions...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour des régions Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: updating Tovra Proxy GFWList...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour de la GFWList Tovra Proxy...</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec de l’opération</translation>
     </message>
     <message>
         <source>log directory</source>
-        <translation type="unfinished"></translation>
+        <translation>dossier des journaux</translation>
     </message>
     <message>
         <source>missing %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 manquant</translation>
     </message>
     <message>
         <source>%1 does not exist: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’existe pas&#xa0;: %2</translation>
     </message>
     <message>
         <source>could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible d’ouvrir %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Current: loading...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actuel&#xa0;: chargement...</translation>
     </message>
     <message>
         <source>Refresh Nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser les emplacements</translation>
     </message>
     <message>
         <source>Loading nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargement des emplacements...</translation>
     </message>
     <message>
         <source>Auto</source>
-        <translation type="unfinished">Automatique</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished">WireGuard</translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>Mode: TovraVPN</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode&#xa0;: TovraVPN</translation>
     </message>
     <message>
         <source>Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Global</translation>
     </message>
     <message>
         <source>Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Split</translation>
     </message>
     <message>
         <source>Split Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options de fractionnement</translation>
     </message>
     <message>
         <source>Default: Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut&#xa0;: tunnel</translation>
     </message>
     <message>
         <source>Default: Direct</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut&#xa0;: direct</translation>
     </message>
     <message>
         <source>Regions</source>
-        <translation type="unfinished">Régions</translation>
+        <translation>Régions</translation>
     </message>
     <message>
         <source>GFWList -&gt; Tunnel</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList -&gt; tunnel</translation>
     </message>
     <message>
         <source>Custom Split Rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles de fractionnement personnalisées</translation>
     </message>
     <message>
         <source>Mode: Tovra Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode&#xa0;: Tovra Proxy</translation>
     </message>
     <message>
         <source>Default: Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Par défaut&#xa0;: proxy</translation>
     </message>
     <message>
         <source>GFWList -&gt; Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>GFWList -&gt; proxy</translation>
     </message>
     <message>
         <source>Tovra: starting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: démarrage...</translation>
     </message>
     <message>
         <source>Daemon: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Service&#xa0;: vérification...</translation>
     </message>
     <message>
         <source>Open Tovra...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir Tovra...</translation>
     </message>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Connecter</translation>
+        <translation>Connecter</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecter</translation>
     </message>
     <message>
         <source>Node / Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement</translation>
     </message>
     <message>
         <source>System Proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy système</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation type="unfinished">Désactivé</translation>
+        <translation>Désactivé</translation>
     </message>
     <message>
         <source>On</source>
-        <translation type="unfinished">Activé</translation>
+        <translation>Activé</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation type="unfinished">Verrouillé</translation>
+        <translation>Verrouillé</translation>
     </message>
     <message>
         <source>Local Network</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau local</translation>
     </message>
     <message>
         <source>LAN Access</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès au réseau local</translation>
     </message>
     <message>
         <source>Direct</source>
-        <translation type="unfinished">Direct</translation>
+        <translation>Direct</translation>
     </message>
     <message>
         <source>Protected</source>
-        <translation type="unfinished">Protégé</translation>
+        <translation>Protégé</translation>
     </message>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">Kill Switch</translation>
+        <translation>Kill Switch</translation>
     </message>
     <message>
         <source>Refresh Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser l’état</translation>
     </message>
     <message>
         <source>Open Logs</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les journaux</translation>
     </message>
     <message>
         <source>Account: checking...</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte&#xa0;: vérification...</translation>
     </message>
     <message>
         <source>Logout</source>
-        <translation type="unfinished"></translation>
+        <translation>Se déconnecter du compte</translation>
     </message>
     <message>
         <source>Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter</translation>
     </message>
     <message>
         <source>Tovra: daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: service indisponible</translation>
     </message>
     <message>
         <source>daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>service indisponible</translation>
     </message>
     <message>
         <source>Account: unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte&#xa0;: indisponible</translation>
     </message>
     <message>
         <source>Tovra - daemon unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra – service indisponible</translation>
     </message>
     <message>
         <source>Tovra: switching to auto...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: passage en mode Auto...</translation>
     </message>
     <message>
         <source>Tovra: switching to WireGuard...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: passage à WireGuard...</translation>
     </message>
     <message>
         <source>Tovra: switching to TovraVPN...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: passage à TovraVPN...</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: changement de TovraVPN Split...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: passage à Tovra Proxy...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy Split...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: passage à Tovra Proxy Split...</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>System Proxy: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy système&#xa0;: %1</translation>
     </message>
     <message>
         <source>Local Network: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Réseau local&#xa0;: %1</translation>
     </message>
     <message>
         <source>Tunnel</source>
-        <translation type="unfinished">Tunnel</translation>
+        <translation>Tunnel</translation>
     </message>
     <message>
         <source>Proxy</source>
-        <translation type="unfinished">Proxy</translation>
+        <translation>Proxy</translation>
     </message>
     <message>
         <source>Regions use %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Régions via %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Could not refresh nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’actualiser les emplacements</translation>
     </message>
     <message>
         <source>Could not load nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger les emplacements</translation>
     </message>
     <message>
         <source>Could not refresh node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’actualiser les groupes d’emplacements</translation>
     </message>
     <message>
         <source>Could not load node groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger les groupes d’emplacements</translation>
     </message>
     <message>
         <source>Refreshing nodes...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualisation des emplacements...</translation>
     </message>
     <message>
         <source>Nodes not loaded</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements non chargés</translation>
     </message>
     <message>
         <source>No cached nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun emplacement en cache</translation>
     </message>
     <message>
         <source>No nodes</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun emplacement</translation>
     </message>
     <message>
         <source>Current: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Actuel&#xa0;: %1</translation>
     </message>
     <message>
         <source>none</source>
-        <translation type="unfinished">aucun</translation>
+        <translation>aucun</translation>
     </message>
     <message>
         <source>Refresh Nodes (%1s)</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualiser les emplacements (%1 s)</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Location: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement&#xa0;: %1</translation>
     </message>
     <message>
         <source>Location: %1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement&#xa0;: %1 · %2</translation>
     </message>
     <message>
         <source>Current: %1 (stale)</source>
-        <translation type="unfinished"></translation>
+        <translation>Actuel&#xa0;: %1 (obsolète)</translation>
     </message>
     <message>
         <source>Group</source>
-        <translation type="unfinished"></translation>
+        <translation>Groupe</translation>
     </message>
     <message>
         <source>less than 1m</source>
-        <translation type="unfinished"></translation>
+        <translation>moins d’1 min</translation>
     </message>
     <message>
         <source>%1m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1h %2m</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>%1d</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 j</translation>
     </message>
     <message>
         <source>%1d %2h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 j %2 h</translation>
     </message>
     <message>
         <source>Tovra: disconnecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: déconnexion...</translation>
     </message>
     <message>
         <source>Tovra: logging out...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: déconnexion du compte...</translation>
     </message>
     <message>
         <source>Tovra: updating system proxy...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour du proxy système...</translation>
     </message>
     <message>
         <source>Tovra: updating local network routing...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: mise à jour du routage du réseau local...</translation>
     </message>
     <message>
         <source>Tovra: enabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: activation du Kill Switch...</translation>
     </message>
     <message>
         <source>Tovra: disabling kill switch...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: désactivation du Kill Switch...</translation>
     </message>
     <message>
         <source>Tovra: connect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: échec de la connexion</translation>
     </message>
     <message>
         <source>Tovra: disconnect failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: échec de la déconnexion</translation>
     </message>
     <message>
         <source>Logged out</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecté du compte</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec de l’opération sur le compte</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec du changement de mode</translation>
     </message>
     <message>
         <source>Mode updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode mis à jour</translation>
     </message>
     <message>
         <source>System proxy set to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy système réglé sur %1</translation>
     </message>
     <message>
         <source>Updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Mis à jour</translation>
     </message>
     <message>
         <source>Kill switch enabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch activé</translation>
     </message>
     <message>
         <source>Kill switch disabled</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch désactivé</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>échec de l’opération sur le Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
-        <translation type="unfinished">connecté</translation>
+        <translation>connecté</translation>
     </message>
     <message>
         <source>disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>déconnecté</translation>
     </message>
     <message>
         <source>connecting</source>
-        <translation type="unfinished"></translation>
+        <translation>connexion en cours</translation>
     </message>
     <message>
         <source>disconnecting</source>
-        <translation type="unfinished"></translation>
+        <translation>déconnexion en cours</translation>
     </message>
     <message>
         <source>ready</source>
-        <translation type="unfinished"></translation>
+        <translation>prêt</translation>
     </message>
     <message>
         <source>unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>inconnu</translation>
     </message>
     <message>
         <source>Tovra: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: %1</translation>
     </message>
     <message>
         <source>running</source>
-        <translation type="unfinished"></translation>
+        <translation>en cours d’exécution</translation>
     </message>
     <message>
         <source>Daemon: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Service&#xa0;: %1</translation>
     </message>
     <message>
         <source>Daemon: %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Service&#xa0;: %1 (%2)</translation>
     </message>
     <message>
         <source>Account: cached</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte&#xa0;: en cache</translation>
     </message>
     <message>
         <source>Account: Login Required</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte&#xa0;: connexion requise</translation>
     </message>
     <message>
         <source>Account: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte&#xa0;: %1</translation>
     </message>
     <message>
         <source>Account: logged in</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte&#xa0;: connecté</translation>
     </message>
     <message>
         <source>Kill Switch: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>UpdateDialog</name>
     <message>
         <source>Could not read the update download status.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire l’état du téléchargement de la mise à jour.</translation>
     </message>
     <message>
         <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement annulé.</translation>
     </message>
     <message>
         <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de télécharger la mise à jour.</translation>
     </message>
     <message>
         <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement terminé. Ouverture du programme d’installation...</translation>
     </message>
     <message>
         <source>The download link is unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lien de téléchargement n’est pas disponible.</translation>
     </message>
     <message>
         <source>Could not open the update download link.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le lien de téléchargement de la mise à jour.</translation>
     </message>
     <message>
         <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lien de téléchargement s’est ouvert dans votre navigateur. Tovra ne lancera pas le programme d’installation automatiquement.</translation>
     </message>
     <message>
         <source>Tovra Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Mise à jour de Tovra</translation>
     </message>
     <message>
         <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra doit être mis à jour avant que vous puissiez vous connecter. Téléchargez le programme d’installation ou quittez Tovra.</translation>
     </message>
     <message>
         <source>What&apos;s New</source>
-        <translation type="unfinished"></translation>
+        <translation>Nouveautés</translation>
     </message>
     <message>
         <source>Download progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Progression du téléchargement</translation>
     </message>
     <message>
         <source>Hide this update</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer cette mise à jour</translation>
     </message>
     <message>
         <source>Not Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus tard</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter Tovra</translation>
     </message>
     <message>
         <source>Exit Tovra without updating</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter Tovra sans mettre à jour</translation>
     </message>
     <message>
         <source>Open Download Link</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le lien</translation>
     </message>
     <message>
         <source>Open the Tovra update download link</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir le lien de téléchargement de la mise à jour de Tovra</translation>
     </message>
     <message>
         <source>A required update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Une mise à jour obligatoire est disponible</translation>
     </message>
     <message>
         <source>A new Tovra update is available</source>
-        <translation type="unfinished"></translation>
+        <translation>Une nouvelle mise à jour de Tovra est disponible</translation>
     </message>
     <message>
         <source>Unknown</source>
-        <translation type="unfinished">Inconnu</translation>
+        <translation>Inconnue</translation>
     </message>
     <message>
         <source>Latest</source>
-        <translation type="unfinished"></translation>
+        <translation>Dernière</translation>
     </message>
     <message>
         <source>Current version: %1
 Available version: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Version actuelle&#xa0;: %1
+Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Release notes are unavailable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les notes de version ne sont pas disponibles.</translation>
     </message>
     <message>
         <source>Downloading %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement&#xa0;: %1 sur %2</translation>
     </message>
     <message>
         <source>Downloading update...</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement de la mise à jour...</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mo</translation>
     </message>
     <message>
         <source>Preparing the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Préparation du téléchargement...</translation>
     </message>
     <message>
         <source>Verifying the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification du téléchargement...</translation>
     </message>
     <message>
         <source>Canceling the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation du téléchargement...</translation>
     </message>
     <message>
         <source>Download in Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger en arrière-plan</translation>
     </message>
     <message>
         <source>Download the latest installer without interrupting your current session.</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger le dernier programme d’installation sans interrompre votre session.</translation>
     </message>
     <message>
         <source>Hide this window while the update downloads</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer cette fenêtre pendant le téléchargement de la mise à jour</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished">Annulation...</translation>
+        <translation>Annulation...</translation>
     </message>
     <message>
         <source>Cancel the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le téléchargement de la mise à jour</translation>
     </message>
     <message>
         <source>Cancel Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler le téléchargement</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture du programme d’installation...</translation>
     </message>
     <message>
         <source>Retry Download</source>
-        <translation type="unfinished"></translation>
+        <translation>Réessayer</translation>
     </message>
     <message>
         <source>Retry the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Relancer le téléchargement de la mise à jour</translation>
     </message>
     <message>
         <source>Download Update</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger la mise à jour</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger et installer la mise à jour de Tovra</translation>
     </message>
 </context>
 <context>
     <name>UpdatesSection</name>
     <message>
         <source>Updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Mises à jour</translation>
     </message>
     <message>
         <source>Check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des mises à jour</translation>
     </message>
     <message>
         <source>Tovra for Linux</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra pour Linux</translation>
     </message>
     <message>
         <source>The version of this app.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version de cette application.</translation>
     </message>
     <message>
         <source>Ask the Tovra service for a newer version.</source>
-        <translation type="unfinished"></translation>
+        <translation>Demander une version plus récente au service Tovra.</translation>
     </message>
     <message>
         <source>%1 (build %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (build %2)</translation>
     </message>
 </context>
 <context>
     <name>VpnKillSwitchRow</name>
     <message>
         <source>Kill Switch</source>
-        <translation type="unfinished">Kill Switch</translation>
+        <translation>Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
-        <translation type="unfinished">Connecter</translation>
+        <translation>Connecter</translation>
     </message>
     <message>
         <source>Sign In</source>
-        <translation type="unfinished">Se connecter</translation>
+        <translation>Se connecter</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished">Annuler</translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecter</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnexion…</translation>
     </message>
     <message>
         <source>%1 · %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 · %2</translation>
     </message>
     <message>
         <source>Service unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Service indisponible</translation>
     </message>
     <message>
         <source>Waiting for the Tovra service to answer.</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de la réponse du service Tovra.</translation>
     </message>
     <message>
         <source>Signed out</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecté du compte</translation>
     </message>
     <message>
         <source>Sign in to your Tovra account to connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Connectez-vous à votre compte Tovra pour utiliser le VPN.</translation>
     </message>
     <message>
         <source>Location</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacement</translation>
     </message>
     <message>
         <source>Last location</source>
-        <translation type="unfinished">Dernier emplacement</translation>
+        <translation>Dernier emplacement</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté</translation>
     </message>
     <message>
         <source>Your traffic goes through the Tovra tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre trafic passe par le tunnel Tovra.</translation>
     </message>
     <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion…</translation>
     </message>
     <message>
         <source>Setting up the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Établissement du tunnel.</translation>
     </message>
     <message>
         <source>Connecting to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion à %1</translation>
     </message>
     <message>
         <source>Closing the tunnel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermeture du tunnel.</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecté</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch bloque le trafic jusqu’à ce que vous vous connectiez.</translation>
     </message>
     <message>
         <source>Your traffic is not protected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Votre trafic n’est pas protégé.</translation>
     </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer</translation>
     </message>
     <message>
         <source>Locations you connect to appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les emplacements auxquels vous vous connectez apparaissent ici.</translation>
     </message>
     <message>
         <source>Recent locations</source>
-        <translation type="unfinished">Emplacements récents</translation>
+        <translation>Emplacements récents</translation>
     </message>
     <message>
         <source>Clear recent locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Effacer les emplacements récents</translation>
     </message>
     <message>
         <source>Connect to %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se connecter à %1</translation>
     </message>
 </context>
 <context>
     <name>VpnStatusCard</name>
     <message>
         <source>Connected for %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté depuis %1</translation>
     </message>
     <message>
         <source>Mode: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le lien</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des journaux n’est pas disponible</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des journaux n’existe pas&#xa0;: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le dossier des journaux&#xa0;: %1</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation type="unfinished">Échec de l’opération sur le compte</translation>
+        <translation>Échec de l’opération sur le compte</translation>
     </message>
 </context>
 </TS>

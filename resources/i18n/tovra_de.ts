@@ -1331,27 +1331,27 @@
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation>Der Anmeldestart wird auf diesem System nicht unterstützt.</translation>
+        <translation>Autostart wird auf diesem System nicht unterstützt.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation>Das Tovra-Programm für den Anmeldestart wurde nicht gefunden.</translation>
+        <translation>Das Tovra-Programm für den Autostart wurde nicht gefunden.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation>Der Ordner für den Anmeldestart konnte nicht angelegt werden.</translation>
+        <translation>Der Autostart-Ordner konnte nicht vorbereitet werden.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation>Der Tovra-Anmeldestart konnte nicht aktualisiert werden.</translation>
+        <translation>Der Tovra-Autostart konnte nicht aktualisiert werden.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation>Der Tovra-Anmeldestart konnte nicht geschützt werden.</translation>
+        <translation>Der Tovra-Autostart konnte nicht geschützt werden.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation>Tovra konnte nicht aus dem Anmeldestart entfernt werden.</translation>
+        <translation>Tovra konnte nicht aus dem Autostart entfernt werden.</translation>
     </message>
 </context>
 <context>

@@ -3090,11 +3090,11 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>%1d</source>
-        <translation>%1 T.</translation>
+        <translation>%1 Tg.</translation>
     </message>
     <message>
         <source>%1d %2h</source>
-        <translation>%1 T. %2 Std.</translation>
+        <translation>%1 Tg. %2 Std.</translation>
     </message>
     <message>
         <source>Tovra: disconnecting...</source>

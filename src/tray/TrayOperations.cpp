@@ -16,6 +16,18 @@ constexpr int kOperationMs = 15000;
 
 using Kind = TrayRequestIds::Kind;
 
+// The notice names the value as sent; each language words it in its own way.
+QString sentProxyValue(const QString &value)
+{
+    if (value == u"off")
+        return TrayMenuText::tr("off", "system proxy value");
+    if (value == u"on")
+        return TrayMenuText::tr("on", "system proxy value");
+    if (value == u"lock")
+        return TrayMenuText::tr("lock", "system proxy value");
+    return value;
+}
+
 } // namespace
 
 TrayOperations::TrayOperations(AppState *state, ControlWorker *worker, TrayRequestIds *ids,
@@ -183,8 +195,8 @@ void TrayOperations::handleModeFinished(quint64 requestId, const ModeInfo &mode,
             m_notifier->notify(TrayMenuText::tr("Mode updated"));
             break;
         case ModeChange::SystemProxy:
-            m_notifier->notify(
-                TrayMenuText::tr("System proxy set to %1").arg(m_pendingSystemProxy));
+            m_notifier->notify(TrayMenuText::tr("System proxy set to %1")
+                                   .arg(sentProxyValue(m_pendingSystemProxy)));
             break;
         case ModeChange::SplitOption:
         case ModeChange::LocalNetwork:

@@ -35,8 +35,8 @@ void LocationsEmptyState::setReason(Reason reason, const QString &search)
         text = tr("No locations in this tab.");
         break;
     case Reason::NoMatch:
-        text = tr("Nothing matches \u201c%1\u201d.\nTry a country, a city or a code such as "
-                  "\u201cde\u201d.")
+        text = tr("Nothing matches “%1”.\nTry a country, a city or a code such as "
+                  "“de”.")
                    .arg(search.trimmed());
         break;
     }

@@ -1680,7 +1680,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Service order</source>
-        <translation>Как в службе</translation>
+        <translation>По умолчанию</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1921,11 +1921,11 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>SOCKS5 listener</source>
-        <translation>Прослушивание SOCKS5</translation>
+        <translation>SOCKS5-сервер</translation>
     </message>
     <message>
         <source>HTTP listener</source>
-        <translation>Прослушивание HTTP</translation>
+        <translation>HTTP-сервер</translation>
     </message>
     <message>
         <source>Apply listeners</source>
@@ -3274,7 +3274,7 @@ Try a country, a city or a code such as ᳞”.</source>
     </message>
     <message>
         <source>Hide this update</source>
-        <translation>Скрыть это обновление</translation>
+        <translation>Пропустить это обновление</translation>
     </message>
     <message>
         <source>Not Now</source>

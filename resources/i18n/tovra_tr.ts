@@ -1680,7 +1680,7 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>Service order</source>
-        <translation>Hizmet sırası</translation>
+        <translation>Varsayılan sıra</translation>
     </message>
     <message>
         <source>Name</source>
@@ -3272,7 +3272,7 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>Hide this update</source>
-        <translation>Bu güncellemeyi gizle</translation>
+        <translation>Bu güncellemeyi atla</translation>
     </message>
     <message>
         <source>Not Now</source>

@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>أفريقيا</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>القارة القطبية الجنوبية</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>آسيا</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>أوروبا</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>الشرق الأوسط</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>أمريكا الشمالية</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>أوقيانوسيا</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>أمريكا الجنوبية</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Star a location (or select it and press Space) to keep it here.</source>
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>لا توجد نتائج مطابقة لـ «%1».
 جرّب اسم دولة أو مدينة أو رمزًا مثل «de».</translation>
     </message>
@@ -3227,6 +3262,21 @@ Try a country, a city or a code such as ᳞”.</source>
     <message>
         <source>Kill Switch: %1</source>
         <translation>مفتاح الإيقاف: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>قفل</translation>
     </message>
 </context>
 <context>

@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>Afrika</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antarktis</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Asien</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Europa</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Naher Osten</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>Nordamerika</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Ozeanien</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>Südamerika</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Markieren Sie einen Standort mit dem Stern (oder wählen Sie ihn aus und drücke
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>Keine Treffer für „%1“.
 Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</translation>
     </message>
@@ -3223,6 +3258,21 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     <message>
         <source>Kill Switch: %1</source>
         <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>Gesperrt</translation>
     </message>
 </context>
 <context>

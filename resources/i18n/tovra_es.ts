@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>África</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antártida</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Asia</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Europa</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Oriente Medio</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>América del Norte</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Oceanía</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>América del Sur</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Marca una ubicación con la estrella (o selecciónala y pulsa Espacio) para tene
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>Nada coincide con «%1».
 Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
@@ -3223,6 +3258,21 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <message>
         <source>Kill Switch: %1</source>
         <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>desactivado</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>activado</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>bloqueado</translation>
     </message>
 </context>
 <context>

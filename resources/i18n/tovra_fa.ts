@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>آفریقا</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>جنوبگان</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>آسیا</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>اروپا</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>خاورمیانه</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>آمریکای شمالی</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>اقیانوسیه</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>آمریکای جنوبی</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Star a location (or select it and press Space) to keep it here.</source>
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>هیچ موردی با «%1» مطابقت ندارد.
 نام یک کشور، شهر یا کدی مانند «de» را امتحان کنید.</translation>
     </message>
@@ -3222,6 +3257,21 @@ Try a country, a city or a code such as ᳞”.</source>
     <message>
         <source>Kill Switch: %1</source>
         <translation>قطع اضطراری: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>خاموش</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>روشن</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>قفل</translation>
     </message>
 </context>
 <context>

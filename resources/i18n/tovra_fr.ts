@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>Afrique</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antarctique</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Asie</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Europe</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Moyen-Orient</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>Amérique du Nord</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Océanie</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>Amérique du Sud</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Ajoutez une étoile à un emplacement (ou sélectionnez-le et appuyez sur Espace
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>Aucun résultat pour «&#xa0;%1&#xa0;».
 Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
@@ -3223,6 +3258,21 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     <message>
         <source>Kill Switch: %1</source>
         <translation>Kill Switch&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>activé</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>verrouillé</translation>
     </message>
 </context>
 <context>

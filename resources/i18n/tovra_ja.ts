@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>アフリカ</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>南極</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>アジア</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>ヨーロッパ</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>中東</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>北アメリカ</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>オセアニア</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>南アメリカ</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Star a location (or select it and press Space) to keep it here.</source>
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>「%1」に一致するものはありません。
 国名、都市名、または「de」のようなコードで検索してください。</translation>
     </message>
@@ -3222,6 +3257,21 @@ Try a country, a city or a code such as ᳞”.</source>
     <message>
         <source>Kill Switch: %1</source>
         <translation>キルスイッチ: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>ロック</translation>
     </message>
 </context>
 <context>

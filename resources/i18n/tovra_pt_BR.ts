@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>África</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antártida</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Ásia</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Europa</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Oriente Médio</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>América do Norte</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Oceania</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>América do Sul</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Marque uma localização com a estrela (ou selecione-a e pressione Espaço) para
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>Nada corresponde a “%1”.
 Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
@@ -3223,6 +3258,21 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     <message>
         <source>Kill Switch: %1</source>
         <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>desativado</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>ativado</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>travado</translation>
     </message>
 </context>
 <context>

@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>Африка</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Антарктида</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Азия</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Европа</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Ближний Восток</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>Северная Америка</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Океания</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>Южная Америка</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Star a location (or select it and press Space) to keep it here.</source>
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>Ничего не найдено по запросу «%1».
 Попробуйте страну, город или код, например «de».</translation>
     </message>
@@ -3224,6 +3259,21 @@ Try a country, a city or a code such as ᳞”.</source>
     <message>
         <source>Kill Switch: %1</source>
         <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>выкл.</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>вкл.</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>закреплён</translation>
     </message>
 </context>
 <context>

@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>Afrika</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antarktika</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Asya</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Avrupa</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Orta Doğu</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>Kuzey Amerika</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Okyanusya</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>Güney Amerika</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Bir konumu burada tutmak için yıldızlayın (veya seçip Boşluk tuşuna bası
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>“%1” ile eşleşen sonuç yok.
 Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
@@ -3222,6 +3257,21 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     <message>
         <source>Kill Switch: %1</source>
         <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>kapalı</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>açık</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>kilitli</translation>
     </message>
 </context>
 <context>

@@ -271,6 +271,41 @@
     </message>
 </context>
 <context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>非洲</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>南極洲</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>亞洲</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>歐洲</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>中東</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>北美洲</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>大洋洲</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>南美洲</translation>
+    </message>
+</context>
+<context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
@@ -1572,7 +1607,7 @@ Star a location (or select it and press Space) to keep it here.</source>
     </message>
     <message>
         <source>Nothing matches “%1”.
-Try a country, a city or a code such as ᳞”.</source>
+Try a country, a city or a code such as “de”.</source>
         <translation>找不到符合「%1」的結果。
 請試試國家、城市或代碼，例如「de」。</translation>
     </message>
@@ -3222,6 +3257,21 @@ Try a country, a city or a code such as ᳞”.</source>
     <message>
         <source>Kill Switch: %1</source>
         <translation>斷網保護：%1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>鎖定</translation>
     </message>
 </context>
 <context>

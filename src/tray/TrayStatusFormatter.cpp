@@ -58,8 +58,10 @@ QString TrayStatusFormatter::statusLine(const RuntimeInfo &runtime, const QStrin
 
 QString TrayStatusFormatter::daemonLine(const RuntimeInfo &runtime)
 {
+    // A daemon that says nothing, or says it runs, reads "running" in the user's language; other
+    // words are its own.
     QString word = runtime.daemonState.trimmed();
-    if (word.isEmpty())
+    if (word.isEmpty() || word.compare(u"running", Qt::CaseInsensitive) == 0)
         word = TrayMenuText::tr("running");
     if (runtime.daemonVersion.trimmed().isEmpty())
         return TrayMenuText::tr("Daemon: %1").arg(word);

@@ -1,6 +1,7 @@
 #include "SettingsFlow.h"
 
 #include "AppState.h"
+#include "BidiText.h"
 #include "ControlWorker.h"
 #include "MainWindow.h"
 #include "RequestLedger.h"
@@ -589,7 +590,7 @@ void SettingsFlow::noteUpdateCheckFinished(const UpdateInfo &info, const QString
                            QT_TRANSLATE_NOOP("TovraAppShell", "Could not check for updates"));
     else if (info.updateAvailable)
         text = QCoreApplication::translate("TovraAppShell", "Tovra %1 is available")
-                   .arg(info.versionCode);
+                   .arg(isolated(info.versionCode));
     else
         text = ShellText::tr("Tovra is up to date");
     m_context.window->setSettingsNote(SettingsNotes::UpdateCheck, text);

@@ -1,5 +1,6 @@
 #include "TrayLogOpener.h"
 
+#include "BidiText.h"
 #include "TrayLog.h"
 #include "TrayMenuText.h"
 
@@ -56,9 +57,11 @@ void TrayLogOpener::handleConfigPathsFinished(quint64 requestId, const ConfigPat
         return;
     }
     if (!QDir(dir).exists()) {
-        m_notifier->notifyFailure({}, TrayMenuText::tr("%1 does not exist: %2").arg(what, dir));
+        m_notifier->notifyFailure(
+            {}, TrayMenuText::tr("%1 does not exist: %2").arg(what, isolated(dir)));
         return;
     }
     if (!m_urlOpener || !m_urlOpener(QUrl::fromLocalFile(dir)))
-        m_notifier->notifyFailure({}, TrayMenuText::tr("could not open %1: %2").arg(what, dir));
+        m_notifier->notifyFailure(
+            {}, TrayMenuText::tr("could not open %1: %2").arg(what, isolated(dir)));
 }

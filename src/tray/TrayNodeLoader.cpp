@@ -1,5 +1,6 @@
 #include "TrayNodeLoader.h"
 
+#include "BidiText.h"
 #include "TrayLog.h"
 #include "TrayMenuText.h"
 
@@ -146,7 +147,7 @@ void TrayNodeLoader::updateEntries()
             reference = runtime.selectedNode.trimmed();
         m_menu.currentLine->setText(
             TrayMenuText::tr("Current: %1")
-                .arg(reference.isEmpty() ? TrayMenuText::tr("none") : reference));
+                .arg(reference.isEmpty() ? TrayMenuText::tr("none") : isolated(reference)));
     }
 }
 

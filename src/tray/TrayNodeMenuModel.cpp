@@ -1,5 +1,6 @@
 #include "TrayNodeMenuModel.h"
 
+#include "BidiText.h"
 #include "Countries.h"
 #include "TrayMenuText.h"
 
@@ -69,7 +70,7 @@ QVariant TrayNodeMenuModel::data(const QModelIndex &index, int role) const
         const QString duration = entry.connected ? durationText() : QString();
         if (duration.isEmpty())
             return entry.label;
-        return TrayMenuText::tr("%1 · %2").arg(entry.label, duration);
+        return TrayMenuText::tr("%1 · %2").arg(isolated(entry.label), duration);
     }
     case NodeIdRole:
         return entry.id;
@@ -174,12 +175,12 @@ QString TrayNodeMenuModel::currentLine() const
     if (m_connected && node == &m_nodes.connected) {
         const QString duration = durationText();
         if (duration.isEmpty())
-            return TrayMenuText::tr("Location: %1").arg(label);
-        return TrayMenuText::tr("Location: %1 · %2").arg(label, duration);
+            return TrayMenuText::tr("Location: %1").arg(isolated(label));
+        return TrayMenuText::tr("Location: %1 · %2").arg(isolated(label), duration);
     }
     if (m_nodes.stale)
-        return TrayMenuText::tr("Current: %1 (stale)").arg(label);
-    return TrayMenuText::tr("Current: %1").arg(label);
+        return TrayMenuText::tr("Current: %1 (stale)").arg(isolated(label));
+    return TrayMenuText::tr("Current: %1").arg(isolated(label));
 }
 
 QString TrayNodeMenuModel::labelFor(const QString &nodeId) const

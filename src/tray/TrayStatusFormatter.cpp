@@ -1,5 +1,6 @@
 #include "TrayStatusFormatter.h"
 
+#include "BidiText.h"
 #include "KillSwitchState.h"
 #include "TrayMenuText.h"
 
@@ -51,7 +52,7 @@ QString TrayStatusFormatter::statusLine(const RuntimeInfo &runtime, const QStrin
         const QString label = connectingLabel.trimmed();
         if (label.isEmpty())
             return TrayMenuText::tr("Tovra: connecting...");
-        return TrayMenuText::tr("Tovra: connecting %1...").arg(label);
+        return TrayMenuText::tr("Tovra: connecting %1...").arg(isolated(label));
     }
     return TrayMenuText::tr("Tovra: %1").arg(stateWord(runtime));
 }
@@ -65,7 +66,7 @@ QString TrayStatusFormatter::daemonLine(const RuntimeInfo &runtime)
         word = TrayMenuText::tr("running");
     if (runtime.daemonVersion.trimmed().isEmpty())
         return TrayMenuText::tr("Daemon: %1").arg(word);
-    return TrayMenuText::tr("Daemon: %1 (%2)").arg(word, runtime.daemonVersion.trimmed());
+    return TrayMenuText::tr("Daemon: %1 (%2)").arg(word, isolated(runtime.daemonVersion.trimmed()));
 }
 
 bool TrayStatusFormatter::isSignedIn(const RuntimeInfo &runtime)
@@ -87,7 +88,7 @@ QString TrayStatusFormatter::accountLine(const RuntimeInfo &runtime, const UserI
         const QString email = user.email.trimmed();
         const QString identity = email.isEmpty() ? user.userNumber.trimmed() : email;
         if (!identity.isEmpty())
-            return TrayMenuText::tr("Account: %1").arg(identity);
+            return TrayMenuText::tr("Account: %1").arg(isolated(identity));
         return TrayMenuText::tr("Account: logged in");
     }
     if (lookup == UserLookup::Pending)

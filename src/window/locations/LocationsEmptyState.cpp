@@ -1,5 +1,7 @@
 #include "LocationsEmptyState.h"
 
+#include "BidiText.h"
+
 LocationsEmptyState::LocationsEmptyState(QWidget *parent)
     : QLabel(parent)
 {
@@ -37,7 +39,7 @@ void LocationsEmptyState::setReason(Reason reason, const QString &search)
     case Reason::NoMatch:
         text = tr("Nothing matches “%1”.\nTry a country, a city or a code such as "
                   "“de”.")
-                   .arg(search.trimmed());
+                   .arg(isolated(search.trimmed()));
         break;
     }
     setText(text);

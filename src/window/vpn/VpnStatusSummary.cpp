@@ -1,5 +1,6 @@
 #include "VpnStatusSummary.h"
 
+#include "BidiText.h"
 #include "Countries.h"
 #include "KillSwitchState.h"
 #include "RoutingMode.h"
@@ -53,7 +54,7 @@ QString placeText(const NodeEntry &node, const QString &fallback)
     const QString name = node.name.trimmed().isEmpty() ? node.id : node.name.trimmed();
     if (country.isEmpty() || country == name)
         return name;
-    return VpnPageText::tr("%1 \u00b7 %2").arg(country, name);
+    return VpnPageText::tr("%1 \u00b7 %2").arg(country, isolated(name));
 }
 
 } // namespace
@@ -137,8 +138,9 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
         const QString target = pending.active && !pending.label.trimmed().isEmpty()
                                    ? pending.label.trimmed()
                                    : summary.locationText;
-        summary.detail = target.isEmpty() ? VpnPageText::tr("Setting up the tunnel.")
-                                          : VpnPageText::tr("Connecting to %1").arg(target);
+        summary.detail = target.isEmpty()
+                             ? VpnPageText::tr("Setting up the tunnel.")
+                             : VpnPageText::tr("Connecting to %1").arg(isolated(target));
         break;
     }
     case Phase::Disconnecting:

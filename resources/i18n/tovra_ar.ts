@@ -2082,6 +2082,14 @@ Try a country, a city or a code such as “de”.</source>
         <source>Unknown</source>
         <translation>غير معروف</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(من إعدادات النظام)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(من قائمتك)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

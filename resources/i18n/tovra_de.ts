@@ -2082,6 +2082,14 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
         <source>Unknown</source>
         <translation>Unbekannt</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(aus den Systemeinstellungen)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(aus Ihrer Liste)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>
@@ -2164,7 +2172,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Preferences</source>
-        <translation>Einstellungen</translation>
+        <translation>Präferenzen</translation>
     </message>
     <message>
         <source>Applying settings...</source>

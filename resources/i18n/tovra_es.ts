@@ -2082,6 +2082,14 @@ Prueba con un país, una ciudad o un código como «de».</translation>
         <source>Unknown</source>
         <translation>Desconocido</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(de la configuración del sistema)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(de tu lista)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

@@ -2082,6 +2082,14 @@ Try a country, a city or a code such as “de”.</source>
         <source>Unknown</source>
         <translation>نامشخص</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(از تنظیمات سیستم)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(از فهرست شما)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

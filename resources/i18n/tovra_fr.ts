@@ -2082,6 +2082,14 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
         <source>Unknown</source>
         <translation>Inconnu</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(depuis les paramètres du système)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(depuis votre liste)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

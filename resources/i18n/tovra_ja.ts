@@ -2082,6 +2082,14 @@ Try a country, a city or a code such as “de”.</source>
         <source>Unknown</source>
         <translation>不明</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>（システム設定から）</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>（ご自身のリストから）</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

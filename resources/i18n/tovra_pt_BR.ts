@@ -2082,6 +2082,14 @@ Tente um país, uma cidade ou um código como “de”.</translation>
         <source>Unknown</source>
         <translation>Desconhecido</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(das configurações do sistema)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(da sua lista)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

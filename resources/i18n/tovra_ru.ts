@@ -2082,6 +2082,14 @@ Try a country, a city or a code such as “de”.</source>
         <source>Unknown</source>
         <translation>Неизвестно</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(из настроек системы)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(из вашего списка)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

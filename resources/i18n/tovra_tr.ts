@@ -2082,6 +2082,14 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
         <source>Unknown</source>
         <translation>Bilinmiyor</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(sistem ayarlarından)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(listenizden)</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

@@ -2082,6 +2082,14 @@ Try a country, a city or a code such as “de”.</source>
         <source>Unknown</source>
         <translation>未知</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>（来自系统设置）</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>（来自您的列表）</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

@@ -2082,6 +2082,14 @@ Try a country, a city or a code such as “de”.</source>
         <source>Unknown</source>
         <translation>未知</translation>
     </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>（來自系統設定）</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>（來自您的清單）</translation>
+    </message>
 </context>
 <context>
     <name>NotificationHost</name>

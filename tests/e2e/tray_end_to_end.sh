@@ -2,8 +2,12 @@
 # End to end: the demo daemon, a real X server (Xvfb) with a tray host (trayer), and the client.
 # Checks that the tray icon appears, that a click opens the window, that "Connect" in the tray
 # menu connects, and that "Quit" ends the client; takes pictures of the menu and the window.
-# Usage: tray_end_to_end.sh CLIENT DAEMON CTL GRAB SCREENSHOT_DIR
+# Usage: tray_end_to_end.sh CLIENT DAEMON CTL GRAB SCREENSHOT_DIR [HOST]
+# HOST is the kind of tray host: xembed (trayer, the default) or sni (StatusNotifierItem, whose
+# clicks are D-Bus calls: tray_sni_end_to_end.sh).
 set -euo pipefail
+if [[ ${6:-xembed} == sni ]]; then exec "$(dirname "$0")/tray_sni_end_to_end.sh" "${@:1:5}"; fi
+[[ ${6:-xembed} == xembed ]] || { echo "FAIL: unknown tray host kind $6" >&2; exit 2; }
 
 client=$1 daemon=$2 ctl=$3 grab=$4 shots=$5
 work=$(mktemp -d)

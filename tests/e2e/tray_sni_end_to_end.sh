@@ -140,7 +140,7 @@ window_visible() {
     local id width
     for id in $(xdotool search --onlyvisible --name '^Tovra$' 2>/dev/null); do
         width=$(xdotool getwindowgeometry "$id" | sed -n 's/.*Geometry: \([0-9]*\)x.*/\1/p')
-        (( ${width:-0} >= 300 )) && return 0
+        (( ${width:-0} >= 300 )) && { window_id=$id; return 0; }
     done
     return 1
 }
@@ -149,6 +149,10 @@ item_call /StatusNotifierItem org.kde.StatusNotifierItem.Activate 0 0 >/dev/null
 wait_for 10 window_visible || fail "activating the item did not open the window"
 "$grab" "$shots/window.png" || fail "could not take the window picture"
 [[ -s $shots/window.png ]] || fail "window.png is empty"
+# For AppStream: the window alone.
+eval "$(xdotool getwindowgeometry --shell "$window_id")"
+"$grab" "$shots/appstream-window.png" "$X" "$Y" "$WIDTH" "$HEIGHT" \
+    || fail "could not take the AppStream window picture"
 
 click_entry Quit || fail "Quit is not in the exported menu"
 client_exited() { ! kill -0 "$client_pid" 2>/dev/null; }

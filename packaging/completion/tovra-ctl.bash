@@ -15,7 +15,8 @@ _tovra_ctl()
 
     case $prev in
     --socket)
-        COMPREPLY=($(compgen -f -- "$cur"))
+        compopt -o filenames 2>/dev/null
+        mapfile -t COMPREPLY < <(compgen -f -- "$cur")
         return
         ;;
     --timeout)
@@ -41,9 +42,9 @@ _tovra_ctl()
 
     if [[ -z $operation ]]; then
         if [[ $cur == -* ]]; then
-            COMPREPLY=($(compgen -W "--socket --timeout --help" -- "$cur"))
+            mapfile -t COMPREPLY < <(compgen -W "--socket --timeout --help" -- "$cur")
         else
-            COMPREPLY=($(compgen -W "$operations help raw" -- "$cur"))
+            mapfile -t COMPREPLY < <(compgen -W "$operations help raw" -- "$cur")
         fi
         return
     fi
@@ -51,10 +52,10 @@ _tovra_ctl()
     case $operation:$position in
     fetchNodes:0 | setNodeFavorite:1 | setKillSwitchEnabled:0 | setKillSwitchAllowLAN:0 | \
         setProxyLANPreference:0 | login:2)
-        COMPREPLY=($(compgen -W "true false" -- "$cur"))
+        mapfile -t COMPREPLY < <(compgen -W "true false" -- "$cur")
         ;;
     raw:0)
-        COMPREPLY=($(compgen -W "GET POST PUT DELETE" -- "$cur"))
+        mapfile -t COMPREPLY < <(compgen -W "GET POST PUT DELETE" -- "$cur")
         ;;
     esac
 }

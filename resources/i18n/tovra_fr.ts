@@ -1176,7 +1176,7 @@
     </message>
     <message>
         <source>Turkey</source>
-        <translation>Türkiye</translation>
+        <translation>Turquie</translation>
     </message>
     <message>
         <source>Turkmenistan</source>

@@ -536,7 +536,7 @@
     </message>
     <message>
         <source>Czech Republic</source>
-        <translation>Czechia</translation>
+        <translation>チェコ</translation>
     </message>
     <message>
         <source>Denmark</source>
@@ -816,7 +816,7 @@
     </message>
     <message>
         <source>Macedonia, The Former Yugoslav Republic of</source>
-        <translation>North Macedonia</translation>
+        <translation>北マケドニア</translation>
     </message>
     <message>
         <source>Madagascar</source>
@@ -1120,7 +1120,7 @@
     </message>
     <message>
         <source>Swaziland</source>
-        <translation>Eswatini</translation>
+        <translation>エスワティニ</translation>
     </message>
     <message>
         <source>Sweden</source>
@@ -1176,7 +1176,7 @@
     </message>
     <message>
         <source>Turkey</source>
-        <translation>Türkiye</translation>
+        <translation>トルコ</translation>
     </message>
     <message>
         <source>Turkmenistan</source>

@@ -6,7 +6,7 @@ CMAKE_ARGS ?=
 export CCACHE_BASEDIR := $(CURDIR)
 export CCACHE_NOHASHDIR := 1
 
-.PHONY: all deps configure build test demo clean format
+.PHONY: all deps configure build test demo clean format package
 
 all: build
 
@@ -30,3 +30,8 @@ format:
 
 clean:
 	rm -rf $(BUILD_DIR) build-asan build-fuzz
+
+# The Debian package: build/tovra_<version>-<build>_<arch>.deb (only what it installs is built).
+package: configure
+	@cmake --build $(BUILD_DIR) --parallel $$(nproc) --target tovra tovra-ctl tovra_package_data
+	@cd $(BUILD_DIR) && cpack -G DEB

@@ -2,9 +2,11 @@
 # Reads the client's accessibility tree the way a screen reader does: a private X server,
 # session bus and AT-SPI bus, the demo daemon signed in, the client with its window shown, then
 # scripts/accessibility-tree.py. Needs Debian's at-spi2-core, python3-pyatspi and dbus-x11.
-# Usage: scripts/accessibility-tree.sh [BUILD_DIR]
+# Usage: scripts/accessibility-tree.sh [BUILD_DIR] [--pages]
+#   TOVRA_A11Y_LANG=ru (any tag) runs the client in that language, as the daemon's choice.
 set -euo pipefail
 build=${1:-build}
+shift $(( $# > 0 ? 1 : 0 ))
 here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 pids=()
@@ -32,6 +34,9 @@ pids+=($!)
 pids+=($!)
 wait_for 10 grep -qs "listening on" "$work/daemon.log"
 echo demo | "$build/src/ctl/tovra-ctl" --socket "$work/control.sock" login demo@tovra.invalid - true >/dev/null
+if [[ -n ${TOVRA_A11Y_LANG:-} ]]; then
+    "$build/src/ctl/tovra-ctl" --socket "$work/control.sock" setLanguage user "$TOVRA_A11Y_LANG" >/dev/null
+fi
 mkdir -p "$work/config/Tovra" "$work/runtime"
 chmod 700 "$work/runtime"
 XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime TOVRA_CONTROL_SOCKET=$work/control.sock \
@@ -39,4 +44,4 @@ XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime TOVRA_CONTROL_SOCKET=
 pids+=($!)
 wait_for 20 xdotool search --onlyvisible --name '^Tovra' >/dev/null
 sleep 1
-/usr/bin/python3 "$here/accessibility-tree.py"
+/usr/bin/python3 "$here/accessibility-tree.py" "$@"

@@ -23,6 +23,14 @@ ISO_JSON = pathlib.Path("/usr/share/iso-codes/json/iso_3166-1.json")
 LOCALE_DIR = pathlib.Path("/usr/share/locale")
 # Our language tags (resources/i18n/tovra_<tag>.ts) to the locales iso-codes ships.
 LOCALES = {"zh_Hans": "zh_CN", "zh_Hant": "zh_TW"}
+# Names whose current ISO spelling iso-codes has not yet translated for a language.
+OWN = {
+    "tr": {"ar": "تركيا", "es": "Turquía", "fa": "ترکیه", "fr": "Turquie", "ja": "トルコ",
+           "pt_BR": "Turquia", "ru": "Турция"},
+    "cz": {"ja": "チェコ"},
+    "mk": {"ja": "北マケドニア"},
+    "sz": {"ja": "エスワティニ"},
+}
 
 
 def table(repo):
@@ -49,12 +57,14 @@ def catalogue(tag):
         return gettext.GNUTranslations(handle)
 
 
-def context_xml(rows, names, translations):
+def context_xml(tag, rows, names, translations):
     lines = ["<context>", "    <name>Countries</name>"]
     for code, source in rows:
         known = [english for english in names.get(code, []) if english in translations._catalog]
         # Without a translation the ISO spelling still beats the ASCII table text.
         translated = translations.gettext(known[0]) if known else names.get(code, [""])[-1]
+        if not known and tag in OWN.get(code, {}):
+            translated = OWN[code][tag]
         escape = lambda s: xml.sax.saxutils.escape(s, {'"': "&quot;", "'": "&apos;"})
         lines.append("    <message>")
         lines.append(f"        <source>{escape(source)}</source>")
@@ -74,7 +84,7 @@ def fill(path, rows, names):
         print(f"{path.name}: no iso-codes catalogue for {tag}, skipped", file=sys.stderr)
         return
     text = path.read_text(encoding="utf-8")
-    block = context_xml(rows, names, translations)
+    block = context_xml(tag, rows, names, translations)
     text = re.sub(r"<context>\n    <name>Countries</name>\n.*?</context>\n", "", text, flags=re.S)
     # Contexts stand in name order, as lupdate writes them.
     for match in re.finditer(r"<context>\n    <name>([^<]*)</name>", text):

@@ -21,6 +21,11 @@ start=$SECONDS
 ctest --test-dir build --output-on-failure --parallel "$jobs"
 echo "tests took $((SECONDS - start)) s"
 
+section "Debian package"
+start=$SECONDS
+scripts/package-check.sh build
+echo "package check took $((SECONDS - start)) s"
+
 section "sanitizer build (ASan + UBSan)"
 start=$SECONDS
 cmake -S . -B build-asan -G Ninja -DCMAKE_BUILD_TYPE=Debug -DTOVRA_WERROR=ON -DTOVRA_SANITIZE=ON \

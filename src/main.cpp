@@ -1,4 +1,5 @@
 // The Tovra desktop client: one tray process per user, restarted to change its language.
+#include "AppId.h"
 #include "ControlClient.h"
 #include "ControlEndpoints.h"
 #include "GuiAutostart.h"
@@ -47,6 +48,8 @@ int main(int argc, char *argv[])
     QApplication::setApplicationName(QStringLiteral("Tovra"));
     QApplication::setApplicationVersion(QStringLiteral(TOVRA_VERSION));
     QApplication::setOrganizationName(QStringLiteral("Tovra"));
+    // Ties the windows to the installed application entry (the Wayland app id).
+    QGuiApplication::setDesktopFileName(QLatin1String(kTovraAppId));
     QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.png")));
     QApplication::setQuitOnLastWindowClosed(false);
 

@@ -4,38 +4,324 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
-        <translation type="unfinished"></translation>
+        <source>Enter account and password.</source>
+        <translation>أدخل الحساب وكلمة المرور.</translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <source>Account operation failed</source>
+        <translation>فشلت عملية الحساب</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation>تذكّر هذا الحساب</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation>استخدم حساب Tovra للاتصال ومزامنة المواقع المتاحة.</translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation>البريد الإلكتروني أو معرّف المستخدم</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>كلمة المرور</translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation>إنشاء حساب</translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation>هل نسيت كلمة المرور؟</translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation>جارٍ تسجيل الدخول...</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation>تجديد</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>تسجيل الخروج</translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation>تم تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation>معرّف المستخدم: %1</translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation>الخطة: %1</translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation>الأيام المتبقية: %1</translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation>الحد الأقصى للأجهزة المتزامنة: %1</translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation>جارٍ تسجيل الخروج...</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>جارٍ الفتح…</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation>التطبيق</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>تغيير…</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>التشغيل عند تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation>تشغيل Tovra في شريط المهام عند تسجيل الدخول إلى سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation>إظهار النافذة عند التشغيل</translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation>فتح هذه النافذة عند بدء Tovra؛ وإلا تظهر أيقونة شريط المهام فقط.</translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation>مثل سطح المكتب</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>فاتح</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>داكن</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>المظهر</translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation>فاتح أو داكن أو حسب سطح المكتب.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>تغيير اللغة</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation>%1، حسب سطح المكتب</translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation>تعذّر تحديث التشغيل عند تسجيل الدخول</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation>الموقع %1</translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation>مواقع أخرى</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>مميّز</translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation>المواقع: %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation>لم يُقَس زمن الاستجابة</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>مفضّل</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation>غير مشمول في خطتك</translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation>لا تشمل خطتك هذا الموقع. قم بالترقية لاستخدامه.</translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation>قد تكون هذه القائمة قديمة.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation>الاتصال</translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation>عنوان URL لواجهة API</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>استعادة الافتراضي</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>آخر موقع</translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation>أسرع موقع</translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation>الاتصال التلقائي</translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation>ما تتصل به خدمة Tovra عند بدء تشغيلها.</translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation>حفظ عنوان URL لواجهة API</translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation>إعادة عنوان URL لواجهة API إلى الافتراضي</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation>العنوان الذي تصل عبره خدمة Tovra إلى خوادم الحسابات والمواقع. لا تغيّره إلا إذا طلب منك الدعم ذلك.</translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation>التحقق: %1</translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation>تحققت منه خدمة Tovra</translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation>لم يتم التحقق: حفظت خدمة Tovra هذا العنوان لكنها لم تتمكن من تأكيده</translation>
+    </message>
+</context>
+<context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>أفريقيا</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>القارة القطبية الجنوبية</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>آسيا</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>أوروبا</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>الشرق الأوسط</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>أمريكا الشمالية</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>أوقيانوسيا</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>أمريكا الجنوبية</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>خدمة Tovra لا تعمل.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>تم رفض الوصول إلى خدمة Tovra. أضف هذا المستخدم إلى مجموعة tovracli، ثم سجّل الخروج وسجّل الدخول مجددًا.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الاتصال بخدمة Tovra.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>خدمة Tovra قديمة جدًا ولا تدعم أوضاع مفتاح الإيقاف. حدّث Tovra.</translation>
     </message>
 </context>
 <context>
@@ -890,7 +1176,7 @@
     </message>
     <message>
         <source>Turkey</source>
-        <translation>Türkiye</translation>
+        <translation>تركيا</translation>
     </message>
     <message>
         <source>Turkmenistan</source>
@@ -974,30 +1260,133 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation>التكوين</translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation>وقت التشغيل</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>السجلات</translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation>ملف الحالة</translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation>مفتاح بيانات الاعتماد</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>السجل التاريخي</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>الملفات الشخصية</translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation>مقبس التحكم</translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation>ملف PID</translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation>عنوان التحكم</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>التشخيص</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>إصلاح</translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation>فتح السجلات</translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation>إصلاح الاتصال</translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation>يعيد ضبط مفتاح الإيقاف والوكيل المحلي والنفق عند توقف حركة المرور.</translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation>مجلد سجلات خدمة Tovra، لأغراض الدعم.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>نسخ</translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation>نسخ مسار %1</translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation>مسارات الخدمة</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation>المواضع التي تحفظ فيها خدمة Tovra ملفاتها.</translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation>إصدار خدمة Tovra</translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation>بروتوكول التحكم</translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation>يستخدم هذا التطبيق الإصدار 1.</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>غير معيّن</translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation>%1، غير متوافق</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>التشغيل عند تسجيل الدخول غير مدعوم على هذا النظام.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر العثور على ملف Tovra التنفيذي للتشغيل عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تجهيز مجلد التشغيل عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث تشغيل Tovra عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تأمين تشغيل Tovra عند تسجيل الدخول.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت إزالة Tovra من التشغيل عند تسجيل الدخول.</translation>
     </message>
 </context>
 <context>
@@ -1008,11 +1397,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>إقفال تام</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>الإقفال التام غير متاح</translation>
     </message>
     <message>
         <source>On</source>
@@ -1024,88 +1413,418 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>يتطلب مفتاح الإيقاف وضع VPN</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>لا يعمل مفتاح الإيقاف في وضع Tovra Proxy. انتقل إلى الوضع التلقائي (موصى به) أو TovraVPN أو WireGuard لتفعيله.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>التبديل إلى التلقائي والتفعيل</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>التبديل إلى الوضع التلقائي وتفعيل مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>اختيار الوضع…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر وضعًا لمفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>يتطلب Tovra Proxy إيقاف مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>يحظر مفتاح الإيقاف Tovra Proxy. أوقف مفتاح الإيقاف من الإعدادات أولًا، ثم بدّل الوضع.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الإعدادات</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>فتح الإعدادات لإيقاف مفتاح الإيقاف</translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>مفتاح الإيقاف</translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation>حظر حركة المرور خارج النفق</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation>يحظر حركة المرور خارج النفق أثناء اتصال Tovra أو أثناء الاتصال.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>دائمًا</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation>يحظر حركة المرور خارج النفق طالما مفتاح الإيقاف مفعّل، حتى عند قطع الاتصال.</translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation>إقفال تام</translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation>تم ضبطه من خدمة Tovra: تبقى حركة المرور خارج النفق محظورة ولا يمكن إيقاف مفتاح الإيقاف من هنا.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>الوضع</translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation>متى يحظر مفتاح الإيقاف حركة المرور.</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>الشبكة المحلية</translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation>ما إذا كانت الطابعات والمجلدات المشتركة والأجهزة القريبة الأخرى تبقى قابلة للوصول أثناء حظر حركة المرور.</translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation>وضع مفتاح الإيقاف: %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>الآن: %1</translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation>%1. تُبقي خدمة Tovra مفتاح الإيقاف مفعّلًا؛ ولا يمكن إيقافه من هنا.</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation>Tovra Proxy قيد الاستخدام: يتطلب مفتاح الإيقاف وضع VPN.</translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation>قابلة للوصول</translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation>محظورة</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation>اللغة</translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation>استخدام لغة النظام</translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation>استخدام لغة النظام (%1)</translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation>اتباع لغة سطح المكتب</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>اختر لغة</translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation>يُعاد تشغيل Tovra لعرض اللغة الجديدة.</translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation>البحث في اللغات</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>اللغات</translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation>استخدام اللغة</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation>خدمة Tovra غير متاحة.
+ستظهر المواقع هنا فور استجابتها.</translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation>جارٍ تحميل المواقع...</translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation>لا تتوفر لدى الخدمة مواقع في الوقت الحالي.
+جرّب التحديث بعد قليل.</translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation>لا توجد مواقع مفضلة بعد.
+ضع نجمة على موقع (أو حدّده واضغط مفتاح المسافة) للاحتفاظ به هنا.</translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation>لا توجد مواقع في علامة التبويب هذه.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as “de”.</source>
+        <translation>لا توجد نتائج مطابقة لـ «%1».
+جرّب اسم دولة أو مدينة أو رمزًا مثل «de».</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>كل المواقع</translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
-        <translation type="unfinished"></translation>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation>انقر نقرًا مزدوجًا على موقع للاتصال به، أو على دولة أو مدينة للاتصال بأسرع موقع فيها.</translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation>ابحث عن دول أو مدن أو مواقع أو P2P</translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation>البحث في المواقع</translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation>لا تشمل خطتك أيًا من المواقع في %1.</translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation>%1 غير مشمول في خطتك. قم بالترقية لاستخدامه.</translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation>إجراءات الموقع</translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation>الاتصال بأسرع موقع</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>طيّ</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>توسيع</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>إزالة من المفضلة</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>إضافة إلى المفضلة</translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation>النتائج في كل علامات التبويب: %1</translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation>المواقع: %1</translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation>جارٍ قياس زمن الاستجابة...</translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation>قد تكون هذه القائمة قديمة؛ يجلب التحديث قائمة جديدة.</translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation>التجميع حسب المنطقة إلى أن تصل مجموعات الخدمة.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation>الكل</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>مجاني</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>مميّز</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>المفضلة</translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation>علامات تبويب المواقع</translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation>ترتيب المواقع</translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation>ترتيب الخدمة</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>الاسم</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>زمن الاستجابة</translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation>ترتيب المواقع داخل كل مجموعة</translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation>جلب قائمة المواقع مجددًا وقياس زمن استجابتها</translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation>تحديث (%1 ث)</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>تحديث</translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation>تحديث المواقع، متاح مجددًا بعد %1 ث</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>تحديث المواقع</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation>المواقع</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت العملية</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية الإعدادات</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشلت عملية الوضع</translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation>يختار Tovra البروتوكول الأنسب هنا.</translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation>نفق سريع وحديث لكل حركة المرور.</translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation>تمر كل حركة المرور عبر نفق TovraVPN.</translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation>النفق افتراضيًا؛ والمناطق والمواقع المختارة تمر مباشرة.</translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation>بلا نفق: التطبيقات التي تستخدم الوكيل المحلي تصل إلى الإنترنت عبر Tovra.</translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation>الوكيل المحلي، مع مرور المناطق والمواقع المختارة مباشرة.</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>جارٍ التطبيق…</translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation>يتطلب مفتاح الإيقاف وضع VPN: اختر التلقائي أو WireGuard أو TovraVPN لتفعيله.</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>اختر وضعًا</translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation>يظهر الوضع الحالي بمجرد استجابة خدمة Tovra.</translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation>الوضع الحالي: %1. لا يعرفه هذا الإصدار من Tovra؛ اختر أحد الأوضاع أعلاه لاستبداله.</translation>
     </message>
 </context>
 <context>
@@ -1116,391 +1835,1799 @@
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN مقسَّم</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN شامل</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy مقسَّم</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy شامل</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>وضع التوجيه</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر كيفية توجيه حركة المرور والمواقع التي تتجاوز النفق.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>المواقع</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>الوضع</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>الإعدادات</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>الحساب</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation>الشبكة المحلية</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>وكيل النظام</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation>تبقى الطابعات والمجلدات المشتركة والأجهزة الأخرى على شبكتك قابلة للوصول</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>محمي</translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation>حركة مرور الشبكة المحلية محمية مثل باقي حركة المرور</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation>تبقى إعدادات الوكيل في سطح المكتب دون تغيير</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation>تشير إعدادات الوكيل في سطح المكتب إلى Tovra</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>قفل</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation>تشير إعدادات الوكيل في سطح المكتب إلى Tovra وتبقى كذلك</translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation>ما إذا كانت الأجهزة على شبكتك المحلية تبقى قابلة للوصول أثناء توجيه Tovra لحركة المرور.</translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation>توجيه إعدادات الوكيل في سطح المكتب إلى Tovra، أو منع البرامج الأخرى أيضًا من تغييرها.</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation>الشبكة</translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation>مستمع SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation>مستمع HTTP</translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation>تطبيق المستمعين</translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation>خوادم DNS المحلية</translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation>مثال: 192.168.1.1, ::1</translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation>حفظ الخوادم</translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation>مسح الخوادم</translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation>إعادة ضبط DNS المقسَّم</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation>تشغيل ومقفل</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>وكيل النظام</translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation>يوجّه إعدادات الوكيل في سطح المكتب إلى Tovra؛ والقفل يمنع البرامج الأخرى من تغييرها.</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>محمي</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>الشبكة المحلية</translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation>«مباشر» يصل إلى الأجهزة القريبة خارج النفق؛ و«محمي» يرسل كل شيء عبره.</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation>مستمعو الوكيل المحلي</translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation>العناوين التي تقبل عليها الخدمة اتصالات الوكيل، بصيغة host:port. اترك الحقل فارغًا لإغلاق ذلك المستمع.</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation>DNS محلي</translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation>DNS بعيد</translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation>DNS المقسَّم</translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation>المحلِّل الذي يجيب عن الأسماء التي تبقى خارج النفق.</translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation>عناوين IP لمحلِّلات الأسماء المحلية، مفصولة بفواصل.</translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation>المطبَّق: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>لا شيء</translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation>المطبَّق: %1، الخوادم %2</translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation>(من %1)</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(من إعدادات النظام)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(من قائمتك)</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>تجاهل الإشعار</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>إشعار: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation>لم تتغير قواعد التقسيم المخصصة</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation>اتصال</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation>ابحث عن دولة أو مدينة أو موقع</translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation>بحث الاتصال السريع</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation>عمليات البحث الأخيرة</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>المواقع الأخيرة</translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation>اكتب اسم دولة أو مدينة أو موقع</translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation>لا توجد مواقع مطابقة لـ «%1»</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation>نتائج البحث</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation>غير معروف</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>إلغاء</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>التفضيلات</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تطبيق الإعدادات...</translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation>تسري التغييرات بعد أن تؤكدها خدمة Tovra.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>الإعدادات</translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation>يمكن تغيير الإعدادات مجددًا بمجرد استجابة خدمة Tovra.</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation>في انتظار خدمة Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation>أضف منفذًا: host:port، مثل 127.0.0.1:1080.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>«%1» ليس عنوان IPv6.</translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation>اكتب عنوان IPv6 بين قوسين معقوفين: [::1]:1080.</translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation>أضف اسم المضيف قبل المنفذ: host:port.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation>«%1» ليس اسم مضيف ولا عنوان IP.</translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation>أضف منفذًا بعد النقطتين: host:port.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>يجب أن يكون المنفذ رقمًا من 1 إلى 65535.</translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation>أدخل عنوان URL لواجهة API، أو أعِده إلى الافتراضي.</translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation>يجب أن يبدأ عنوان URL لواجهة API بـ http:// أو https://.</translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation>يحتاج عنوان URL لواجهة API إلى اسم مضيف، مثل https://api.example.com.</translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation>أدخل خادم DNS واحدًا على الأقل، أو امسح القائمة.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation>«%1» ليس عنوان IP.</translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation>اختر TovraVPN مقسَّم أو Tovra Proxy مقسَّم لإرسال جزء من حركة المرور مباشرة: حسب المنطقة أو حسب GFWList أو حسب قواعدك الخاصة.</translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation>المسار الافتراضي</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation>كل ما لم يُختر أدناه يمر مباشرة</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>اختيار…</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>اختيار المناطق</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>المناطق</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>قواعد التقسيم المخصصة</translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation>تحرير القواعد…</translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation>تحرير قواعد التقسيم المخصصة</translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation>التوجيه المقسَّم</translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation>خيارات TovraVPN مقسَّم</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation>خيارات Tovra Proxy مقسَّم</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>النفق</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>الوكيل</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation>كل ما لم يُختر أدناه يمر عبر النفق</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation>كل ما لم يُختر أدناه يمر عبر الوكيل</translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation>تمر حركة المرور مباشرة ما لم تقضِ منطقة أو GFWList أو قاعدة بغير ذلك.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation>تمر حركة المرور عبر النفق ما لم ترسلها منطقة أو قاعدة مباشرة.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation>تمر حركة المرور عبر الوكيل ما لم ترسلها منطقة أو قاعدة مباشرة.</translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation>لم يتم اختيار مناطق.</translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation>مباشرة: %1</translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation>عبر النفق: %1</translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation>عبر الوكيل: %1</translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation>GFWList ← النفق</translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation>GFWList ← الوكيل</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر النفق.</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر الوكيل.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation>قوائم النطاقات والعناوين الخاصة بك.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation>قوائم النطاقات والعناوين الخاصة بك. القواعد المحفوظة: %1.</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تسجيل الدخول</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تسجيل الخروج</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل الحساب</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح صفحة التجديد</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ تحديث المواقع...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>تحديث المواقع قيد التنفيذ بالفعل</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث المفضلة</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث المواقع</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث مجموعات المواقع</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث المواقع</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الاتصال بهذا الموقع</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر الاتصال</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر قطع الاتصال</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث اللغة</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إعادة تشغيل Tovra لتطبيق لغة الواجهة.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت إعادة تشغيل Tovra. يُرجى إعادة تشغيل التطبيق يدويًا.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تبديل الوضع</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث إعداد الشبكة المحلية</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث وكيل النظام</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>يُرجى الانتظار حتى تنتهي العملية الحالية</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>اختر وضع VPN لتفعيل مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث قواعد التقسيم المخصصة، لكن تعذّر إعادة تحميلها</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل قواعد التقسيم</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر استيراد قواعد التقسيم</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (لا قواعد)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (قاعدة واحدة)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (قاعدتان)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (%n قواعد)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (%n قاعدة)</numerusform>
+            <numerusform>تم تحديث قواعد التقسيم المخصصة (%n قاعدة)</numerusform>
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل مسارات الإعدادات</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث عنوان URL لواجهة API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>أُعيد عنوان URL لواجهة API إلى الافتراضي</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>تم التحقق من عنوان URL لواجهة API وحفظه</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم حفظ عنوان URL لواجهة API دون التحقق منه</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث الاتصال التلقائي</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث عنوان استماع الوكيل</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>تم حفظ عنوان استماع الوكيل لإعادة الاتصال</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث عنوان استماع الوكيل</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحديث DNS المقسَّم</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تحديث DNS المقسَّم</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>فشل الإصلاح</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتمل الإصلاح</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق من توافق خدمة Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>واجهة Tovra وخدمتها غير متوافقتين. حدّث Tovra قبل المتابعة.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تحميل الإصدار</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>إصدار الواجهة غير متاح</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر التحقق من وجود تحديثات</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra محدَّث</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ التحقق من تحديث إلزامي لـ Tovra قبل الاتصال.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ إنهاء آخر عملية تحقق من التحديثات قبل بدء التنزيل...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>معلومات التحديث غير متاحة. تحقّق من وجود تحديثات مجددًا.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>جارٍ الإلغاء...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تأكيد بدء التنزيل. جارٍ التحقق من حالته...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر بدء تنزيل التحديث</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر تأكيد الإلغاء. جارٍ إعادة المحاولة...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّرت قراءة تقدم التنزيل. جارٍ إعادة المحاولة...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>اكتمل التنزيل قبل أن يتسنى إلغاؤه. لم يُفتح المثبّت.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>تم تنزيل التحديث، لكن تعذّر فتح المثبّت.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>يعود التنزيل إلى إصدار تحديث مختلف. تحقّق من وجود تحديثات مجددًا.</translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <source>Could not load kill switch</source>
+        <translation>تعذّر تحميل مفتاح الإيقاف</translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation>تعذّر تحميل عنوان URL لواجهة API</translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation>تعذّر تحميل DNS المقسَّم</translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation>تعذّر الوصول إلى خدمة Tovra</translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation>تعذّر تحميل اللغات</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>جارٍ التحقق من وجود تحديثات...</translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation>يتوفر Tovra %1</translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>حفظ</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>اختيار المناطق</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>البحث في الدول</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>الدول</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها مباشرة، خارج النفق. وكل ما عدا ذلك يمر عبر النفق.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها مباشرة، لا عبر الوكيل. وكل ما عدا ذلك يمر عبر الوكيل.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها عبر النفق. وكل ما عدا ذلك يمر مباشرة.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation>تمر حركة المرور إلى المناطق التي تحددها عبر الوكيل. وكل ما عدا ذلك يمر مباشرة.</translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation>المحدَّدة: %1</translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation>لا توجد دولة مطابقة لـ «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation>قائمة القواعد</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>استيراد</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>قواعد التقسيم المخصصة</translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation>نطاق أو عنوان IP أو نطاق CIDR واحد في كل سطر، مثل example.org أو 203.0.113.7 أو 10.0.0.0/8. الأسطر التي تبدأ بـ # تعليقات.</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>القواعد</translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>إغلاق</translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation>استبدال القائمة المختارة بهذه القواعد</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>الوكيل</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>حظر</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation>المواقع والعناوين التي تمر مباشرة دائمًا</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation>المواقع والعناوين التي تمر عبر Tovra دائمًا</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation>المواقع والعناوين المحظورة</translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation>جارٍ تحميل القواعد…</translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation>لا تُبلغ خدمة Tovra عن أي قوائم قواعد.</translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation>لم يتم تحميل القواعد بعد.</translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation>القواعد: %1 · الأسطر: %2</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>لم يُستورد</translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation>جارٍ الاستيراد…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation>لم يُستورد شيء. أصلح هذه الأسطر أولًا:</translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation>السطر %1: «%2» ليس نطاقًا ولا عنوان IP ولا نطاق CIDR.</translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation>… إجمالي الأسطر الخاطئة: %1.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ الاتصال...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: جارٍ الاتصال بـ %1...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>خطأ: %1</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation>Tovra: جارٍ تحديث تقسيم TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation>Tovra: جارٍ تحديث مناطق TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation>Tovra: جارٍ تحديث GFWList في TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation>Tovra: جارٍ تحديث القواعد المخصصة في TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation>Tovra: جارٍ تحديث Tovra Proxy مقسَّم...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation>Tovra: جارٍ تحديث مناطق Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation>Tovra: جارٍ تحديث GFWList في Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation>فشلت العملية</translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation>مجلد السجلات</translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation>%1 غير محدد</translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation>%1 غير موجود: %2</translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation>تعذّر فتح %1: %2</translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation>الحالي: جارٍ التحميل...</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation>تحديث المواقع</translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation>جارٍ تحميل المواقع...</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>تلقائي</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation>WireGuard</translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation>الوضع: TovraVPN</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>شامل</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>مقسَّم</translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation>خيارات التقسيم</translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation>الافتراضي: النفق</translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation>الافتراضي: مباشر</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>المناطق</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation>GFWList ← النفق</translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation>قواعد التقسيم المخصصة</translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation>الوضع: Tovra Proxy</translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation>الافتراضي: الوكيل</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation>GFWList ← الوكيل</translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation>Tovra: جارٍ البدء...</translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation>الخدمة: جارٍ التحقق...</translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation>فتح Tovra...</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>اتصال</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation>الموقع</translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation>وكيل النظام</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>قفل</translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation>الشبكة المحلية</translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation>الوصول إلى الشبكة المحلية</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>مباشر</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>محمي</translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation>مفتاح الإيقاف</translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation>تحديث الحالة</translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation>فتح السجلات</translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation>الحساب: جارٍ التحقق...</translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation>تسجيل الخروج</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>إنهاء</translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation>Tovra: الخدمة غير متاحة</translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation>الخدمة غير متاحة</translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation>الحساب: غير متاح</translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation>Tovra - الخدمة غير متاحة</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation>Tovra: جارٍ التبديل إلى التلقائي...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation>Tovra: جارٍ التبديل إلى WireGuard...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation>Tovra: جارٍ التبديل إلى TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation>Tovra: جارٍ تبديل تقسيم TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation>Tovra: جارٍ التبديل إلى Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation>Tovra: جارٍ التبديل إلى Tovra Proxy مقسَّم...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation>وكيل النظام: %1</translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation>الشبكة المحلية: %1</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>النفق</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>الوكيل</translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation>المناطق بمسار %1: %2</translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation>تعذّر تحديث المواقع</translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation>تعذّر تحميل المواقع</translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation>تعذّر تحديث مجموعات المواقع</translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation>تعذّر تحميل مجموعات المواقع</translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation>جارٍ تحديث المواقع...</translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation>لم يتم تحميل المواقع</translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation>لا توجد مواقع محفوظة مؤقتًا</translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation>لا توجد مواقع</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>الحالي: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>لا شيء</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation>تحديث المواقع (%1 ث)</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>الموقع: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation>الموقع: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation>الحالي: %1 (قديم)</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>مجموعة</translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation>أقل من دقيقة</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation>%1 د</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation>%1 س</translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation>%1 س %2 د</translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation>%1 ي</translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation>%1 ي %2 س</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation>Tovra: جارٍ قطع الاتصال...</translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation>Tovra: جارٍ تسجيل الخروج...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation>Tovra: جارٍ تحديث وكيل النظام...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation>Tovra: جارٍ تحديث توجيه الشبكة المحلية...</translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation>Tovra: جارٍ تفعيل مفتاح الإيقاف...</translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation>Tovra: جارٍ إيقاف مفتاح الإيقاف...</translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation>Tovra: فشل الاتصال</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation>Tovra: فشل قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation>تم تسجيل الخروج</translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation>فشلت عملية الحساب</translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation>فشلت عملية الوضع</translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation>تم تحديث الوضع</translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation>تم ضبط وكيل النظام على %1</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>تم التحديث</translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation>تم تفعيل مفتاح الإيقاف</translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation>تم إيقاف مفتاح الإيقاف</translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation>فشلت عملية مفتاح الإيقاف</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>جارٍ الاتصال</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>جارٍ قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>جاهز</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation>Tovra: %1</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>قيد التشغيل</translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation>الخدمة: %1</translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation>الخدمة: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation>الحساب: محفوظ مؤقتًا</translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation>الحساب: يلزم تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation>الحساب: %1</translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation>الحساب: تم تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation>مفتاح الإيقاف: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>إيقاف</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>تشغيل</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>قفل</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation>تعذّرت قراءة حالة تنزيل التحديث.</translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation>أُلغي التنزيل.</translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation>تعذّر تنزيل التحديث.</translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation>اكتمل التنزيل. جارٍ فتح المثبّت...</translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation>رابط التنزيل غير متاح.</translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation>تعذّر فتح رابط تنزيل التحديث.</translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation>فُتح رابط التنزيل في متصفحك. لن يشغّل Tovra المثبّت تلقائيًا.</translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation>تحديث Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation>يجب تحديث Tovra قبل أن تتمكن من الاتصال. نزّل المثبّت أو اخرج من Tovra.</translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation>ما الجديد</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>تقدم التنزيل</translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation>إخفاء هذا التحديث</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>ليس الآن</translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation>الخروج من Tovra</translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation>الخروج من Tovra دون تحديث</translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation>فتح رابط التنزيل</translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation>فتح رابط تنزيل تحديث Tovra</translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation>يتوفر تحديث إلزامي</translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation>يتوفر تحديث جديد لـ Tovra</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>غير معروف</translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation>الأحدث</translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation>الإصدار الحالي: %1
+الإصدار المتاح: %2</translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation>ملاحظات الإصدار غير متاحة.</translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation>جارٍ تنزيل %1 من %2</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>جارٍ تنزيل التحديث...</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 ميغابايت</translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation>جارٍ تجهيز التنزيل...</translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation>جارٍ التحقق من التنزيل...</translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation>جارٍ إلغاء التنزيل...</translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation>التنزيل في الخلفية</translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation>نزّل أحدث مثبّت دون مقاطعة جلستك الحالية.</translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation>إخفاء هذه النافذة أثناء تنزيل التحديث</translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation>جارٍ الإلغاء...</translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation>إلغاء تنزيل التحديث</translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation>إلغاء التنزيل</translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation>جارٍ فتح المثبّت...</translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation>إعادة التنزيل</translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation>إعادة محاولة تنزيل التحديث</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>تنزيل التحديث</translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation>تنزيل تحديث Tovra وتثبيته</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation>التحديثات</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>التحقق من وجود تحديثات</translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation>Tovra لنظام Linux</translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation>إصدار هذا التطبيق.</translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation>اسأل خدمة Tovra عن إصدار أحدث.</translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation>%1 (البنية %2)</translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>مفتاح الإيقاف</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <source>Connect</source>
+        <translation>اتصال</translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
-        <translation type="unfinished"></translation>
+        <source>Sign In</source>
+        <translation>تسجيل الدخول</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>إلغاء</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>قطع الاتصال</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>جارٍ قطع الاتصال…</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation>الخدمة غير متاحة</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation>في انتظار استجابة خدمة Tovra.</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>تم تسجيل الخروج</translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation>سجّل الدخول إلى حساب Tovra للاتصال.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>الموقع</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>آخر موقع</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>متصل</translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation>تمر حركة المرور عبر نفق Tovra.</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>جارٍ الاتصال…</translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation>جارٍ إعداد النفق.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>جارٍ الاتصال بـ %1</translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation>جارٍ إغلاق النفق.</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>غير متصل</translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation>يحظر مفتاح الإيقاف حركة المرور حتى تتصل.</translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation>حركة المرور غير محمية.</translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation>مسح</translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation>تظهر هنا المواقع التي تتصل بها.</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>المواقع الأخيرة</translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation>مسح المواقع الأخيرة</translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation>الاتصال بـ %1</translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation>مدة الاتصال: %1</translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation>الوضع: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح الرابط</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد السجلات غير متاح</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>مجلد السجلات غير موجود: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>تعذّر فتح مجلد السجلات: %1</translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation>فشلت عملية الحساب</translation>
     </message>
 </context>
 </TS>

@@ -4,38 +4,324 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
-        <translation type="unfinished"></translation>
+        <source>Enter account and password.</source>
+        <translation>Geben Sie Konto und Passwort ein.</translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <source>Account operation failed</source>
+        <translation>Kontovorgang fehlgeschlagen</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation>Konto merken</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation>Melden Sie sich mit Ihrem Tovra-Konto an, um Verbindungen herzustellen und die verfügbaren Standorte abzurufen.</translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation>E-Mail oder Benutzer-ID</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Passwort</translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation>Registrieren</translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation>Passwort vergessen?</translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation>Anmeldung läuft...</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation>Verlängern</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>Abmelden</translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation>Angemeldet</translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation>Benutzer-ID: %1</translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Tarif: %1</translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation>Verbleibende Tage: %1</translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation>Max. gleichzeitige Geräte: %1</translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation>Abmeldung läuft...</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Wird geöffnet…</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation>App</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Ändern…</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Bei Anmeldung starten</translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation>Tovra im Infobereich starten, wenn Sie sich am Desktop anmelden.</translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation>Fenster beim Start anzeigen</translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation>Dieses Fenster öffnen, wenn Tovra startet; sonst erscheint nur das Symbol im Infobereich.</translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation>Wie Desktop</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Erscheinungsbild</translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation>Hell, dunkel oder wie der Desktop.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>Sprache ändern</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation>%1, wie der Desktop</translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation>Autostart konnte nicht aktualisiert werden</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation>Standort %1</translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation>Weitere Standorte</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Premium</translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation>Standorte: %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation>Latenz nicht gemessen</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>Favorit</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation>nicht in Ihrem Tarif</translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation>Ihr Tarif enthält diesen Standort nicht. Führen Sie ein Upgrade durch, um ihn zu nutzen.</translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation>Diese Liste ist möglicherweise veraltet.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation>Verbindung</translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation>API-URL</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>Auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Letzter Standort</translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation>Schnellster Standort</translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation>Automatisch verbinden</translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation>Womit sich der Tovra-Dienst beim Start verbindet.</translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation>API-URL speichern</translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation>API-URL auf Standard zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation>Über diese Adresse erreicht der Tovra-Dienst die Konto- und Standortserver. Ändern Sie sie nur, wenn der Support Sie darum bittet.</translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation>Prüfung: %1</translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation>Vom Tovra-Dienst geprüft</translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation>Nicht geprüft: Der Tovra-Dienst hat diese Adresse gespeichert, konnte sie aber nicht bestätigen</translation>
+    </message>
+</context>
+<context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>Afrika</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antarktis</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Asien</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Europa</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Naher Osten</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>Nordamerika</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Ozeanien</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>Südamerika</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tovra-Dienst läuft nicht.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zugriff auf den Tovra-Dienst verweigert. Fügen Sie diesen Benutzer der Gruppe tovracli hinzu und melden Sie sich dann ab und wieder an.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Keine Verbindung zum Tovra-Dienst möglich.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Tovra-Dienst ist zu alt für Kill-Switch-Modi. Aktualisieren Sie Tovra.</translation>
     </message>
 </context>
 <context>
@@ -974,30 +1260,133 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation>Konfiguration</translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation>Laufzeit</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Protokolle</translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation>Statusdatei</translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation>Schlüssel für Zugangsdaten</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profile</translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation>Steuer-Socket</translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation>PID-Datei</translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation>Steueradresse</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Reparieren</translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation>Protokolle öffnen</translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation>Verbindung reparieren</translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation>Setzt Kill Switch, lokalen Proxy und Tunnel zurück, wenn der Datenverkehr hängt.</translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation>Der Protokollordner des Tovra-Dienstes, für den Support.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation>Pfad für %1 kopieren</translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation>Dienstpfade</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation>Wo der Tovra-Dienst seine Dateien ablegt.</translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation>Version des Tovra-Dienstes</translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation>Steuerprotokoll</translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation>Diese App verwendet Version 1.</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Nicht festgelegt</translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation>%1, nicht kompatibel</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation>Der Anmeldestart wird auf diesem System nicht unterstützt.</translation>
+        <translation>Autostart wird auf diesem System nicht unterstützt.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation>Das Tovra-Programm für den Anmeldestart wurde nicht gefunden.</translation>
+        <translation>Das Tovra-Programm für den Autostart wurde nicht gefunden.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation>Der Ordner für den Anmeldestart konnte nicht angelegt werden.</translation>
+        <translation>Der Autostart-Ordner konnte nicht vorbereitet werden.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation>Der Tovra-Anmeldestart konnte nicht aktualisiert werden.</translation>
+        <translation>Der Tovra-Autostart konnte nicht aktualisiert werden.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation>Der Tovra-Anmeldestart konnte nicht geschützt werden.</translation>
+        <translation>Der Tovra-Autostart konnte nicht geschützt werden.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation>Tovra konnte nicht aus dem Anmeldestart entfernt werden.</translation>
+        <translation>Tovra konnte nicht aus dem Autostart entfernt werden.</translation>
     </message>
 </context>
 <context>
@@ -1008,11 +1397,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation>Sperre</translation>
+        <translation>Sperrmodus</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation>Sperre nicht verfügbar</translation>
+        <translation>Sperrmodus nicht verfügbar</translation>
     </message>
     <message>
         <source>On</source>
@@ -1024,479 +1413,2217 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch benötigt einen VPN-Modus</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch funktioniert nicht mit Tovra Proxy. Wechseln Sie zu Auto (empfohlen), TovraVPN oder WireGuard, um ihn einzuschalten.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Auto wechseln und einschalten</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu Auto wechseln und Kill Switch einschalten</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus wählen…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus für Kill Switch wählen</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy erfordert, dass Kill Switch aus ist</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch blockiert Tovra Proxy. Schalten Sie zuerst Kill Switch in den Einstellungen aus und wechseln Sie dann den Modus.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen öffnen, um Kill Switch auszuschalten</translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation>Datenverkehr außerhalb des Tunnels blockieren</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange Tovra verbunden ist oder sich verbindet.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Immer</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange Kill Switch eingeschaltet ist, auch ohne Verbindung.</translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation>Sperrmodus</translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation>Vom Tovra-Dienst festgelegt: Datenverkehr außerhalb des Tunnels bleibt blockiert und Kill Switch lässt sich hier nicht ausschalten.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modus</translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation>Wann Kill Switch Datenverkehr blockiert.</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Lokales Netzwerk</translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation>Ob Drucker, Freigaben und andere Geräte in der Nähe erreichbar bleiben, während Datenverkehr blockiert wird.</translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation>Kill-Switch-Modus: %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Aktuell: %1</translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation>%1. Der Tovra-Dienst hält Kill Switch eingeschaltet; er lässt sich hier nicht ausschalten.</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation>Tovra Proxy ist aktiv: Kill Switch benötigt einen VPN-Modus.</translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation>Erreichbar</translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation>Blockiert</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation>Systemsprache verwenden</translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation>Systemsprache verwenden (%1)</translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation>Sprache des Desktops übernehmen</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>Sprache wählen</translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation>Tovra wird neu gestartet, um die neue Sprache anzuzeigen.</translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation>Sprachen suchen</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Sprachen</translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation>Sprache verwenden</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation>Der Tovra-Dienst ist nicht verfügbar.
+Standorte erscheinen hier, sobald er antwortet.</translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation>Standorte werden geladen...</translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation>Der Dienst bietet gerade keine Standorte an.
+Versuchen Sie es gleich noch einmal mit „Aktualisieren“.</translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation>Noch keine Favoriten.
+Markieren Sie einen Standort mit dem Stern (oder wählen Sie ihn aus und drücken Sie die Leertaste), um ihn hier abzulegen.</translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation>Keine Standorte in diesem Tab.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as “de”.</source>
+        <translation>Keine Treffer für „%1“.
+Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Standorte</translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
-        <translation type="unfinished"></translation>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation>Doppelklicken Sie auf einen Standort, um sich mit ihm zu verbinden, oder auf ein Land oder eine Stadt, um sich mit dem schnellsten Standort dort zu verbinden.</translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation>Länder, Städte, Standorte oder P2P suchen</translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation>Standorte suchen</translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation>Keiner der Standorte in %1 ist in Ihrem Tarif enthalten.</translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation>%1 ist nicht in Ihrem Tarif enthalten. Führen Sie ein Upgrade durch, um ihn zu nutzen.</translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation>Standortaktionen</translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation>Mit dem schnellsten Standort verbinden</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Einklappen</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Ausklappen</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Aus Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Zu Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation>Treffer in allen Tabs: %1</translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation>Standorte: %1</translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation>Latenz wird gemessen...</translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation>Diese Liste ist möglicherweise veraltet; „Aktualisieren“ lädt eine neue.</translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation>Gruppierung nach Region, bis die Gruppen des Dienstes eintreffen.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation>Alle</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Kostenlos</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Premium</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoriten</translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation>Standort-Tabs</translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation>Standorte sortieren</translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation>Reihenfolge des Dienstes</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>Latenz</translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation>Reihenfolge der Standorte innerhalb jeder Gruppe</translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation>Standortliste neu laden und Latenz messen</translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation>Aktualisieren (%1 s)</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Aktualisieren</translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation>Standorte aktualisieren, wieder möglich in %1 s</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Standorte aktualisieren</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation>Standorte</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vorgang fehlgeschlagen</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen konnten nicht geändert werden</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus konnte nicht geändert werden</translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation>Tovra wählt das Protokoll, das hier am besten funktioniert.</translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation>Ein schneller, moderner Tunnel für Ihren gesamten Datenverkehr.</translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation>Der gesamte Datenverkehr läuft durch den TovraVPN-Tunnel.</translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation>Standardmäßig durch den Tunnel; ausgewählte Regionen und Websites gehen direkt.</translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation>Kein Tunnel: Apps, die den lokalen Proxy nutzen, erreichen das Internet über Tovra.</translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation>Der lokale Proxy; ausgewählte Regionen und Websites gehen direkt.</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Wird angewendet…</translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation>Kill Switch benötigt einen VPN-Modus: Wählen Sie Auto, WireGuard oder TovraVPN, um ihn einzuschalten.</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>Modus wählen</translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation>Der aktuelle Modus wird angezeigt, sobald der Tovra-Dienst antwortet.</translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation>Aktueller Modus: %1. Diese Tovra-Version kennt ihn nicht; wählen Sie einen der obigen Modi, um ihn zu ersetzen.</translation>
     </message>
 </context>
 <context>
     <name>ModePage</name>
     <message>
         <source>Auto</source>
-        <translation>Automatisch</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Split</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Global</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Split</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Global</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Routing-Modus</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
+        <translation>Legen Sie fest, wie Ihr Datenverkehr geleitet wird und welche Websites den Tunnel umgehen.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation>Lokales Netzwerk</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>System-Proxy</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direkt</translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation>Drucker, Freigaben und andere Geräte in Ihrem Netzwerk bleiben erreichbar</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Geschützt</translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation>Datenverkehr im lokalen Netzwerk wird wie alles andere geschützt</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation>Die Proxy-Einstellungen des Desktops bleiben unverändert</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation>Die Proxy-Einstellungen des Desktops verweisen auf Tovra</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation>Die Proxy-Einstellungen des Desktops verweisen auf Tovra und bleiben so</translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation>Ob Geräte in Ihrem lokalen Netzwerk erreichbar bleiben, während Tovra Ihren Datenverkehr leitet.</translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation>Die Proxy-Einstellungen des Desktops auf Tovra verweisen lassen und sie optional vor Änderungen durch andere Programme schützen.</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation>Netzwerk</translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation>SOCKS5-Listener</translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation>HTTP-Listener</translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation>Listener anwenden</translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation>Lokale DNS-Server</translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation>Zum Beispiel 192.168.1.1, ::1</translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation>Server speichern</translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation>Server leeren</translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation>Split-DNS zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation>Ein und gesperrt</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>System-Proxy</translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation>Lässt die Proxy-Einstellungen des Desktops auf Tovra verweisen; „gesperrt“ hindert andere Programme daran, sie zu ändern.</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direkt</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Geschützt</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Lokales Netzwerk</translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation>„Direkt“ erreicht Geräte in der Nähe außerhalb des Tunnels; „Geschützt“ leitet alles durch ihn.</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation>Lokale Proxy-Listener</translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation>Adressen, an denen der Dienst Proxy-Verbindungen annimmt, als Host:Port. Lassen Sie ein Feld leer, um diesen Listener zu schließen.</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation>Lokales DNS</translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation>Entferntes DNS</translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation>Split-DNS</translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation>Welcher Resolver Namen auflöst, die außerhalb des Tunnels bleiben.</translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation>IP-Adressen der Resolver für lokale Namen, durch Kommas getrennt.</translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation>Wirksam: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keine</translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation>Wirksam: %1, Server %2</translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation>(aus %1)</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(aus den Systemeinstellungen)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(aus Ihrer Liste)</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigung schließen</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Benachrichtigung: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation>Eigene Split-Regeln unverändert</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation>Nach Land, Stadt oder Standort suchen</translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation>Schnellverbindung suchen</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation>Letzte Suchen</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Letzte Standorte</translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation>Land, Stadt oder Standortnamen eingeben</translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation>Keine Standorte passen zu „%1“</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation>Suchergebnisse</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Präferenzen</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen werden angewendet...</translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation>Änderungen werden wirksam, sobald der Tovra-Dienst sie bestätigt.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation>Einstellungen können wieder geändert werden, sobald der Tovra-Dienst antwortet.</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation>Warten auf den Tovra-Dienst...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation>Geben Sie einen Port an: Host:Port, zum Beispiel 127.0.0.1:1080.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>„%1“ ist keine IPv6-Adresse.</translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation>Schreiben Sie eine IPv6-Adresse in eckigen Klammern: [::1]:1080.</translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation>Geben Sie vor dem Port einen Host an: Host:Port.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation>„%1“ ist kein Hostname und keine IP-Adresse.</translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation>Geben Sie nach dem Doppelpunkt einen Port an: Host:Port.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>Der Port muss eine Zahl von 1 bis 65535 sein.</translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation>Geben Sie eine API-URL ein oder setzen Sie sie auf den Standard zurück.</translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation>Die API-URL muss mit http:// oder https:// beginnen.</translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation>Die API-URL benötigt einen Host, zum Beispiel https://api.example.com.</translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation>Geben Sie mindestens einen DNS-Server ein oder leeren Sie die Liste.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation>„%1“ ist keine IP-Adresse.</translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation>Wählen Sie TovraVPN Split oder Tovra Proxy Split, um einen Teil des Datenverkehrs direkt zu leiten: nach Region, nach der GFWList oder nach eigenen Regeln.</translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation>Standardroute</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direkt</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation>Alles, was unten nicht ausgewählt ist, geht direkt</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen…</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Regionen wählen</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regionen</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Eigene Split-Regeln</translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation>Regeln bearbeiten…</translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation>Eigene Split-Regeln bearbeiten</translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation>Split-Tunneling</translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation>Optionen für TovraVPN Split</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation>Optionen für Tovra Proxy Split</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Tunnel</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation>Alles, was unten nicht ausgewählt ist, geht durch den Tunnel</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation>Alles, was unten nicht ausgewählt ist, geht über den Proxy</translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation>Datenverkehr geht direkt, sofern keine Region, die GFWList oder eine Regel etwas anderes vorgibt.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation>Datenverkehr geht durch den Tunnel, sofern keine Region oder Regel ihn direkt leitet.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation>Datenverkehr geht über den Proxy, sofern keine Region oder Regel ihn direkt leitet.</translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation>Keine Regionen ausgewählt.</translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation>Direkt: %1</translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation>Durch den Tunnel: %1</translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation>Über den Proxy: %1</translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation>GFWList → Tunnel</translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation>GFWList → Proxy</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation>Websites auf der GFWList gehen immer durch den Tunnel.</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation>Websites auf der GFWList gehen immer über den Proxy.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation>Ihre eigenen Domain- und Adresslisten.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation>Ihre eigenen Domain- und Adresslisten. Gespeicherte Regeln: %1.</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Anmeldung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>Abmeldung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>Konto konnte nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>Verlängerungsseite konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte werden aktualisiert...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Standorte werden bereits aktualisiert</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Favorit konnte nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte konnten nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Standortgruppen konnten nicht aktualisiert werden</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Standorte aktualisiert</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung mit diesem Standort fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Trennen fehlgeschlagen</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra wird neu gestartet, um die Sprache der Oberfläche zu übernehmen.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra konnte nicht neu gestartet werden. Bitte starten Sie die App manuell neu.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modus konnte nicht gewechselt werden</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Lokales Netzwerk konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>System-Proxy konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte warten Sie, bis der aktuelle Vorgang abgeschlossen ist</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie einen VPN-Modus, um Kill Switch einzuschalten</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>Eigene Split-Regeln aktualisiert, aber die Regeln konnten nicht neu geladen werden</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-Regeln konnten nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-Regeln konnten nicht importiert werden</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Eigene Split-Regeln aktualisiert (%n Regel)</numerusform>
+            <numerusform>Eigene Split-Regeln aktualisiert (%n Regeln)</numerusform>
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Konfigurationspfade konnten nicht geladen werden</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL auf Standard zurückgesetzt</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL geprüft und gespeichert</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>API-URL gespeichert, aber nicht geprüft</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Automatisches Verbinden konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy-Adresse konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy-Adresse gespeichert, gilt ab der nächsten Verbindung</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Proxy-Adresse aktualisiert</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-DNS konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Split-DNS aktualisiert</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparatur fehlgeschlagen</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparatur abgeschlossen</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Kompatibilität des Tovra-Dienstes wird geprüft...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra-Oberfläche und -Dienst sind nicht kompatibel. Aktualisieren Sie Tovra, bevor Sie fortfahren.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>Version konnte nicht geladen werden</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Version der Oberfläche ist nicht verfügbar</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Suche nach Updates fehlgeschlagen</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra ist auf dem neuesten Stand</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vor dem Verbinden wird ein erforderliches Tovra-Update geprüft.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Die laufende Update-Prüfung wird abgeschlossen, bevor der Download beginnt...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Update-Informationen sind nicht verfügbar. Suchen Sie erneut nach Updates.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird abgebrochen...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Start des Downloads konnte nicht bestätigt werden. Status wird geprüft...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Download des Updates konnte nicht gestartet werden</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbruch konnte nicht bestätigt werden. Neuer Versuch...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Download-Fortschritt konnte nicht gelesen werden. Neuer Versuch...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download war abgeschlossen, bevor er abgebrochen werden konnte. Das Installationsprogramm wurde nicht geöffnet.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Update wurde heruntergeladen, aber das Installationsprogramm konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download gehört zu einer anderen Update-Version. Suchen Sie erneut nach Updates.</translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <source>Could not load kill switch</source>
+        <translation>Kill Switch konnte nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation>API-URL konnte nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation>Split-DNS konnte nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation>Tovra-Dienst nicht erreichbar</translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation>Sprachen konnten nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Suche nach Updates...</translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation>Tovra %1 ist verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Speichern</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Regionen wählen</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>Länder suchen</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>Länder</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation>Datenverkehr zu den markierten Regionen geht direkt, außerhalb des Tunnels. Alles andere geht durch den Tunnel.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation>Datenverkehr zu den markierten Regionen geht direkt, nicht über den Proxy. Alles andere geht über den Proxy.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation>Datenverkehr zu den markierten Regionen geht durch den Tunnel. Alles andere geht direkt.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation>Datenverkehr zu den markierten Regionen geht über den Proxy. Alles andere geht direkt.</translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation>Markiert: %1</translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation>Kein Land passt zu „%1“.</translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation>Regelliste</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importieren</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Eigene Split-Regeln</translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation>Eine Domain, IP-Adresse oder ein CIDR-Bereich pro Zeile, etwa example.org, 203.0.113.7 oder 10.0.0.0/8. Zeilen, die mit # beginnen, sind Kommentare.</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regeln</translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation>Die ausgewählte Liste durch diese Regeln ersetzen</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direkt</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Blockieren</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation>Websites und Adressen, die immer direkt gehen</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation>Websites und Adressen, die immer über Tovra gehen</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation>Websites und Adressen, die blockiert werden</translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation>Regeln werden geladen…</translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation>Der Tovra-Dienst meldet keine Regellisten.</translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation>Regeln sind noch nicht geladen.</translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation>Regeln: %1 · Zeilen: %2</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>nicht importiert</translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation>wird importiert…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation>Es wurde nichts importiert. Korrigieren Sie zuerst diese Zeilen:</translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation>Zeile %1: „%2“ ist keine Domain, IP-Adresse und kein CIDR-Bereich.</translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation>… Fehlerhafte Zeilen insgesamt: %1.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Verbindung wird hergestellt...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: Verbindung mit %1 wird hergestellt...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler: %1</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation>Tovra: TovraVPN Split wird aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation>Tovra: TovraVPN-Regionen werden aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation>Tovra: TovraVPN-GFWList wird aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation>Tovra: Eigene TovraVPN-Regeln werden aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation>Tovra: Tovra Proxy Split wird aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation>Tovra: Tovra-Proxy-Regionen werden aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation>Tovra: Tovra-Proxy-GFWList wird aktualisiert...</translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation>Vorgang fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation>Protokollordner</translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation>%1 fehlt</translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation>%1 existiert nicht: %2</translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation>%1 konnte nicht geöffnet werden: %2</translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation>Aktuell: wird geladen...</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation>Standorte aktualisieren</translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation>Standorte werden geladen...</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation>WireGuard</translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation>Modus: TovraVPN</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation>Split-Optionen</translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation>Standard: Tunnel</translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation>Standard: Direkt</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regionen</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation>GFWList -&gt; Tunnel</translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation>Eigene Split-Regeln</translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation>Modus: Tovra Proxy</translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation>Standard: Proxy</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation>GFWList -&gt; Proxy</translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation>Tovra: wird gestartet...</translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation>Dienst: wird geprüft...</translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation>Tovra öffnen...</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation>System-Proxy</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation>Lokales Netzwerk</translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation>LAN-Zugriff</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direkt</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Geschützt</translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation>Status aktualisieren</translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation>Protokolle öffnen</translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation>Konto: wird geprüft...</translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation>Abmelden</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Beenden</translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation>Tovra: Dienst nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation>Dienst nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation>Konto: nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation>Tovra – Dienst nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation>Tovra: Wechsel zu Auto...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation>Tovra: Wechsel zu WireGuard...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation>Tovra: Wechsel zu TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation>Tovra: TovraVPN Split wird umgeschaltet...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation>Tovra: Wechsel zu Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation>Tovra: Wechsel zu Tovra Proxy Split...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation>System-Proxy: %1</translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation>Lokales Netzwerk: %1</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Tunnel</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation>Regionen über %1: %2</translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation>Standorte konnten nicht aktualisiert werden</translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation>Standorte konnten nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation>Standortgruppen konnten nicht aktualisiert werden</translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation>Standortgruppen konnten nicht geladen werden</translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation>Standorte werden aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation>Standorte nicht geladen</translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation>Keine zwischengespeicherten Standorte</translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation>Keine Standorte</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>Aktuell: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keiner</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation>Standorte aktualisieren (%1 s)</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Standort: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation>Standort: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation>Aktuell: %1 (veraltet)</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Gruppe</translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation>unter 1 Min.</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation>%1 Min.</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation>%1 Std.</translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation>%1 Std. %2 Min.</translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation>%1 Tg.</translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation>%1 Tg. %2 Std.</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation>Tovra: Verbindung wird getrennt...</translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation>Tovra: Abmeldung läuft...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation>Tovra: System-Proxy wird aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation>Tovra: Routing im lokalen Netzwerk wird aktualisiert...</translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation>Tovra: Kill Switch wird eingeschaltet...</translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation>Tovra: Kill Switch wird ausgeschaltet...</translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation>Tovra: Verbindung fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation>Tovra: Trennen fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation>Abgemeldet</translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation>Kontovorgang fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation>Moduswechsel fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation>Modus geändert</translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation>System-Proxy auf %1 gesetzt</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Aktualisiert</translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation>Kill Switch eingeschaltet</translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation>Kill Switch ausgeschaltet</translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation>Kill-Switch-Vorgang fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>verbunden</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>getrennt</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>wird verbunden</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>wird getrennt</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>bereit</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation>Tovra: %1</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>läuft</translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation>Dienst: %1</translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation>Dienst: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation>Konto: zwischengespeichert</translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation>Konto: Anmeldung erforderlich</translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation>Konto: %1</translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation>Konto: angemeldet</translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>Aus</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>Ein</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>Gesperrt</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation>Der Download-Status des Updates konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation>Download abgebrochen.</translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation>Das Update konnte nicht heruntergeladen werden.</translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation>Download abgeschlossen. Installationsprogramm wird geöffnet...</translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation>Der Download-Link ist nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation>Der Download-Link des Updates konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation>Der Download-Link wurde in Ihrem Browser geöffnet. Tovra führt das Installationsprogramm nicht automatisch aus.</translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation>Tovra-Update</translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation>Tovra muss aktualisiert werden, bevor Sie eine Verbindung herstellen können. Laden Sie das Installationsprogramm herunter oder beenden Sie Tovra.</translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation>Neuerungen</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>Download-Fortschritt</translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation>Dieses Update ausblenden</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Nicht jetzt</translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation>Tovra beenden</translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation>Tovra ohne Update beenden</translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation>Download-Link öffnen</translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation>Download-Link des Tovra-Updates öffnen</translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation>Ein erforderliches Update ist verfügbar</translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation>Ein neues Tovra-Update ist verfügbar</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation>Neueste</translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation>Aktuelle Version: %1
+Verfügbare Version: %2</translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation>Versionshinweise sind nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation>%1 von %2 wird heruntergeladen</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Update wird heruntergeladen...</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation>Download wird vorbereitet...</translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation>Download wird überprüft...</translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation>Download wird abgebrochen...</translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation>Im Hintergrund laden</translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation>Das neueste Installationsprogramm herunterladen, ohne Ihre aktuelle Sitzung zu unterbrechen.</translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation>Dieses Fenster ausblenden, während das Update heruntergeladen wird</translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation>Wird abgebrochen...</translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation>Download des Updates abbrechen</translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation>Download abbrechen</translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation>Installationsprogramm wird geöffnet...</translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation>Erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation>Download des Updates erneut versuchen</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>Update laden</translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation>Tovra-Update herunterladen und installieren</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation>Updates</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>Nach Updates suchen</translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation>Tovra für Linux</translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation>Die Version dieser App.</translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation>Beim Tovra-Dienst nach einer neueren Version fragen.</translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation>%1 (Build %2)</translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <source>Connect</source>
+        <translation>Verbinden</translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
-        <translation type="unfinished"></translation>
+        <source>Sign In</source>
+        <translation>Anmelden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Trennen</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Wird getrennt…</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation>Dienst nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation>Warten auf Antwort des Tovra-Dienstes.</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>Abgemeldet</translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation>Melden Sie sich bei Ihrem Tovra-Konto an, um eine Verbindung herzustellen.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Standort</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Letzter Standort</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation>Ihr Datenverkehr läuft durch den Tovra-Tunnel.</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Verbindung wird hergestellt…</translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation>Tunnel wird eingerichtet.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Verbindung mit %1 wird hergestellt</translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation>Tunnel wird geschlossen.</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation>Kill Switch blockiert den Datenverkehr, bis Sie sich verbinden.</translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation>Ihr Datenverkehr ist nicht geschützt.</translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation>Standorte, mit denen Sie sich verbinden, erscheinen hier.</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Letzte Standorte</translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation>Letzte Standorte leeren</translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation>Mit %1 verbinden</translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation>Verbunden seit %1</translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation>Modus: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>Link konnte nicht geöffnet werden</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner ist nicht verfügbar</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner existiert nicht: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Protokollordner konnte nicht geöffnet werden: %1</translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation>Kontovorgang fehlgeschlagen</translation>
     </message>
 </context>
 </TS>

@@ -4,38 +4,324 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
-        <translation type="unfinished"></translation>
+        <source>Enter account and password.</source>
+        <translation>Saisissez votre compte et votre mot de passe.</translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <source>Account operation failed</source>
+        <translation>Échec de l’opération sur le compte</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation>Mémoriser ce compte</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation>Connectez-vous avec votre compte Tovra pour utiliser le VPN et synchroniser les emplacements disponibles.</translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation>E-mail ou identifiant</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Mot de passe</translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation>Créer un compte</translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation>Mot de passe oublié&#xa0;?</translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation>Connexion au compte...</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation>Renouveler</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>Se déconnecter</translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation>Compte connecté</translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation>Identifiant&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Forfait&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation>Jours restants&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation>Appareils simultanés max.&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation>Déconnexion du compte...</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Ouverture…</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation>Application</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Modifier…</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Lancer à l’ouverture de session</translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation>Démarrer Tovra dans la zone de notification quand vous ouvrez votre session.</translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation>Afficher la fenêtre au lancement</translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation>Ouvrir cette fenêtre au démarrage de Tovra&#xa0;; sinon, seule l’icône de la zone de notification apparaît.</translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation>Comme le bureau</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Clair</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Sombre</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Apparence</translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation>Clair, sombre ou comme le bureau.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>Changer de langue</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation>%1, comme le bureau</translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation>Impossible de modifier le lancement à l’ouverture de session</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation>Emplacement %1</translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation>Autres emplacements</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Premium</translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation>emplacements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation>latence non mesurée</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>favori</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connecté</translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation>non inclus dans votre forfait</translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation>Votre forfait n’inclut pas cet emplacement. Passez à une offre supérieure pour l’utiliser.</translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation>Cette liste n’est peut-être pas à jour.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation>Connexion</translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation>URL de l’API</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>Rétablir la valeur par défaut</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Dernier emplacement</translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation>Emplacement le plus rapide</translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation>Connexion automatique</translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation>Ce à quoi le service Tovra se connecte au démarrage.</translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation>Enregistrer l’URL de l’API</translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation>Rétablir l’URL de l’API par défaut</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation>L’adresse par laquelle le service Tovra joint les serveurs de comptes et d’emplacements. Ne la modifiez que si l’assistance vous le demande.</translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation>Vérification&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation>Vérifiée par le service Tovra</translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation>Non vérifiée&#xa0;: le service Tovra a enregistré cette adresse mais n’a pas pu la confirmer</translation>
+    </message>
+</context>
+<context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>Afrique</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antarctique</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Asie</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Europe</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Moyen-Orient</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>Amérique du Nord</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Océanie</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>Amérique du Sud</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service Tovra n’est pas en cours d’exécution.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Accès au service Tovra refusé. Ajoutez cet utilisateur au groupe tovracli, puis fermez la session et rouvrez-la.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de joindre le service Tovra.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le service Tovra est trop ancien pour les modes du Kill Switch. Mettez Tovra à jour.</translation>
     </message>
 </context>
 <context>
@@ -890,7 +1176,7 @@
     </message>
     <message>
         <source>Turkey</source>
-        <translation>Türkiye</translation>
+        <translation>Turquie</translation>
     </message>
     <message>
         <source>Turkmenistan</source>
@@ -974,30 +1260,133 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation>Configuration</translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation>Exécution</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Journaux</translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation>Fichier d’état</translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation>Clé des identifiants</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Historique</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Profils</translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation>Socket de contrôle</translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation>Fichier PID</translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation>Adresse de contrôle</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnostic</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Réparer</translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation>Ouvrir les journaux</translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation>Réparer la connexion</translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation>Réinitialise le Kill Switch, le proxy local et le tunnel quand le trafic est bloqué.</translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation>Le dossier des journaux du service Tovra, pour l’assistance.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation>Copier le chemin&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation>Chemins du service</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation>Emplacement des fichiers du service Tovra.</translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation>Version du service Tovra</translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation>Protocole de contrôle</translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation>Cette application utilise la version 1.</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Non défini</translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation>%1, non compatible</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lancement à l’ouverture de session n’est pas pris en charge sur ce système.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de trouver l’exécutable de Tovra pour le lancement à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de préparer le dossier de lancement à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le lancement de Tovra à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de sécuriser le lancement de Tovra à l’ouverture de session.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de retirer Tovra du lancement à l’ouverture de session.</translation>
     </message>
 </context>
 <context>
@@ -1008,11 +1397,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Verrouillage indisponible</translation>
     </message>
     <message>
         <source>On</source>
@@ -1024,479 +1413,2217 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch nécessite un mode VPN</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch ne fonctionne pas avec Tovra Proxy. Passez en mode Auto (recommandé), TovraVPN ou WireGuard pour l’activer.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer en Auto et activer</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Passer en Auto et activer le Kill Switch</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un mode…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un mode pour le Kill Switch</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy nécessite de désactiver le Kill Switch</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le Kill Switch bloque Tovra Proxy. Désactivez d’abord le Kill Switch dans les Paramètres, puis changez de mode.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les Paramètres</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir les Paramètres pour désactiver le Kill Switch</translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation>Bloquer le trafic hors du tunnel</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation>Bloque le trafic hors du tunnel quand Tovra est connecté ou en cours de connexion.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Toujours</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation>Bloque le trafic hors du tunnel tant que le Kill Switch est activé, même déconnecté.</translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation>Verrouillage</translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation>Défini par le service Tovra&#xa0;: le trafic hors du tunnel reste bloqué et le Kill Switch ne peut pas être désactivé ici.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Mode</translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation>Quand le Kill Switch bloque le trafic.</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Réseau local</translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation>Indique si les imprimantes, partages et autres appareils à proximité restent accessibles pendant le blocage du trafic.</translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation>Mode du Kill Switch&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Actuellement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation>%1. Le service Tovra maintient le Kill Switch activé&#xa0;; il ne peut pas être désactivé ici.</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation>Tovra Proxy est utilisé&#xa0;: le Kill Switch nécessite un mode VPN.</translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation>Accessible</translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation>Bloqué</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation>Utiliser la langue du système</translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation>Utiliser la langue du système (%1)</translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation>Suivre la langue du bureau</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>Choisir une langue</translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation>Tovra redémarre pour afficher la nouvelle langue.</translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation>Rechercher une langue</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Langues</translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation>Utiliser cette langue</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation>Le service Tovra n’est pas disponible.
+Les emplacements s’afficheront ici dès qu’il répondra.</translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation>Chargement des emplacements...</translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation>Le service ne propose aucun emplacement pour le moment.
+Réessayez «&#xa0;Actualiser&#xa0;» dans un instant.</translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation>Aucun favori pour l’instant.
+Ajoutez une étoile à un emplacement (ou sélectionnez-le et appuyez sur Espace) pour le retrouver ici.</translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation>Aucun emplacement dans cet onglet.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as “de”.</source>
+        <translation>Aucun résultat pour «&#xa0;%1&#xa0;».
+Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les emplacements</translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
-        <translation type="unfinished"></translation>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation>Double-cliquez sur un emplacement pour vous y connecter, ou sur un pays ou une ville pour vous connecter à son emplacement le plus rapide.</translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation>Rechercher des pays, villes, emplacements ou P2P</translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation>Rechercher des emplacements</translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation>Aucun des emplacements de %1 n’est inclus dans votre forfait.</translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation>%1 n’est pas inclus dans votre forfait. Passez à une offre supérieure pour l’utiliser.</translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation>Actions sur l’emplacement</translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation>Se connecter à l’emplacement le plus rapide</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Réduire</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Développer</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Retirer des favoris</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Ajouter aux favoris</translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation>Résultats dans tous les onglets&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation>Emplacements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation>Mesure de la latence...</translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation>Cette liste n’est peut-être pas à jour&#xa0;; «&#xa0;Actualiser&#xa0;» en récupère une nouvelle.</translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation>Regroupement par région en attendant les groupes du service.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation>Tous</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Gratuits</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Premium</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoris</translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation>Onglets des emplacements</translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation>Trier les emplacements</translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation>Ordre du service</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nom</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>Latence</translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation>Ordre des emplacements dans chaque groupe</translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation>Récupérer à nouveau la liste des emplacements et mesurer leur latence</translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation>Actualiser (%1 s)</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Actualiser</translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation>Actualiser les emplacements, de nouveau possible dans %1 s</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Actualiser les emplacements</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation>Emplacements</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de l’opération</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la modification des paramètres</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec du changement de mode</translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation>Tovra choisit le protocole qui fonctionne le mieux ici.</translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation>Un tunnel rapide et moderne pour tout votre trafic.</translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation>Tout le trafic passe par le tunnel TovraVPN.</translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation>Le tunnel par défaut&#xa0;; les régions et sites choisis passent en direct.</translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation>Sans tunnel&#xa0;: les applications qui utilisent le proxy local accèdent à Internet via Tovra.</translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation>Le proxy local&#xa0;; les régions et sites choisis passent en direct.</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Application…</translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation>Le Kill Switch nécessite un mode VPN&#xa0;: choisissez Auto, WireGuard ou TovraVPN pour l’activer.</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>Choisir un mode</translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation>Le mode actuel s’affichera dès que le service Tovra répondra.</translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation>Mode actuel&#xa0;: %1. Cette version de Tovra ne le connaît pas&#xa0;; choisissez l’un des modes ci-dessus pour le remplacer.</translation>
     </message>
 </context>
 <context>
     <name>ModePage</name>
     <message>
         <source>Auto</source>
-        <translation>Automatique</translation>
+        <translation>Auto</translation>
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Split</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Global</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Split</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Global</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode de routage</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez comment votre trafic est acheminé et quels sites contournent le tunnel.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Paramètres</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Compte</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation>Réseau local</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>Proxy système</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation>Les imprimantes, partages et autres appareils de votre réseau restent accessibles</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Protégé</translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation>Le trafic du réseau local est protégé comme le reste</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation>Les paramètres de proxy du bureau ne sont pas modifiés</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation>Les paramètres de proxy du bureau pointent vers Tovra</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Verrouillé</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation>Les paramètres de proxy du bureau pointent vers Tovra et sont maintenus ainsi</translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation>Indique si les appareils de votre réseau local restent accessibles pendant que Tovra achemine votre trafic.</translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation>Faire pointer les paramètres de proxy du bureau vers Tovra, et éventuellement empêcher les autres programmes de les modifier.</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation>Réseau</translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation>Écoute SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation>Écoute HTTP</translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation>Appliquer les adresses d’écoute</translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation>Serveurs DNS locaux</translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation>Par exemple 192.168.1.1,&#xa0;::1</translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation>Enregistrer les serveurs</translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation>Effacer les serveurs</translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation>Réinitialiser le DNS fractionné</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation>Activé et verrouillé</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>Proxy système</translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation>Fait pointer les paramètres de proxy du bureau vers Tovra&#xa0;; «&#xa0;verrouillé&#xa0;» empêche les autres programmes de les modifier.</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Protégé</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Réseau local</translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation>«&#xa0;Direct&#xa0;» joint les appareils à proximité hors du tunnel&#xa0;; «&#xa0;Protégé&#xa0;» fait tout passer par le tunnel.</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation>Écoute du proxy local</translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation>Adresses sur lesquelles le service accepte les connexions proxy, au format hôte:port. Laissez un champ vide pour fermer cette écoute.</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation>DNS local</translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation>DNS distant</translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation>DNS fractionné</translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation>Le résolveur qui répond pour les noms restant hors du tunnel.</translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation>Adresses IP des résolveurs pour les noms locaux, séparées par des virgules.</translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation>En vigueur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation>En vigueur&#xa0;: %1, serveurs %2</translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation>(depuis %1)</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(depuis les paramètres du système)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(depuis votre liste)</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer la notification</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notification&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation>Règles de fractionnement personnalisées inchangées</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation>Rechercher un pays, une ville ou un emplacement</translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation>Recherche de connexion rapide</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation>Recherches récentes</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Emplacements récents</translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation>Saisissez un pays, une ville ou un nom d’emplacement</translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation>Aucun emplacement ne correspond à «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation>Résultats de la recherche</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnu</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Préférences</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Application des paramètres...</translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation>Les modifications prennent effet dès que le service Tovra les confirme.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Paramètres</translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation>Les paramètres pourront de nouveau être modifiés dès que le service Tovra répondra.</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation>En attente du service Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation>Ajoutez un port&#xa0;: hôte:port, par exemple 127.0.0.1:1080.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse IPv6.</translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation>Écrivez une adresse IPv6 entre crochets&#xa0;: [::1]:1080.</translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation>Ajoutez un hôte avant le port&#xa0;: hôte:port.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est ni un nom d’hôte ni une adresse IP.</translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation>Ajoutez un port après les deux-points&#xa0;: hôte:port.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>Le port doit être un nombre compris entre 1 et 65535.</translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation>Saisissez une URL d’API ou rétablissez la valeur par défaut.</translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation>L’URL de l’API doit commencer par http:// ou https://.</translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation>L’URL de l’API doit comporter un hôte, par exemple https://api.example.com.</translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation>Saisissez au moins un serveur DNS ou videz la liste.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une adresse IP.</translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation>Choisissez TovraVPN Split ou Tovra Proxy Split pour faire passer une partie du trafic en direct&#xa0;: par région, selon la GFWList ou selon vos propres règles.</translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation>Route par défaut</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation>Tout ce qui n’est pas choisi ci-dessous passe en direct</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Choisir les régions</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Régions</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Règles de fractionnement personnalisées</translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation>Modifier les règles…</translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation>Modifier les règles de fractionnement personnalisées</translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation>Tunnel fractionné</translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation>Options de TovraVPN Split</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation>Options de Tovra Proxy Split</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Tunnel</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation>Tout ce qui n’est pas choisi ci-dessous passe par le tunnel</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation>Tout ce qui n’est pas choisi ci-dessous passe par le proxy</translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation>Le trafic passe en direct, sauf si une région, la GFWList ou une règle en décide autrement.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation>Le trafic passe par le tunnel, sauf si une région ou une règle le fait passer en direct.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation>Le trafic passe par le proxy, sauf si une région ou une règle le fait passer en direct.</translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation>Aucune région choisie.</translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation>En direct&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation>Par le tunnel&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation>Par le proxy&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation>GFWList → Tunnel</translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation>GFWList → Proxy</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation>Les sites de la GFWList passent toujours par le tunnel.</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation>Les sites de la GFWList passent toujours par le proxy.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation>Vos propres listes de domaines et d’adresses.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation>Vos propres listes de domaines et d’adresses. Règles enregistrées&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter au compte</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se déconnecter du compte</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger le compte</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir la page de renouvellement</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Actualisation des emplacements...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Une mise à jour des emplacements est déjà en cours</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le favori</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’actualiser les emplacements</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’actualiser les groupes d’emplacements</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Emplacements mis à jour</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de se connecter à cet emplacement</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion impossible</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnexion impossible</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de changer la langue</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Redémarrage de Tovra pour appliquer la langue de l’interface.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de redémarrer Tovra. Veuillez redémarrer l’application manuellement.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de changer de mode</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le réseau local</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le proxy système</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Veuillez attendre la fin de l’opération en cours</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisissez un mode VPN pour activer le Kill Switch</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le Kill Switch</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>Règles de fractionnement personnalisées mises à jour, mais impossible de les recharger</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger les règles de fractionnement</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’importer les règles de fractionnement</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Règles de fractionnement personnalisées mises à jour (%n règle)</numerusform>
+            <numerusform>Règles de fractionnement personnalisées mises à jour (%n règles)</numerusform>
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger les chemins de configuration</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier l’URL de l’API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de l’API rétablie par défaut</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de l’API vérifiée et enregistrée</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>URL de l’API enregistrée mais non vérifiée</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier la connexion automatique</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier l’adresse d’écoute du proxy</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse d’écoute du proxy enregistrée pour la prochaine connexion</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Adresse d’écoute du proxy mise à jour</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de modifier le DNS fractionné</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS fractionné mis à jour</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec de la réparation</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réparation terminée</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification de la compatibilité du service Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’interface et le service Tovra sont incompatibles. Mettez Tovra à jour avant de continuer.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de charger la version</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>La version de l’interface n’est pas disponible</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de rechercher les mises à jour</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra est à jour</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification d’une mise à jour obligatoire de Tovra avant la connexion.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin de la dernière recherche de mises à jour avant de lancer le téléchargement...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les informations de mise à jour ne sont pas disponibles. Recherchez de nouveau les mises à jour.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulation...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de confirmer le début du téléchargement. Vérification de son état...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lancer le téléchargement de la mise à jour</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de confirmer l’annulation. Nouvelle tentative...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire la progression du téléchargement. Nouvelle tentative...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement s’est terminé avant de pouvoir être annulé. Le programme d’installation n’a pas été ouvert.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mise à jour a été téléchargée, mais le programme d’installation n’a pas pu être ouvert.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement correspond à une autre version de mise à jour. Recherchez de nouveau les mises à jour.</translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <source>Could not load kill switch</source>
+        <translation>Impossible de charger le Kill Switch</translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation>Impossible de charger l’URL de l’API</translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation>Impossible de charger le DNS fractionné</translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation>Impossible de joindre le service Tovra</translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation>Impossible de charger les langues</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Recherche de mises à jour...</translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation>Tovra %1 est disponible</translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Enregistrer</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Choisir les régions</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>Rechercher un pays</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>Pays</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation>Le trafic vers les régions cochées passe en direct, hors du tunnel. Tout le reste passe par le tunnel.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation>Le trafic vers les régions cochées passe en direct, sans le proxy. Tout le reste passe par le proxy.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation>Le trafic vers les régions cochées passe par le tunnel. Tout le reste passe en direct.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation>Le trafic vers les régions cochées passe par le proxy. Tout le reste passe en direct.</translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation>Cochées&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation>Aucun pays ne correspond à «&#xa0;%1&#xa0;».</translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation>Liste de règles</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importer</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Règles de fractionnement personnalisées</translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation>Un domaine, une adresse IP ou une plage CIDR par ligne, par exemple example.org, 203.0.113.7 ou 10.0.0.0/8. Les lignes commençant par # sont des commentaires.</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Règles</translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation>Remplacer la liste choisie par ces règles</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Bloquer</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation>Sites et adresses qui passent toujours en direct</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation>Sites et adresses qui passent toujours par Tovra</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation>Sites et adresses bloqués</translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation>Chargement des règles…</translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation>Le service Tovra n’indique aucune liste de règles.</translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation>Les règles ne sont pas encore chargées.</translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation>Règles&#xa0;: %1 · Lignes&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>non importé</translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation>importation…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation>Rien n’a été importé. Corrigez d’abord ces lignes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation>Ligne %1&#xa0;: «&#xa0;%2&#xa0;» n’est ni un domaine, ni une adresse IP, ni une plage CIDR.</translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation>… Lignes incorrectes au total&#xa0;: %1.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: connexion...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra&#xa0;: connexion à %1...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erreur&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation>Tovra&#xa0;: mise à jour de TovraVPN Split...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation>Tovra&#xa0;: mise à jour des régions TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation>Tovra&#xa0;: mise à jour de la GFWList TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation>Tovra&#xa0;: mise à jour des règles personnalisées TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation>Tovra&#xa0;: mise à jour de Tovra Proxy Split...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation>Tovra&#xa0;: mise à jour des régions Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation>Tovra&#xa0;: mise à jour de la GFWList Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation>échec de l’opération</translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation>dossier des journaux</translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation>%1 manquant</translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation>%1 n’existe pas&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation>impossible d’ouvrir %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation>Actuel&#xa0;: chargement...</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation>Actualiser les emplacements</translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation>Chargement des emplacements...</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Auto</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation>WireGuard</translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation>Mode&#xa0;: TovraVPN</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Split</translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation>Options de fractionnement</translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation>Par défaut&#xa0;: tunnel</translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation>Par défaut&#xa0;: direct</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Régions</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation>GFWList -&gt; tunnel</translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation>Règles de fractionnement personnalisées</translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation>Mode&#xa0;: Tovra Proxy</translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation>Par défaut&#xa0;: proxy</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation>GFWList -&gt; proxy</translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation>Tovra&#xa0;: démarrage...</translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation>Service&#xa0;: vérification...</translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation>Ouvrir Tovra...</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Connecter</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Déconnecter</translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation>Proxy système</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivé</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Activé</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Verrouillé</translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation>Réseau local</translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation>Accès au réseau local</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direct</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Protégé</translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation>Actualiser l’état</translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation>Ouvrir les journaux</translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation>Compte&#xa0;: vérification...</translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation>Se déconnecter du compte</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Quitter</translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation>Tovra&#xa0;: service indisponible</translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation>service indisponible</translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation>Compte&#xa0;: indisponible</translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation>Tovra – service indisponible</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation>Tovra&#xa0;: passage en mode Auto...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation>Tovra&#xa0;: passage à WireGuard...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation>Tovra&#xa0;: passage à TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation>Tovra&#xa0;: changement de TovraVPN Split...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation>Tovra&#xa0;: passage à Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation>Tovra&#xa0;: passage à Tovra Proxy Split...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation>Proxy système&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation>Réseau local&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Tunnel</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation>Régions via %1&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation>Impossible d’actualiser les emplacements</translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation>Impossible de charger les emplacements</translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation>Impossible d’actualiser les groupes d’emplacements</translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation>Impossible de charger les groupes d’emplacements</translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation>Actualisation des emplacements...</translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation>Emplacements non chargés</translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation>Aucun emplacement en cache</translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation>Aucun emplacement</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>Actuel&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>aucun</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation>Actualiser les emplacements (%1 s)</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Emplacement&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation>Emplacement&#xa0;: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation>Actuel&#xa0;: %1 (obsolète)</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Groupe</translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation>moins d’1 min</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation>%1 j</translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation>%1 j %2 h</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation>Tovra&#xa0;: déconnexion...</translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation>Tovra&#xa0;: déconnexion du compte...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation>Tovra&#xa0;: mise à jour du proxy système...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation>Tovra&#xa0;: mise à jour du routage du réseau local...</translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation>Tovra&#xa0;: activation du Kill Switch...</translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation>Tovra&#xa0;: désactivation du Kill Switch...</translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation>Tovra&#xa0;: échec de la connexion</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation>Tovra&#xa0;: échec de la déconnexion</translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation>Déconnecté du compte</translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation>échec de l’opération sur le compte</translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation>échec du changement de mode</translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation>Mode mis à jour</translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation>Proxy système réglé sur %1</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Mis à jour</translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation>Kill Switch activé</translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation>Kill Switch désactivé</translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation>échec de l’opération sur le Kill Switch</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>connecté</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>déconnecté</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>connexion en cours</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>déconnexion en cours</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>prêt</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>inconnu</translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation>Tovra&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>en cours d’exécution</translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation>Service&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation>Service&#xa0;: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation>Compte&#xa0;: en cache</translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation>Compte&#xa0;: connexion requise</translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation>Compte&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation>Compte&#xa0;: connecté</translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation>Kill Switch&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>désactivé</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>activé</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>verrouillé</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation>Impossible de lire l’état du téléchargement de la mise à jour.</translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation>Téléchargement annulé.</translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation>Impossible de télécharger la mise à jour.</translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation>Téléchargement terminé. Ouverture du programme d’installation...</translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation>Le lien de téléchargement n’est pas disponible.</translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation>Impossible d’ouvrir le lien de téléchargement de la mise à jour.</translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation>Le lien de téléchargement s’est ouvert dans votre navigateur. Tovra ne lancera pas le programme d’installation automatiquement.</translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation>Mise à jour de Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation>Tovra doit être mis à jour avant que vous puissiez vous connecter. Téléchargez le programme d’installation ou quittez Tovra.</translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation>Nouveautés</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>Progression du téléchargement</translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation>Masquer cette mise à jour</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Plus tard</translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation>Quitter Tovra</translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation>Quitter Tovra sans mettre à jour</translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation>Ouvrir le lien</translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation>Ouvrir le lien de téléchargement de la mise à jour de Tovra</translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation>Une mise à jour obligatoire est disponible</translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation>Une nouvelle mise à jour de Tovra est disponible</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnue</translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation>Dernière</translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation>Version actuelle&#xa0;: %1
+Version disponible&#xa0;: %2</translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation>Les notes de version ne sont pas disponibles.</translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation>Téléchargement&#xa0;: %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Téléchargement de la mise à jour...</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 Mo</translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation>Préparation du téléchargement...</translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation>Vérification du téléchargement...</translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation>Annulation du téléchargement...</translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation>Télécharger en arrière-plan</translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation>Télécharger le dernier programme d’installation sans interrompre votre session.</translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation>Masquer cette fenêtre pendant le téléchargement de la mise à jour</translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation>Annulation...</translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation>Annuler le téléchargement de la mise à jour</translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation>Annuler le téléchargement</translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation>Ouverture du programme d’installation...</translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation>Relancer le téléchargement de la mise à jour</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>Télécharger la mise à jour</translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation>Télécharger et installer la mise à jour de Tovra</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation>Mises à jour</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>Rechercher des mises à jour</translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation>Tovra pour Linux</translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation>La version de cette application.</translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation>Demander une version plus récente au service Tovra.</translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation>%1 (build %2)</translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <source>Connect</source>
+        <translation>Connecter</translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
-        <translation type="unfinished"></translation>
+        <source>Sign In</source>
+        <translation>Se connecter</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Déconnecter</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Déconnexion…</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation>Service indisponible</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation>En attente de la réponse du service Tovra.</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>Déconnecté du compte</translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation>Connectez-vous à votre compte Tovra pour utiliser le VPN.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Emplacement</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Dernier emplacement</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Connecté</translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation>Votre trafic passe par le tunnel Tovra.</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Connexion…</translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation>Établissement du tunnel.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Connexion à %1</translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation>Fermeture du tunnel.</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Déconnecté</translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation>Le Kill Switch bloque le trafic jusqu’à ce que vous vous connectiez.</translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation>Votre trafic n’est pas protégé.</translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation>Effacer</translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation>Les emplacements auxquels vous vous connectez apparaissent ici.</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Emplacements récents</translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation>Effacer les emplacements récents</translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation>Se connecter à %1</translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation>Connecté depuis %1</translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation>Mode&#xa0;: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le lien</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des journaux n’est pas disponible</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier des journaux n’existe pas&#xa0;: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir le dossier des journaux&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation>Échec de l’opération sur le compte</translation>
     </message>
 </context>
 </TS>

@@ -4,38 +4,324 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
-        <translation type="unfinished"></translation>
+        <source>Enter account and password.</source>
+        <translation>アカウントとパスワードを入力してください。</translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <source>Account operation failed</source>
+        <translation>アカウントの操作に失敗しました</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation>このアカウントを記憶する</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>サインイン</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>サインイン</translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation>Tovra アカウントを使って接続し、利用できるロケーションを同期します。</translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation>メールアドレスまたはユーザー ID</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>パスワード</translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation>新規登録</translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation>パスワードをお忘れですか？</translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation>サインインしています...</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation>契約を更新</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>サインアウト</translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation>サインイン済み</translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation>ユーザー ID: %1</translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation>プラン: %1</translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation>残り日数: %1</translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation>同時接続できるデバイス数: %1</translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation>サインアウトしています...</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>開いています…</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation>アプリ</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>変更…</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>ログイン時に起動</translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation>デスクトップにサインインしたときに Tovra をトレイで起動します。</translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation>起動時にウィンドウを表示</translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation>Tovra の起動時にこのウィンドウを開きます。オフにするとトレイアイコンだけが表示されます。</translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation>デスクトップに合わせる</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>ライト</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>ダーク</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外観</translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation>ライト、ダーク、またはデスクトップの設定に合わせます。</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>言語を変更</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation>%1 (デスクトップの設定に従う)</translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation>ログイン時の起動を変更できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation>ロケーション %1</translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation>その他のロケーション</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>プレミアム</translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation>ロケーション数: %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation>遅延は未測定</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation>プラン対象外</translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation>このロケーションはご利用のプランに含まれていません。使用するにはアップグレードしてください。</translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation>この一覧は最新ではない可能性があります。</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation>API URL</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>前回のロケーション</translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation>最速のロケーション</translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation>自動接続</translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation>Tovra サービスの起動時に接続する先です。</translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation>API URL を保存</translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation>API URL を既定値に戻す</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation>Tovra サービスがアカウントサーバーとロケーションサーバーに接続するためのアドレスです。サポートから指示があった場合にのみ変更してください。</translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation>検証: %1</translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation>Tovra サービスで検証済み</translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation>未検証: Tovra サービスはこのアドレスを保存しましたが、確認できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>アフリカ</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>南極</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>アジア</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>ヨーロッパ</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>中東</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>北アメリカ</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>オセアニア</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>南アメリカ</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra サービスが起動していません。</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra サービスへのアクセスが拒否されました。このユーザーを tovracli グループに追加してから、サインアウトして再度サインインしてください。</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra サービスに接続できませんでした。</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra サービスが古いため、キルスイッチのモードを使用できません。Tovra をアップデートしてください。</translation>
     </message>
 </context>
 <context>
@@ -250,7 +536,7 @@
     </message>
     <message>
         <source>Czech Republic</source>
-        <translation>Czechia</translation>
+        <translation>チェコ</translation>
     </message>
     <message>
         <source>Denmark</source>
@@ -530,7 +816,7 @@
     </message>
     <message>
         <source>Macedonia, The Former Yugoslav Republic of</source>
-        <translation>North Macedonia</translation>
+        <translation>北マケドニア</translation>
     </message>
     <message>
         <source>Madagascar</source>
@@ -834,7 +1120,7 @@
     </message>
     <message>
         <source>Swaziland</source>
-        <translation>Eswatini</translation>
+        <translation>エスワティニ</translation>
     </message>
     <message>
         <source>Sweden</source>
@@ -890,7 +1176,7 @@
     </message>
     <message>
         <source>Turkey</source>
-        <translation>Türkiye</translation>
+        <translation>トルコ</translation>
     </message>
     <message>
         <source>Turkmenistan</source>
@@ -974,30 +1260,133 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation>設定ファイル</translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation>ランタイム</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>ログ</translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation>状態ファイル</translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation>認証情報キー</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>履歴</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>プロファイル</translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation>制御ソケット</translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation>PID ファイル</translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation>制御アドレス</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>診断</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>修復</translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation>ログを開く</translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation>接続を修復</translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation>通信が止まってしまったときに、キルスイッチ、ローカルプロキシ、トンネルをリセットします。</translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation>Tovra サービスのログフォルダーです (サポート用)。</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation>%1 のパスをコピー</translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation>サービスのパス</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation>Tovra サービスがファイルを保存している場所です。</translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation>Tovra サービスのバージョン</translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation>制御プロトコル</translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation>このアプリはバージョン 1 に対応しています。</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation>%1 (互換性なし)</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>このプラットフォームではログイン時の起動に対応していません。</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン時の起動に使う Tovra の実行ファイルが見つかりませんでした。</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>ログイン時の起動用ディレクトリを準備できませんでした。</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra のログイン時の起動を変更できませんでした。</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra のログイン時の起動設定を保護できませんでした。</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra をログイン時の起動から削除できませんでした。</translation>
     </message>
 </context>
 <context>
@@ -1008,11 +1397,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックダウン</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>ロックダウンは利用不可</translation>
     </message>
     <message>
         <source>On</source>
@@ -1024,88 +1413,418 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>キルスイッチには VPN モードが必要です</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy ではキルスイッチを使用できません。有効にするには、自動 (推奨)、TovraVPN、または WireGuard に切り替えてください。</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>自動に切り替えて有効化</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>自動に切り替えてキルスイッチを有効化</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>モードを選択…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>キルスイッチで使うモードを選択</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy を使うにはキルスイッチをオフにしてください</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>キルスイッチが Tovra Proxy をブロックしています。先に設定でキルスイッチをオフにしてから、モードを切り替えてください。</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を開く</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を開いてキルスイッチをオフにする</translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>キルスイッチ</translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation>トンネル外の通信をブロック</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation>Tovra の接続中および接続処理中に、トンネル外の通信をブロックします。</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>常時</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation>キルスイッチがオンの間は、切断中でもトンネル外の通信をブロックします。</translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation>ロックダウン</translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation>Tovra サービスによる設定: トンネル外の通信は常にブロックされ、ここからキルスイッチをオフにすることはできません。</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>モード</translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation>キルスイッチが通信をブロックするタイミングです。</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>ローカルネットワーク</translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation>通信のブロック中も、プリンターや共有フォルダーなど近くのデバイスにアクセスできるようにするかどうかを設定します。</translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation>キルスイッチのモード: %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>現在: %1</translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation>%1。Tovra サービスがキルスイッチをオンに固定しているため、ここからオフにすることはできません。</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation>Tovra Proxy を使用中です: キルスイッチには VPN モードが必要です。</translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation>アクセス可</translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation>ブロック</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation>システムの言語を使用</translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation>システムの言語を使用 (%1)</translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation>デスクトップの言語に合わせます</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>言語を選択</translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation>新しい言語で表示するために Tovra を再起動します。</translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation>言語を検索</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>言語</translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation>この言語を使用</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation>Tovra サービスを利用できません。
+サービスが応答するとすぐにロケーションがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation>ロケーションを読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation>現在、サービスが提供できるロケーションはありません。
+しばらくしてから [更新] をお試しください。</translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation>お気に入りはまだありません。
+ロケーションに星を付ける (または選択して Space キーを押す) と、ここに表示されます。</translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation>このタブにはロケーションがありません。</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as “de”.</source>
+        <translation>「%1」に一致するものはありません。
+国名、都市名、または「de」のようなコードで検索してください。</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてのロケーション</translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
-        <translation type="unfinished"></translation>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation>ロケーションをダブルクリックすると接続します。国や都市をダブルクリックすると、その中で最速のロケーションに接続します。</translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation>国、都市、ロケーション、P2P を検索</translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation>ロケーションを検索</translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation>%1 のロケーションはどれもご利用のプランに含まれていません。</translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation>%1 はご利用のプランに含まれていません。使用するにはアップグレードしてください。</translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation>ロケーションの操作</translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation>最速のロケーションに接続</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>折りたたむ</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>展開</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>お気に入りから削除</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>お気に入りに追加</translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation>すべてのタブでの一致: %1</translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation>ロケーション: %1</translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation>遅延を測定しています...</translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation>この一覧は最新ではない可能性があります。[更新] で新しい一覧を取得できます。</translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation>サービスからグループ情報が届くまで、地域ごとにまとめて表示しています。</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation>すべて</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>無料</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>プレミアム</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>お気に入り</translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation>ロケーションのタブ</translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation>ロケーションの並べ替え</translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation>サービスの順序</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名前</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>遅延</translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation>各グループ内でのロケーションの並び順</translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation>ロケーションの一覧を再取得して遅延を測定します</translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation>更新 (%1 秒)</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation>ロケーションを更新 (%1 秒後に再実行できます)</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>ロケーションを更新</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation>ロケーション</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>操作に失敗しました</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>設定の操作に失敗しました</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>モードの操作に失敗しました</translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation>この環境で最適なプロトコルを Tovra が選択します。</translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation>すべての通信に使える、高速で最新のトンネルです。</translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation>すべての通信が TovraVPN のトンネルを通ります。</translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation>通常はトンネルを通り、選択した地域とサイトは直接接続します。</translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation>トンネルは使いません。ローカルプロキシを使うアプリが Tovra 経由でインターネットに接続します。</translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation>ローカルプロキシを使い、選択した地域とサイトは直接接続します。</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>適用しています…</translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation>キルスイッチには VPN モードが必要です。オンにするには、自動、WireGuard、または TovraVPN を選択してください。</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>モードを選択</translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation>Tovra サービスが応答すると、現在のモードが表示されます。</translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation>現在のモード: %1。このバージョンの Tovra はこのモードに対応していません。上のモードからいずれかを選択して置き換えてください。</translation>
     </message>
 </context>
 <context>
@@ -1116,386 +1835,1794 @@
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN スプリット</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN グローバル</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy スプリット</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy グローバル</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>ルーティングモード</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
+        <translation>通信の経路と、トンネルを経由しないサイトを選択します。</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>ロケーション</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>モード</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウント</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation>ローカルネットワーク</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>システムプロキシ</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直接</translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation>プリンターや共有フォルダーなど、ネットワーク上のデバイスにアクセスできます</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>保護</translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation>ローカルネットワークの通信も他の通信と同様に保護されます</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation>デスクトップのプロキシ設定は変更しません</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation>デスクトップのプロキシ設定を Tovra に向けます</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>ロック</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation>デスクトップのプロキシ設定を Tovra に向け、その状態を維持します</translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation>Tovra が通信をルーティングしている間も、ローカルネットワーク上のデバイスにアクセスできるようにするかどうかを設定します。</translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation>デスクトップのプロキシ設定を Tovra に向けます。ほかのプログラムによる変更を防ぐこともできます。</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation>ネットワーク</translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation>SOCKS5 リスナー</translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation>HTTP リスナー</translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation>リスナーを適用</translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation>ローカル DNS サーバー</translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation>例: 192.168.1.1, ::1</translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation>サーバーを保存</translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation>サーバーをクリア</translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation>スプリット DNS をリセット</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation>オン (ロック)</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>システムプロキシ</translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation>デスクトップのプロキシ設定を Tovra に向けます。ロックすると、ほかのプログラムによる変更を防ぎます。</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直接</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>保護</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>ローカルネットワーク</translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation>[直接] はトンネルを通さずに近くのデバイスにアクセスします。[保護] はすべての通信をトンネル経由で送ります。</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation>ローカルプロキシのリスナー</translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation>Tovra サービスがプロキシ接続を受け付けるアドレスです (host:port 形式)。リスナーを閉じるには、そのフィールドを空にしてください。</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation>ローカル DNS</translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation>リモート DNS</translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation>スプリット DNS</translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation>トンネルを経由しない名前の解決に使うリゾルバーです。</translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation>ローカル名の解決に使うリゾルバーの IP アドレスです (カンマ区切り)。</translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation>適用中: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation>適用中: %1、サーバー %2</translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation>(%1 から)</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>（システム設定から）</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>（ご自身のリストから）</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>通知を閉じる</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>通知: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation>カスタムスプリットルールは変更されていません</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation>国、都市、ロケーションを検索</translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation>クイック接続の検索</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation>最近の検索</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>最近のロケーション</translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation>国、都市、ロケーションの名前を入力</translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation>「%1」に一致するロケーションはありません</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation>検索結果</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>環境設定</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>設定を適用しています...</translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation>変更は Tovra サービスが確認した時点で反映されます。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation>Tovra サービスが応答すると、再び設定を変更できるようになります。</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation>Tovra サービスを待っています...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation>ポートを追加してください: host:port (例: 127.0.0.1:1080)。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>「%1」は IPv6 アドレスではありません。</translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation>IPv6 アドレスは角かっこで囲んでください: [::1]:1080</translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation>ポートの前にホストを追加してください: host:port</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation>「%1」はホスト名でも IP アドレスでもありません。</translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation>コロンの後にポートを追加してください: host:port</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>ポートには 1～65535 の数値を指定してください。</translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation>API URL を入力するか、既定値に戻してください。</translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation>API URL は http:// または https:// で始まる必要があります。</translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation>API URL にはホストが必要です (例: https://api.example.com)。</translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation>DNS サーバーを 1 つ以上入力するか、一覧をクリアしてください。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation>「%1」は IP アドレスではありません。</translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation>一部の通信を直接接続にするには、TovraVPN スプリットまたは Tovra Proxy スプリットを選択してください。地域、GFWList、または独自のルールで振り分けられます。</translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation>既定の経路</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直接</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation>以下で選択したもの以外はすべて直接接続します</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>地域を選択</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>地域</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>カスタムスプリットルール</translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation>ルールを編集…</translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation>カスタムスプリットルールを編集</translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation>スプリットルーティング</translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation>TovraVPN スプリットのオプション</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation>Tovra Proxy スプリットのオプション</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>トンネル</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>プロキシ</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation>以下で選択したもの以外はすべてトンネルを通ります</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation>以下で選択したもの以外はすべてプロキシを通ります</translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation>地域、GFWList、またはルールで指定されない限り、通信は直接接続します。</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation>地域またはルールで直接接続が指定されない限り、通信はトンネルを通ります。</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation>地域またはルールで直接接続が指定されない限り、通信はプロキシを通ります。</translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation>地域が選択されていません。</translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation>直接接続: %1</translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation>トンネル経由: %1</translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation>プロキシ経由: %1</translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation>GFWList → トンネル</translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation>GFWList → プロキシ</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation>GFWList に載っているサイトは常にトンネルを通ります。</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation>GFWList に載っているサイトは常にプロキシを通ります。</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation>独自のドメインとアドレスの一覧です。</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation>独自のドメインとアドレスの一覧です。ルール数: %1。</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>サインインできませんでした</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>サインアウトできませんでした</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>アカウントを読み込めませんでした</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>契約更新ページを開けませんでした</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>ロケーションを更新しています...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>ロケーションの更新はすでに実行中です</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>お気に入りを変更できませんでした</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>ロケーションを更新できませんでした</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>ロケーショングループを更新できませんでした</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>ロケーションを更新しました</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>このロケーションに接続できませんでした</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>接続できませんでした</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>切断できませんでした</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語を変更できませんでした</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>表示言語を適用するために Tovra を再起動しています。</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra を再起動できませんでした。手動でアプリを再起動してください。</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>モードを切り替えられませんでした</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>ローカルネットワークの設定を変更できませんでした</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>システムプロキシの設定を変更できませんでした</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>現在の操作が完了するまでお待ちください</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>キルスイッチをオンにするには VPN モードを選択してください</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>キルスイッチの設定を変更できませんでした</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>カスタムスプリットルールを更新しましたが、ルールを再読み込みできませんでした</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>スプリットルールを読み込めませんでした</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>スプリットルールをインポートできませんでした</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>カスタムスプリットルールを更新しました (%n 件)</numerusform>
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>設定ファイルのパスを読み込めませんでした</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>API URL を変更できませんでした</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>API URL を既定値に戻しました</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>API URL を検証して保存しました</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>API URL を保存しましたが、検証されていません</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>自動接続の設定を変更できませんでした</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>プロキシの待ち受けアドレスを変更できませんでした</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>プロキシの待ち受けアドレスを保存しました (再接続時に適用)</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>プロキシの待ち受けアドレスを変更しました</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>スプリット DNS を変更できませんでした</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>スプリット DNS を変更しました</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>修復に失敗しました</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>修復が完了しました</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra サービスとの互換性を確認しています...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra のアプリとサービスに互換性がありません。続行する前に Tovra をアップデートしてください。</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>バージョンを読み込めませんでした</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリのバージョンを取得できません</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートを確認できませんでした</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra は最新です</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>接続する前に、必須の Tovra アップデートを確認しています。</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロードを開始する前に、最新のアップデート確認を完了しています...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデート情報を取得できません。もう一度アップデートを確認してください。</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルしています...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロードの開始を確認できませんでした。状態を確認しています...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートのダウンロードを開始できませんでした</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルを確認できませんでした。再試行しています...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロードの進行状況を読み取れませんでした。再試行しています...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセルする前にダウンロードが完了しました。インストーラーは開いていません。</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>アップデートはダウンロードされましたが、インストーラーを開けませんでした。</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>このダウンロードは別のリリースのアップデートです。もう一度アップデートを確認してください。</translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <source>Could not load kill switch</source>
+        <translation>キルスイッチの設定を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation>API URL を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation>スプリット DNS を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation>Tovra サービスに接続できませんでした</translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation>言語を読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>アップデートを確認しています...</translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation>Tovra %1 が利用可能です</translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>保存</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>地域を選択</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>国を検索</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>国</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation>チェックした地域への通信は、トンネルを通らずに直接接続します。それ以外はすべてトンネルを通ります。</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation>チェックした地域への通信は、プロキシを通らずに直接接続します。それ以外はすべてプロキシを通ります。</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation>チェックした地域への通信はトンネルを通ります。それ以外はすべて直接接続します。</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation>チェックした地域への通信はプロキシを通ります。それ以外はすべて直接接続します。</translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation>選択済み: %1</translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation>「%1」に一致する国はありません。</translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation>ルールの一覧</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>インポート</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>カスタムスプリットルール</translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation>1 行に 1 つずつ、ドメイン、IP アドレス、または CIDR 範囲を入力します (例: example.org、203.0.113.7、10.0.0.0/8)。# で始まる行はコメントです。</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>ルール</translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation>選択した一覧をこれらのルールで置き換えます</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直接</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>プロキシ</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>ブロック</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation>常に直接接続するサイトとアドレス</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation>常に Tovra を経由するサイトとアドレス</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation>ブロックするサイトとアドレス</translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation>ルールを読み込んでいます…</translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation>Tovra サービスからルールの一覧が提供されていません。</translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation>ルールはまだ読み込まれていません。</translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation>ルール: %1 · 行: %2</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>未インポート</translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation>インポート中…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation>何もインポートされませんでした。先に次の行を修正してください:</translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation>%1 行目: 「%2」はドメイン、IP アドレス、CIDR 範囲のいずれでもありません。</translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation>… 不正な行の合計: %1。</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: 接続しています...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: %1 に接続しています...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>エラー: %1</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation>Tovra: TovraVPN スプリットを変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation>Tovra: TovraVPN の地域を変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation>Tovra: TovraVPN の GFWList 設定を変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation>Tovra: TovraVPN のカスタムルールを変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation>Tovra: Tovra Proxy スプリットを変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation>Tovra: Tovra Proxy の地域を変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation>Tovra: Tovra Proxy の GFWList 設定を変更しています...</translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation>操作に失敗しました</translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation>ログディレクトリ</translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation>%1 がありません</translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation>%1 が存在しません: %2</translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation>%1 を開けませんでした: %2</translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation>現在: 読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation>ロケーションを更新</translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation>ロケーションを読み込んでいます...</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation>WireGuard</translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation>モード: TovraVPN</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>グローバル</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>スプリット</translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation>スプリットのオプション</translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation>既定: トンネル</translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation>既定: 直接</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>地域</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation>GFWList -&gt; トンネル</translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation>カスタムスプリットルール</translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation>モード: Tovra Proxy</translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation>既定: プロキシ</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation>GFWList -&gt; プロキシ</translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation>Tovra: 起動しています...</translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation>サービス: 確認しています...</translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation>Tovra を開く...</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>接続</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>切断</translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation>ロケーション</translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation>システムプロキシ</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>ロック</translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation>ローカルネットワーク</translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation>LAN アクセス</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直接</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>保護</translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation>キルスイッチ</translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation>状態を更新</translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation>ログを開く</translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation>アカウント: 確認しています...</translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation>サインアウト</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>終了</translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation>Tovra: サービスを利用できません</translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation>サービスを利用できません</translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation>アカウント: 利用できません</translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation>Tovra - サービスを利用できません</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation>Tovra: 自動に切り替えています...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation>Tovra: WireGuard に切り替えています...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation>Tovra: TovraVPN に切り替えています...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation>Tovra: TovraVPN スプリットを切り替えています...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation>Tovra: Tovra Proxy に切り替えています...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation>Tovra: Tovra Proxy スプリットに切り替えています...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation>システムプロキシ: %1</translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation>ローカルネットワーク: %1</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>トンネル</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>プロキシ</translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation>地域 (%1): %2</translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation>ロケーションを更新できませんでした</translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation>ロケーションを読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation>ロケーショングループを更新できませんでした</translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation>ロケーショングループを読み込めませんでした</translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation>ロケーションを更新しています...</translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation>ロケーションが読み込まれていません</translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation>キャッシュされたロケーションはありません</translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation>ロケーションがありません</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>現在: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>なし</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation>ロケーションを更新 (%1 秒)</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>ロケーション: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation>ロケーション: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation>現在: %1 (古い情報)</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>グループ</translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation>1 分未満</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation>%1 分</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation>%1 時間</translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation>%1 時間 %2 分</translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation>%1 日</translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation>%1 日 %2 時間</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation>Tovra: 切断しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation>Tovra: サインアウトしています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation>Tovra: システムプロキシを変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation>Tovra: ローカルネットワークのルーティングを変更しています...</translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation>Tovra: キルスイッチをオンにしています...</translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation>Tovra: キルスイッチをオフにしています...</translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation>Tovra: 接続に失敗しました</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation>Tovra: 切断に失敗しました</translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation>サインアウトしました</translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation>アカウントの操作に失敗しました</translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation>モードの操作に失敗しました</translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation>モードを変更しました</translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation>システムプロキシを %1 に設定しました</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>変更しました</translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation>キルスイッチをオンにしました</translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation>キルスイッチをオフにしました</translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation>キルスイッチの操作に失敗しました</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>切断済み</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>接続中</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>切断中</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>準備完了</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation>Tovra: %1</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>実行中</translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation>サービス: %1</translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation>サービス: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation>アカウント: キャッシュ済み</translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation>アカウント: サインインが必要です</translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation>アカウント: %1</translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation>アカウント: サインイン済み</translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation>キルスイッチ: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>オフ</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>オン</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>ロック</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation>アップデートのダウンロード状況を読み取れませんでした。</translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation>ダウンロードをキャンセルしました。</translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation>アップデートをダウンロードできませんでした。</translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation>ダウンロードが完了しました。インストーラーを開いています...</translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation>ダウンロードリンクを利用できません。</translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation>アップデートのダウンロードリンクを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation>ダウンロードリンクをブラウザーで開きました。Tovra はインストーラーを自動的に実行しません。</translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation>Tovra のアップデート</translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation>接続するには Tovra をアップデートする必要があります。インストーラーをダウンロードするか、Tovra を終了してください。</translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation>新機能</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>ダウンロードの進行状況</translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation>このアップデートを表示しない</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>後で</translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation>Tovra を終了</translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation>アップデートせずに Tovra を終了</translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation>ダウンロードリンクを開く</translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation>Tovra アップデートのダウンロードリンクを開きます</translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation>必須のアップデートがあります</translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation>Tovra の新しいアップデートがあります</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>不明</translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation>最新版</translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation>現在のバージョン: %1
+利用可能なバージョン: %2</translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation>リリースノートを表示できません。</translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation>%2 中 %1 をダウンロードしています</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>アップデートをダウンロードしています...</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation>ダウンロードを準備しています...</translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation>ダウンロードを検証しています...</translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation>ダウンロードをキャンセルしています...</translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation>バックグラウンドでダウンロード</translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation>現在のセッションを中断せずに、最新のインストーラーをダウンロードします。</translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation>アップデートのダウンロード中はこのウィンドウを隠します</translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation>キャンセルしています...</translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation>アップデートのダウンロードをキャンセルします</translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation>ダウンロードをキャンセル</translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation>インストーラーを開いています...</translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation>ダウンロードを再試行</translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation>アップデートのダウンロードを再試行します</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>アップデートをダウンロード</translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation>Tovra のアップデートをダウンロードしてインストールします</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation>アップデート</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>アップデートを確認</translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation>Linux 版 Tovra</translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation>このアプリのバージョンです。</translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation>新しいバージョンがあるかどうかを Tovra サービスに問い合わせます。</translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation>%1 (ビルド %2)</translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>キルスイッチ</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <source>Connect</source>
+        <translation>接続</translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
-        <translation type="unfinished"></translation>
+        <source>Sign In</source>
+        <translation>サインイン</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>切断</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>切断しています…</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation>サービスを利用できません</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation>Tovra サービスの応答を待っています。</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>サインアウト済み</translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation>接続するには Tovra アカウントにサインインしてください。</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>ロケーション</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>前回のロケーション</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>接続済み</translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation>通信は Tovra のトンネルを通っています。</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>接続しています…</translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation>トンネルを準備しています。</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>%1 に接続しています</translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation>トンネルを閉じています。</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>切断済み</translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation>接続するまで、キルスイッチが通信をブロックします。</translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation>通信は保護されていません。</translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation>クリア</translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation>接続したロケーションがここに表示されます。</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>最近のロケーション</translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation>最近のロケーションをクリア</translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation>%1 に接続</translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation>接続時間: %1</translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation>モード: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>リンクを開けませんでした</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>ログディレクトリを利用できません</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ログディレクトリが存在しません: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>ログディレクトリを開けませんでした: %1</translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation>アカウントの操作に失敗しました</translation>
     </message>
 </context>
 </TS>

@@ -4,38 +4,324 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
-        <translation type="unfinished"></translation>
+        <source>Enter account and password.</source>
+        <translation>Informe a conta e a senha.</translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <source>Account operation failed</source>
+        <translation>Falha na operação da conta</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation>Lembrar esta conta</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Entrar</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>Entrar</translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation>Use sua conta Tovra para se conectar e sincronizar as localizações disponíveis.</translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation>E-mail ou ID de usuário</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Senha</translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation>Criar conta</translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation>Esqueceu a senha?</translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation>Entrando...</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation>Renovar</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>Sair da conta</translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation>Sessão iniciada</translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation>ID de usuário: %1</translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Plano: %1</translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation>Dias restantes: %1</translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation>Máximo de dispositivos simultâneos: %1</translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation>Saindo da conta...</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Abrindo…</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation>Aplicativo</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Alterar…</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Abrir ao iniciar a sessão</translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation>Inicia o Tovra na bandeja ao entrar na sessão da área de trabalho.</translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation>Mostrar janela ao iniciar</translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation>Abre esta janela quando o Tovra inicia; caso contrário, aparece só o ícone na bandeja.</translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation>Igual à área de trabalho</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Claro</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Escuro</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Aparência</translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation>Claro, escuro ou igual à área de trabalho.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>Alterar idioma</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation>%1, conforme a área de trabalho</translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation>Não foi possível atualizar a inicialização automática</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation>Localização %1</translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation>Outras localizações</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Premium</translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation>localizações: %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation>latência não medida</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>favorito</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>conectado</translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation>fora do seu plano</translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation>Seu plano não inclui esta localização. Faça upgrade para usá-la.</translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation>Esta lista pode estar desatualizada.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation>Conexão</translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation>URL da API</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>Restaurar padrão</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativada</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Última localização</translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation>Localização mais rápida</translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation>Conexão automática</translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation>Ao que o serviço Tovra se conecta quando inicia.</translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation>Salvar URL da API</translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation>Restaurar a URL padrão da API</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation>Endereço pelo qual o serviço Tovra acessa os servidores de contas e localizações. Altere apenas se o suporte pedir.</translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation>Validação: %1</translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation>Validada pelo serviço Tovra</translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation>Não validada: o serviço Tovra salvou este endereço, mas não conseguiu confirmá-lo</translation>
+    </message>
+</context>
+<context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>África</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Antártida</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Ásia</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Europa</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Oriente Médio</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>América do Norte</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Oceania</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>América do Sul</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>O serviço Tovra não está em execução.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Acesso ao serviço Tovra negado. Adicione este usuário ao grupo tovracli e depois saia e entre novamente na sessão.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível conectar ao serviço Tovra.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>O serviço Tovra é antigo demais para os modos do Kill Switch. Atualize o Tovra.</translation>
     </message>
 </context>
 <context>
@@ -974,30 +1260,133 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation>Configuração</translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation>Dados de execução</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Registros</translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation>Arquivo de estado</translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation>Chave de credenciais</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>Histórico</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Perfis</translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation>Socket de controle</translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation>Arquivo PID</translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation>Endereço de controle</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnóstico</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Reparar</translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation>Abrir registros</translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation>Reparar conexão</translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation>Redefine o Kill Switch, o proxy local e o túnel quando o tráfego fica travado.</translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation>A pasta de registros do serviço Tovra, para o suporte.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation>Copiar caminho: %1</translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation>Caminhos do serviço</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation>Onde o serviço Tovra guarda seus arquivos.</translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation>Versão do serviço Tovra</translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation>Protocolo de controle</translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation>Este aplicativo usa a versão 1.</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Não definido</translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation>%1, incompatível</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>A inicialização automática não é suportada nesta plataforma.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível localizar o executável do Tovra para a inicialização automática.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível preparar a pasta de inicialização automática.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar a inicialização automática do Tovra.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível proteger a inicialização automática do Tovra.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível remover o Tovra da inicialização automática.</translation>
     </message>
 </context>
 <context>
@@ -1008,11 +1397,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueio total</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Bloqueio total indisponível</translation>
     </message>
     <message>
         <source>On</source>
@@ -1024,88 +1413,418 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>O Kill Switch precisa de um modo VPN</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Kill Switch não funciona no Tovra Proxy. Mude para Automático (recomendado), TovraVPN ou WireGuard para ativá-lo.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar para Automático e ativar</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Mudar para Automático e ativar o Kill Switch</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolher modo…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha um modo para o Kill Switch</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>O Tovra Proxy precisa do Kill Switch desativado</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>O Kill Switch bloqueia o Tovra Proxy. Desative primeiro o Kill Switch nas Configurações e depois mude de modo.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Configurações</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir Configurações para desativar o Kill Switch</translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation>Bloquear tráfego fora do túnel</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation>Bloqueia o tráfego fora do túnel enquanto o Tovra está conectado ou conectando.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Sempre</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation>Bloqueia o tráfego fora do túnel sempre que o Kill Switch está ativado, mesmo desconectado.</translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation>Bloqueio total</translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation>Definido pelo serviço Tovra: o tráfego fora do túnel continua bloqueado e o Kill Switch não pode ser desativado aqui.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Modo</translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation>Quando o Kill Switch bloqueia o tráfego.</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Rede local</translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation>Se impressoras, compartilhamentos e outros dispositivos próximos continuam acessíveis enquanto o tráfego está bloqueado.</translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation>Modo do Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Agora: %1</translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation>%1. O serviço Tovra mantém o Kill Switch ativado; não é possível desativá-lo aqui.</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation>O Tovra Proxy está em uso: o Kill Switch precisa de um modo VPN.</translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation>Acessível</translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation>Bloqueada</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation>Usar idioma do sistema</translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation>Usar idioma do sistema (%1)</translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation>Seguir o idioma da área de trabalho</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>Escolha um idioma</translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation>O Tovra será reiniciado para exibir o novo idioma.</translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation>Pesquisar idiomas</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Idiomas</translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation>Usar idioma</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation>O serviço Tovra não está disponível.
+As localizações aparecerão aqui assim que ele responder.</translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation>Carregando localizações...</translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation>O serviço não tem localizações disponíveis no momento.
+Tente Atualizar daqui a pouco.</translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation>Nenhum favorito ainda.
+Marque uma localização com a estrela (ou selecione-a e pressione Espaço) para mantê-la aqui.</translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation>Nenhuma localização nesta aba.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as “de”.</source>
+        <translation>Nada corresponde a “%1”.
+Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas as localizações</translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
-        <translation type="unfinished"></translation>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation>Clique duas vezes em uma localização para se conectar a ela, ou em um país ou cidade para se conectar à localização mais rápida.</translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation>Pesquisar países, cidades, localizações ou P2P</translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation>Pesquisar localizações</translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation>Nenhuma das localizações em %1 está incluída no seu plano.</translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation>Seu plano não inclui %1. Faça upgrade para usar esta localização.</translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation>Ações da localização</translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation>Conectar à localização mais rápida</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Recolher</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Expandir</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Remover dos favoritos</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Adicionar aos favoritos</translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation>Resultados em todas as abas: %1</translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation>Localizações: %1</translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation>Medindo a latência...</translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation>Esta lista pode estar desatualizada; Atualizar busca uma nova.</translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation>Agrupando por região até chegarem os grupos do serviço.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation>Todas</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Grátis</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Premium</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Favoritos</translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation>Abas de localizações</translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation>Ordenar localizações</translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation>Ordem do serviço</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Nome</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>Latência</translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation>Ordem das localizações dentro de cada grupo</translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation>Buscar novamente a lista de localizações e medir a latência</translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation>Atualizar (%1 s)</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Atualizar</translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation>Atualizar localizações; disponível novamente em %1 s</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Atualizar localizações</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation>Localizações</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na operação</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na operação de configurações</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha na operação de modo</translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation>O Tovra escolhe o protocolo que funciona melhor aqui.</translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation>Um túnel rápido e moderno para todo o seu tráfego.</translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation>Todo o tráfego passa pelo túnel do TovraVPN.</translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation>O túnel por padrão; as regiões e os sites escolhidos vão direto.</translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation>Sem túnel: os aplicativos que usam o proxy local acessam a internet pelo Tovra.</translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation>O proxy local, com as regiões e os sites escolhidos indo direto.</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Aplicando…</translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation>O Kill Switch precisa de um modo VPN: escolha Automático, WireGuard ou TovraVPN para ativá-lo.</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>Escolha um modo</translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation>O modo atual aparecerá quando o serviço Tovra responder.</translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation>Modo atual: %1. Esta versão do Tovra não o reconhece; escolha um dos modos acima para substituí-lo.</translation>
     </message>
 </context>
 <context>
@@ -1116,387 +1835,1795 @@
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN dividido</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN Global</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy dividido</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy Global</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo de roteamento</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha como o seu tráfego é roteado e quais sites ficam fora do túnel.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Localizações</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Configurações</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Conta</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation>Rede local</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>Proxy do sistema</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Rede</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direta</translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation>Impressoras, compartilhamentos e outros dispositivos da sua rede continuam acessíveis</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Protegida</translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation>O tráfego da rede local é protegido como o restante</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation>As configurações de proxy da área de trabalho não são alteradas</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation>As configurações de proxy da área de trabalho apontam para o Tovra</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Travado</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation>As configurações de proxy da área de trabalho apontam para o Tovra e são mantidas assim</translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation>Se os dispositivos da sua rede local continuam acessíveis enquanto o Tovra roteia o seu tráfego.</translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation>Aponte as configurações de proxy da área de trabalho para o Tovra ou impeça também que outros programas as alterem.</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation>Rede</translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation>Escuta SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation>Escuta HTTP</translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation>Aplicar endereços de escuta</translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation>Servidores DNS locais</translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation>Por exemplo, 192.168.1.1, ::1</translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation>Salvar servidores</translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation>Limpar servidores</translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation>Redefinir DNS dividido</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation>Ativado e travado</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>Proxy do sistema</translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation>Aponta as configurações de proxy da área de trabalho para o Tovra; travado impede que outros programas as alterem.</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direta</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Protegida</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Rede local</translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation>Direta acessa os dispositivos próximos fora do túnel; protegida envia tudo por ele.</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation>Escutas do proxy local</translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation>Endereços em que o serviço aceita conexões de proxy, no formato host:porta. Deixe um campo vazio para fechar essa escuta.</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation>DNS local</translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation>DNS remoto</translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation>DNS dividido</translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation>Qual resolvedor responde pelos nomes que ficam fora do túnel.</translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation>Endereços IP dos resolvedores para nomes locais, separados por vírgulas.</translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation>Em uso: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhum</translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation>Em uso: %1, servidores %2</translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation>(de %1)</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconhecido</translation>
+    </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(das configurações do sistema)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(da sua lista)</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispensar notificação</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Notificação: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation>Regras de divisão personalizadas inalteradas</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation>Conectar</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation>Pesquise um país, uma cidade ou uma localização</translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation>Pesquisa de conexão rápida</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation>Pesquisas recentes</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Localizações recentes</translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation>Digite o nome de um país, cidade ou localização</translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation>Nenhuma localização corresponde a “%1”</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation>Resultados da pesquisa</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconhecido</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferências</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicando configurações...</translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation>As alterações entram em vigor quando o serviço Tovra as confirma.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Configurações</translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation>As configurações poderão ser alteradas novamente quando o serviço Tovra responder.</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation>Aguardando o serviço Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation>Adicione uma porta: host:porta, por exemplo 127.0.0.1:1080.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>“%1” não é um endereço IPv6.</translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation>Escreva o endereço IPv6 entre colchetes: [::1]:1080.</translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation>Adicione um host antes da porta: host:porta.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation>“%1” não é um nome de host nem um endereço IP.</translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation>Adicione uma porta depois dos dois-pontos: host:porta.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>A porta deve ser um número de 1 a 65535.</translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation>Informe uma URL da API ou restaure a padrão.</translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation>A URL da API deve começar com http:// ou https://.</translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation>A URL da API precisa de um host, por exemplo https://api.example.com.</translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation>Informe pelo menos um servidor DNS ou limpe a lista.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation>“%1” não é um endereço IP.</translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation>Escolha TovraVPN dividido ou Tovra Proxy dividido para enviar parte do tráfego direto: por região, pela GFWList ou por suas próprias regras.</translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation>Rota padrão</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direta</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation>Tudo o que não for escolhido abaixo vai direto</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Escolher…</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Escolher regiões</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regiões</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Regras de divisão personalizadas</translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation>Editar regras…</translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation>Editar regras de divisão personalizadas</translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation>Roteamento dividido</translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation>Opções do TovraVPN dividido</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation>Opções do Tovra Proxy dividido</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Túnel</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation>Tudo o que não for escolhido abaixo passa pelo túnel</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation>Tudo o que não for escolhido abaixo passa pelo proxy</translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation>O tráfego vai direto, a menos que uma região, a GFWList ou uma regra indique o contrário.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation>O tráfego passa pelo túnel, a menos que uma região ou uma regra o envie direto.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation>O tráfego passa pelo proxy, a menos que uma região ou uma regra o envie direto.</translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation>Nenhuma região escolhida.</translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation>Direto: %1</translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation>Pelo túnel: %1</translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation>Pelo proxy: %1</translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation>GFWList → Túnel</translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation>GFWList → Proxy</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation>Sites da GFWList sempre passam pelo túnel.</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation>Sites da GFWList sempre passam pelo proxy.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation>Suas próprias listas de domínios e endereços.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation>Suas próprias listas de domínios e endereços. Regras salvas: %1.</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível entrar</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível sair da conta</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível carregar a conta</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir a página de renovação</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Atualizando localizações...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Já há uma atualização de localizações em andamento</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar o favorito</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar as localizações</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar os grupos de localizações</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Localizações atualizadas</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível conectar a esta localização</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível conectar</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível desconectar</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível alterar o idioma</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reiniciando o Tovra para aplicar o idioma da interface.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível reiniciar o Tovra. Reinicie o aplicativo manualmente.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível mudar de modo</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar a rede local</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar o proxy do sistema</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Aguarde o término da operação atual</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Escolha um modo VPN para ativar o Kill Switch</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar o Kill Switch</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>Regras de divisão personalizadas atualizadas, mas não foi possível recarregá-las</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível carregar as regras de divisão</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível importar as regras de divisão</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Regras de divisão personalizadas atualizadas (%n regra)</numerusform>
+            <numerusform>Regras de divisão personalizadas atualizadas (%n regras)</numerusform>
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível carregar os caminhos de configuração</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar a URL da API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>URL da API restaurada para o padrão</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>URL da API validada e salva</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>URL da API salva, mas não validada</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar a conexão automática</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar o endereço de escuta do proxy</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Endereço de escuta do proxy salvo para a próxima conexão</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Endereço de escuta do proxy atualizado</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível atualizar o DNS dividido</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>DNS dividido atualizado</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Falha no reparo</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reparo concluído</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Verificando a compatibilidade do serviço Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>A interface do Tovra e o serviço são incompatíveis. Atualize o Tovra antes de continuar.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível carregar a versão</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>A versão da interface não está disponível</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível verificar se há atualizações</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>O Tovra está atualizado</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Uma atualização obrigatória do Tovra está sendo verificada antes de conectar.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Concluindo a última verificação de atualizações antes de iniciar o download...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>As informações da atualização não estão disponíveis. Verifique se há atualizações novamente.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelando...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível confirmar que o download começou. Verificando o status...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível iniciar o download da atualização</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível confirmar o cancelamento. Tentando novamente...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível ler o progresso do download. Tentando novamente...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>O download terminou antes que pudesse ser cancelado. O instalador não foi aberto.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>A atualização foi baixada, mas não foi possível abrir o instalador.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>O download pertence a outra versão da atualização. Verifique se há atualizações novamente.</translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <source>Could not load kill switch</source>
+        <translation>Não foi possível carregar o Kill Switch</translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation>Não foi possível carregar a URL da API</translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation>Não foi possível carregar o DNS dividido</translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation>Não foi possível acessar o serviço Tovra</translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation>Não foi possível carregar os idiomas</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Verificando atualizações...</translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation>O Tovra %1 está disponível</translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Salvar</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Escolher regiões</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>Pesquisar países</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>Países</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation>O tráfego para as regiões marcadas vai direto, fora do túnel. Todo o resto passa pelo túnel.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation>O tráfego para as regiões marcadas vai direto, sem passar pelo proxy. Todo o resto passa pelo proxy.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation>O tráfego para as regiões marcadas passa pelo túnel. Todo o resto vai direto.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation>O tráfego para as regiões marcadas passa pelo proxy. Todo o resto vai direto.</translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation>Marcadas: %1</translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation>Nenhum país corresponde a “%1”.</translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation>Lista de regras</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Importar</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Regras de divisão personalizadas</translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation>Um domínio, endereço IP ou intervalo CIDR por linha, como example.org, 203.0.113.7 ou 10.0.0.0/8. Linhas que começam com # são comentários.</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Regras</translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation>Substituir a lista escolhida por estas regras</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direto</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Bloquear</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation>Sites e endereços que sempre vão direto</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation>Sites e endereços que sempre passam pelo Tovra</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation>Sites e endereços bloqueados</translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation>Carregando regras…</translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation>O serviço Tovra não informa nenhuma lista de regras.</translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation>As regras ainda não foram carregadas.</translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation>Regras: %1 · Linhas: %2</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>não importado</translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation>importando…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation>Nada foi importado. Corrija estas linhas primeiro:</translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation>Linha %1: “%2” não é um domínio, endereço IP ou intervalo CIDR.</translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation>… Total de linhas inválidas: %1.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: conectando...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: conectando a %1...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Erro: %1</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation>Tovra: atualizando o TovraVPN dividido...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation>Tovra: atualizando as regiões do TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation>Tovra: atualizando a GFWList do TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation>Tovra: atualizando as regras personalizadas do TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation>Tovra: atualizando o Tovra Proxy dividido...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation>Tovra: atualizando as regiões do Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation>Tovra: atualizando a GFWList do Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation>falha na operação</translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation>a pasta de registros</translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation>falta %1</translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation>não existe %1: %2</translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation>não foi possível abrir %1: %2</translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation>Atual: carregando...</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation>Atualizar localizações</translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation>Carregando localizações...</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Automático</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation>WireGuard</translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation>Modo: TovraVPN</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>Global</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Dividido</translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation>Opções de divisão</translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation>Rota padrão: túnel</translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation>Rota padrão: direta</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Regiões</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation>GFWList -&gt; Túnel</translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation>Regras de divisão personalizadas</translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation>Modo: Tovra Proxy</translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation>Rota padrão: proxy</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation>GFWList -&gt; Proxy</translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation>Tovra: iniciando...</translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation>Serviço: verificando...</translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation>Abrir o Tovra...</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Conectar</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Desconectar</translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation>Localização</translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation>Proxy do sistema</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desativado</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Ativado</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Travado</translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation>Rede local</translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation>Acesso à rede local</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Direta</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Protegida</translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation>Atualizar status</translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation>Abrir registros</translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation>Conta: verificando...</translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation>Sair da conta</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Sair</translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation>Tovra: serviço indisponível</translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation>serviço indisponível</translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation>Conta: indisponível</translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation>Tovra - serviço indisponível</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation>Tovra: mudando para automático...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation>Tovra: mudando para WireGuard...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation>Tovra: mudando para TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation>Tovra: alterando o TovraVPN dividido...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation>Tovra: mudando para Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation>Tovra: mudando para Tovra Proxy dividido...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation>Proxy do sistema: %1</translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation>Rede local: %1</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Túnel</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Proxy</translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation>Regiões (%1): %2</translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation>Não foi possível atualizar as localizações</translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation>Não foi possível carregar as localizações</translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation>Não foi possível atualizar os grupos de localizações</translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation>Não foi possível carregar os grupos de localizações</translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation>Atualizando localizações...</translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation>Localizações não carregadas</translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation>Nenhuma localização em cache</translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation>Nenhuma localização</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>Atual: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhuma</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation>Atualizar localizações (%1 s)</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Localização: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation>Localização: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation>Atual: %1 (desatualizada)</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Grupo</translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation>menos de 1 min</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation>%1 d</translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation>%1 d %2 h</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation>Tovra: desconectando...</translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation>Tovra: saindo da conta...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation>Tovra: atualizando o proxy do sistema...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation>Tovra: atualizando o roteamento da rede local...</translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation>Tovra: ativando o Kill Switch...</translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation>Tovra: desativando o Kill Switch...</translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation>Tovra: falha ao conectar</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation>Tovra: falha ao desconectar</translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation>Sessão encerrada</translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation>falha na operação da conta</translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation>falha na operação de modo</translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation>Modo atualizado</translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation>Proxy do sistema: %1</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Atualizado</translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation>Kill Switch ativado</translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation>Kill Switch desativado</translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation>falha na operação do Kill Switch</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>conectado</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>desconectado</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>conectando</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>desconectando</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>pronto</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>desconhecido</translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation>Tovra: %1</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>em execução</translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation>Serviço: %1</translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation>Serviço: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation>Conta: em cache</translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation>Conta: é preciso entrar</translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation>Conta: %1</translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation>Conta: sessão iniciada</translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>desativado</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>ativado</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>travado</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation>Não foi possível ler o status do download da atualização.</translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation>Download cancelado.</translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation>Não foi possível baixar a atualização.</translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation>Download concluído. Abrindo o instalador...</translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation>O link de download não está disponível.</translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation>Não foi possível abrir o link de download da atualização.</translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation>O link de download foi aberto no navegador. O Tovra não executará o instalador automaticamente.</translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation>Atualização do Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation>É preciso atualizar o Tovra antes de conectar. Baixe o instalador ou saia do Tovra.</translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation>Novidades</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>Progresso do download</translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation>Ocultar esta atualização</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Agora não</translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation>Sair do Tovra</translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation>Sair do Tovra sem atualizar</translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation>Abrir link de download</translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation>Abrir o link de download da atualização do Tovra</translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation>Há uma atualização obrigatória disponível</translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation>Há uma nova atualização do Tovra disponível</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconhecida</translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation>Mais recente</translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation>Versão atual: %1
+Versão disponível: %2</translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation>As notas da versão não estão disponíveis.</translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation>Baixando %1 de %2</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Baixando a atualização...</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation>Preparando o download...</translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation>Verificando o download...</translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation>Cancelando o download...</translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation>Baixar em segundo plano</translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation>Baixe o instalador mais recente sem interromper sua sessão atual.</translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation>Ocultar esta janela enquanto a atualização é baixada</translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation>Cancelando...</translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation>Cancelar o download da atualização</translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation>Cancelar download</translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation>Abrindo o instalador...</translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation>Tentar baixar novamente</translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation>Tentar baixar a atualização novamente</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>Baixar atualização</translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation>Baixar e instalar a atualização do Tovra</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation>Atualizações</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>Verificar atualizações</translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation>Tovra para Linux</translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation>A versão deste aplicativo.</translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation>Pergunta ao serviço Tovra se há uma versão mais recente.</translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation>%1 (build %2)</translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <source>Connect</source>
+        <translation>Conectar</translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
-        <translation type="unfinished"></translation>
+        <source>Sign In</source>
+        <translation>Entrar</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Desconectar</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Desconectando…</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation>Serviço indisponível</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation>Aguardando a resposta do serviço Tovra.</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>Sessão encerrada</translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation>Entre na sua conta Tovra para se conectar.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Localização</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Última localização</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Conectado</translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation>Seu tráfego passa pelo túnel do Tovra.</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Conectando…</translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation>Estabelecendo o túnel.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Conectando a %1</translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation>Fechando o túnel.</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Desconectado</translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation>O Kill Switch bloqueia o tráfego até você se conectar.</translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation>Seu tráfego não está protegido.</translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation>Limpar</translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation>As localizações às quais você se conectar aparecerão aqui.</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Localizações recentes</translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation>Limpar localizações recentes</translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation>Conectar a %1</translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation>Conectado há %1</translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation>Modo: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir o link</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de registros não está disponível</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>A pasta de registros não existe: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Não foi possível abrir a pasta de registros: %1</translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation>Falha na operação da conta</translation>
     </message>
 </context>
 </TS>

@@ -4,38 +4,324 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
-        <translation type="unfinished"></translation>
+        <source>Enter account and password.</source>
+        <translation>Введите аккаунт и пароль.</translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <source>Account operation failed</source>
+        <translation>Не удалось выполнить операцию с аккаунтом</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation>Запомнить аккаунт</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>Войти</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>Вход</translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation>Войдите в аккаунт Tovra, чтобы подключаться и получать список доступных локаций.</translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation>Эл. почта или ID пользователя</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>Пароль</translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation>Регистрация</translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation>Забыли пароль?</translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation>Вход...</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation>Продлить</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>Выйти</translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation>Вход выполнен</translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation>ID пользователя: %1</translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation>Тариф: %1</translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation>Осталось дней: %1</translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation>Устройств одновременно: до %1</translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation>Выход...</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>Открытие…</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation>Приложение</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>Изменить…</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>Запускать при входе в систему</translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation>Запускать Tovra в системном трее при входе в систему.</translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation>Показывать окно при запуске</translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation>Открывать это окно при запуске Tovra; иначе появится только значок в трее.</translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation>Как в системе</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>Светлая</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>Тёмная</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>Тема</translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation>Светлая, тёмная или как в системе.</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>Изменить язык</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation>%1, как в системе</translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation>Не удалось изменить автозапуск</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation>Локация %1</translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation>Другие локации</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Премиум</translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation>локаций: %1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 мс</translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation>задержка не измерена</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>в избранном</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>подключено</translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation>не входит в ваш тариф</translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation>Эта локация не входит в ваш тариф. Смените тариф, чтобы пользоваться ею.</translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation>Список может быть устаревшим.</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation>Подключение</translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation>Адрес API</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>Сбросить</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Последняя локация</translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation>Самая быстрая локация</translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation>Автоподключение</translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation>К чему подключается служба Tovra при запуске.</translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation>Сохранить адрес API</translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation>Сбросить адрес API на стандартный</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation>Через этот адрес служба Tovra связывается с серверами аккаунтов и локаций. Меняйте его, только если об этом попросит служба поддержки.</translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation>Проверка: %1</translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation>Проверено службой Tovra</translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation>Не проверено: служба Tovra сохранила адрес, но не смогла его подтвердить</translation>
+    </message>
+</context>
+<context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>Африка</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>Антарктида</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>Азия</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>Европа</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>Ближний Восток</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>Северная Америка</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>Океания</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>Южная Америка</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Служба Tovra не запущена.</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Нет доступа к службе Tovra. Добавьте этого пользователя в группу tovracli, затем выйдите из системы и войдите снова.</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось подключиться к службе Tovra.</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Служба Tovra слишком старая для режимов Kill Switch. Обновите Tovra.</translation>
     </message>
 </context>
 <context>
@@ -890,7 +1176,7 @@
     </message>
     <message>
         <source>Turkey</source>
-        <translation>Türkiye</translation>
+        <translation>Турция</translation>
     </message>
     <message>
         <source>Turkmenistan</source>
@@ -974,30 +1260,133 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation>Конфигурация</translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation>Рабочая папка</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>Журналы</translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation>Файл состояния</translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation>Ключ учётных данных</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>История</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>Профили</translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation>Управляющий сокет</translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation>PID-файл</translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation>Адрес управления</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Диагностика</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>Восстановить</translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation>Открыть журналы</translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation>Восстановить подключение</translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation>Сбрасывает Kill Switch, локальный прокси и туннель, если трафик не проходит.</translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation>Папка журналов службы Tovra — для службы поддержки.</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Копировать</translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation>Копировать путь: %1</translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation>Пути службы</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation>Где служба Tovra хранит свои файлы.</translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation>Версия службы Tovra</translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation>Протокол управления</translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation>Это приложение использует версию 1.</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>Не задано</translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation>%1, несовместима</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Автозапуск при входе в систему на этой платформе не поддерживается.</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось найти исполняемый файл Tovra для автозапуска.</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось подготовить папку автозапуска.</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось обновить автозапуск Tovra.</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось защитить автозапуск Tovra.</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось убрать Tovra из автозапуска.</translation>
     </message>
 </context>
 <context>
@@ -1008,11 +1397,11 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>Принудительный режим</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Принудительный режим недоступен</translation>
     </message>
     <message>
         <source>On</source>
@@ -1024,88 +1413,418 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Для Kill Switch нужен режим VPN</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch не работает в режиме Tovra Proxy. Чтобы включить его, перейдите в режим «Авто» (рекомендуется), TovraVPN или WireGuard.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти в «Авто» и включить</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Перейти в режим «Авто» и включить Kill Switch</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать режим…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Выбрать режим для Kill Switch</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Для Tovra Proxy нужно выключить Kill Switch</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kill Switch блокирует Tovra Proxy. Сначала выключите Kill Switch в настройках, затем смените режим.</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть настройки</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Открыть настройки, чтобы выключить Kill Switch</translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation>Блокировать трафик вне туннеля</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Авто</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation>Блокирует трафик вне туннеля, пока Tovra подключена или подключается.</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>Всегда</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation>Блокирует трафик вне туннеля, пока Kill Switch включён, даже без подключения.</translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation>Принудительный</translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation>Задано службой Tovra: трафик вне туннеля остаётся заблокированным, и здесь Kill Switch выключить нельзя.</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>Режим</translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation>Когда Kill Switch блокирует трафик.</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Локальная сеть</translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation>Остаются ли принтеры, общие папки и другие устройства поблизости доступными, пока трафик заблокирован.</translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation>Режим Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>Сейчас: %1</translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation>%1. Служба Tovra держит Kill Switch включённым; здесь его выключить нельзя.</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation>Используется Tovra Proxy: для Kill Switch нужен режим VPN.</translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation>Доступна</translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation>Заблокирована</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation>Язык</translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation>Язык системы</translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation>Язык системы (%1)</translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation>Использовать язык рабочего стола</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>Выберите язык</translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation>Tovra перезапустится, чтобы сменить язык.</translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation>Поиск языков</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>Языки</translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation>Выбрать</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 мс</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation>Служба Tovra недоступна.
+Локации появятся здесь, как только она ответит.</translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation>Загрузка локаций...</translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation>Сейчас служба не может предложить ни одной локации.
+Попробуйте обновить список чуть позже.</translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation>В избранном пока пусто.
+Отметьте локацию звёздочкой (или выберите её и нажмите Пробел), чтобы она появилась здесь.</translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation>На этой вкладке нет локаций.</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as “de”.</source>
+        <translation>Ничего не найдено по запросу «%1».
+Попробуйте страну, город или код, например «de».</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Все локации</translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
-        <translation type="unfinished"></translation>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation>Дважды щёлкните локацию, чтобы подключиться к ней, или страну либо город, чтобы подключиться к самой быстрой локации в них.</translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation>Поиск стран, городов, локаций или P2P</translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation>Поиск локаций</translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation>Ни одна локация в %1 не входит в ваш тариф.</translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation>%1 не входит в ваш тариф. Смените тариф, чтобы пользоваться ею.</translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation>Действия с локацией</translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation>Подключиться к самой быстрой локации</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>Свернуть</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>Развернуть</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Убрать из избранного</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Добавить в избранное</translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation>Найдено на всех вкладках: %1</translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation>Локаций: %1</translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation>Измерение задержки...</translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation>Список может быть устаревшим; нажмите «Обновить», чтобы получить новый.</translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation>Группировка по регионам, пока служба не передаст свои группы.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation>Все</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>Бесплатные</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>Премиум</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>Избранное</translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation>Вкладки локаций</translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation>Сортировка локаций</translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation>По умолчанию</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Название</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>Задержка</translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation>Порядок локаций внутри каждой группы</translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation>Заново получить список локаций и измерить их задержку</translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation>Обновить (%1 с)</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>Обновить</translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation>Обновить локации: снова можно через %1 с</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Обновить локации</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation>Локации</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Операция не выполнена</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить настройки</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сменить режим</translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation>Tovra сама выбирает протокол, который лучше всего работает в вашей сети.</translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation>Быстрый современный туннель для всего трафика.</translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation>Весь трафик идёт через туннель TovraVPN.</translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation>По умолчанию через туннель; выбранные регионы и сайты — напрямую.</translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation>Без туннеля: приложения, использующие локальный прокси, выходят в интернет через Tovra.</translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation>Локальный прокси; выбранные регионы и сайты — напрямую.</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>Применение…</translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation>Для Kill Switch нужен режим VPN: выберите «Авто», WireGuard или TovraVPN, чтобы включить его.</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>Выберите режим</translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation>Текущий режим появится, когда ответит служба Tovra.</translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation>Текущий режим: %1. Эта версия Tovra его не знает; выберите один из режимов выше вместо него.</translation>
     </message>
 </context>
 <context>
@@ -1116,388 +1835,1796 @@
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN (раздельный)</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN (глобальный)</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy (раздельный)</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy (глобальный)</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим маршрутизации</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите, как направляется ваш трафик и какие сайты идут в обход туннеля.</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Локации</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Режим</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Настройки</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>Аккаунт</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation>Локальная сеть</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>Системный прокси</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Напрямую</translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation>Принтеры, общие папки и другие устройства в вашей сети остаются доступными</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Защищённая</translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation>Трафик локальной сети защищён, как и весь остальной</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation>Настройки прокси в системе не меняются</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation>Настройки прокси в системе указывают на Tovra</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Закрепить</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation>Настройки прокси в системе указывают на Tovra, и их нельзя изменить</translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation>Остаются ли устройства в локальной сети доступными, пока Tovra направляет ваш трафик.</translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation>Направить системные настройки прокси на Tovra или также запретить другим программам их менять.</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation>Сеть</translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation>SOCKS5-сервер</translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation>HTTP-сервер</translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation>Применить</translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation>Локальные DNS-серверы</translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation>Например: 192.168.1.1, ::1</translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation>Сохранить серверы</translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation>Очистить серверы</translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation>Сбросить раздельный DNS</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation>Вкл. и закреплено</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>Системный прокси</translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation>Направляет системные настройки прокси на Tovra; при закреплении другие программы не смогут их изменить.</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Напрямую</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Защищённая</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>Локальная сеть</translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation>«Напрямую» — устройства поблизости доступны вне туннеля; «Защищённая» — всё идёт через туннель.</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation>Локальные прокси-серверы</translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation>Адреса, на которых служба принимает прокси-подключения, в виде хост:порт. Оставьте поле пустым, чтобы закрыть этот порт.</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Автоматически</translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation>Локальный DNS</translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation>Удалённый DNS</translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation>Раздельный DNS</translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation>Какой DNS-сервер отвечает за имена, которые остаются вне туннеля.</translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation>IP-адреса DNS-серверов для локальных имён через запятую.</translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation>Действует: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation>Действует: %1, серверы: %2</translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation>(из %1)</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>(из настроек системы)</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>(из вашего списка)</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>Закрыть уведомление</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Уведомление: %1</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation>Свои правила разделения не изменились</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation>Подключиться</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation>Поиск страны, города или локации</translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation>Поиск для быстрого подключения</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation>Недавние запросы</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Недавние локации</translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation>Введите страну, город или название локации</translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation>Нет локаций по запросу «%1»</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation>Результаты поиска</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation>Неизвестно</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Параметры</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>Применение настроек...</translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation>Изменения вступят в силу, когда их подтвердит служба Tovra.</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>Настройки</translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation>Настройки снова можно будет менять, когда ответит служба Tovra.</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation>Ожидание службы Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation>Укажите порт: хост:порт, например 127.0.0.1:1080.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>«%1» — не адрес IPv6.</translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation>Адрес IPv6 указывается в квадратных скобках: [::1]:1080.</translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation>Укажите хост перед портом: хост:порт.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation>«%1» — не имя хоста и не IP-адрес.</translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation>Укажите порт после двоеточия: хост:порт.</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>Порт должен быть числом от 1 до 65535.</translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation>Введите адрес API или сбросьте его на стандартный.</translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation>Адрес API должен начинаться с http:// или https://.</translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation>В адресе API нужен хост, например https://api.example.com.</translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation>Укажите хотя бы один DNS-сервер или очистите список.</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation>«%1» — не IP-адрес.</translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation>Выберите TovraVPN (раздельный) или Tovra Proxy (раздельный), чтобы направлять часть трафика напрямую: по регионам, по GFWList или по своим правилам.</translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation>Маршрут по умолчанию</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Напрямую</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation>Всё, что не выбрано ниже, идёт напрямую</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Выбрать…</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Выбрать регионы</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Регионы</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Свои правила разделения</translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation>Изменить правила…</translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation>Изменить свои правила разделения</translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation>Раздельная маршрутизация</translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation>Параметры TovraVPN (раздельный)</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation>Параметры Tovra Proxy (раздельный)</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Туннель</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Прокси</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation>Всё, что не выбрано ниже, идёт через туннель</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation>Всё, что не выбрано ниже, идёт через прокси</translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation>Трафик идёт напрямую, если регион, GFWList или правило не указывают иначе.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation>Трафик идёт через туннель, если регион или правило не направляют его напрямую.</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation>Трафик идёт через прокси, если регион или правило не направляют его напрямую.</translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation>Регионы не выбраны.</translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation>Напрямую: %1</translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation>Через туннель: %1</translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation>Через прокси: %1</translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation>GFWList → Туннель</translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation>GFWList → Прокси</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation>Сайты из GFWList всегда идут через туннель.</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation>Сайты из GFWList всегда идут через прокси.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation>Ваши собственные списки доменов и адресов.</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation>Ваши собственные списки доменов и адресов. Правил: %1.</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось войти</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось выйти</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось загрузить аккаунт</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть страницу продления</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновление локаций...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Локации уже обновляются</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить избранное</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось обновить локации</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось обновить группы локаций</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Локации обновлены</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось подключиться к этой локации</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось подключиться</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось отключиться</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сменить язык</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra перезапускается, чтобы сменить язык интерфейса.</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось перезапустить Tovra. Перезапустите приложение вручную.</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось сменить режим</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить настройку локальной сети</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить системный прокси</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>Дождитесь завершения текущей операции</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Выберите режим VPN, чтобы включить Kill Switch</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить Kill Switch</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>Свои правила разделения обновлены, но их не удалось перечитать</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось загрузить правила разделения</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось импортировать правила разделения</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Свои правила разделения обновлены (%n правило)</numerusform>
+            <numerusform>Свои правила разделения обновлены (%n правила)</numerusform>
+            <numerusform>Свои правила разделения обновлены (%n правил)</numerusform>
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось загрузить пути конфигурации</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить адрес API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес API сброшен на стандартный</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес API проверен и сохранён</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес API сохранён, но не проверен</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить автоподключение</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить адрес прослушивания прокси</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес прослушивания прокси сохранён и вступит в силу при переподключении</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Адрес прослушивания прокси изменён</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось изменить раздельный DNS</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>Раздельный DNS изменён</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось восстановить</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Восстановление завершено</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>Проверка совместимости службы Tovra...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Приложение и служба Tovra несовместимы. Обновите Tovra, чтобы продолжить.</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить версию</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Версия приложения недоступна</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось проверить обновления</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Установлена последняя версия Tovra</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Перед подключением проверяется обязательное обновление Tovra.</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>Завершение проверки обновлений перед началом скачивания...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Сведения об обновлении недоступны. Проверьте обновления ещё раз.</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>Отмена...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось подтвердить начало скачивания. Проверка состояния...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось начать скачивание обновления</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось подтвердить отмену. Повторная попытка...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось получить ход скачивания. Повторная попытка...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>Скачивание завершилось раньше, чем его удалось отменить. Установщик не открывался.</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Обновление скачано, но открыть установщик не удалось.</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Скачанный файл относится к другому выпуску обновления. Проверьте обновления ещё раз.</translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <source>Could not load kill switch</source>
+        <translation>Не удалось загрузить Kill Switch</translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation>Не удалось загрузить адрес API</translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation>Не удалось загрузить раздельный DNS</translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation>Не удалось связаться со службой Tovra</translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation>Не удалось загрузить языки</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>Проверка обновлений...</translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation>Доступна Tovra %1</translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>Сохранить</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>Выбор регионов</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>Поиск стран</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>Страны</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation>Трафик в отмеченные регионы идёт напрямую, вне туннеля. Всё остальное идёт через туннель.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation>Трафик в отмеченные регионы идёт напрямую, минуя прокси. Всё остальное идёт через прокси.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation>Трафик в отмеченные регионы идёт через туннель. Всё остальное идёт напрямую.</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation>Трафик в отмеченные регионы идёт через прокси. Всё остальное идёт напрямую.</translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation>Отмечено: %1</translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation>Нет стран по запросу «%1».</translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation>Список правил</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>Импорт</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>Свои правила разделения</translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation>По одному домену, IP-адресу или диапазону CIDR в строке, например example.org, 203.0.113.7 или 10.0.0.0/8. Строки, начинающиеся с #, считаются комментариями.</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>Правила</translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Закрыть</translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation>Заменить выбранный список этими правилами</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Напрямую</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Прокси</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>Блокировка</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation>Сайты и адреса, которые всегда идут напрямую</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation>Сайты и адреса, которые всегда идут через Tovra</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation>Заблокированные сайты и адреса</translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation>Загрузка правил…</translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation>Служба Tovra не сообщила ни одного списка правил.</translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation>Правила ещё не загружены.</translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation>Правил: %1 · Строк: %2</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>не импортировано</translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation>импорт…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation>Ничего не импортировано. Сначала исправьте эти строки:</translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation>Строка %1: «%2» — не домен, не IP-адрес и не диапазон CIDR.</translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation>… Всего ошибочных строк: %1.</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: подключение...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: подключение к «%1»...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ошибка: %1</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation>Tovra: обновление раздельного режима TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation>Tovra: обновление регионов TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation>Tovra: обновление GFWList для TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation>Tovra: обновление своих правил TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation>Tovra: обновление раздельного режима Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation>Tovra: обновление регионов Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation>Tovra: обновление GFWList для Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation>операция не выполнена</translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation>папка журналов</translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation>%1: не указана</translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation>%1 не существует: %2</translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation>%1 не открывается: %2</translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation>Текущая: загрузка...</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation>Обновить локации</translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation>Загрузка локаций...</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>Авто</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation>WireGuard</translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation>Режим: TovraVPN</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>Глобальный</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>Раздельный</translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation>Параметры разделения</translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation>По умолчанию: туннель</translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation>По умолчанию: напрямую</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>Регионы</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation>GFWList -&gt; Туннель</translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation>Свои правила разделения</translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation>Режим: Tovra Proxy</translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation>По умолчанию: прокси</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation>GFWList -&gt; Прокси</translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation>Tovra: запуск...</translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation>Служба: проверка...</translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation>Открыть Tovra...</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>Подключиться</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Отключиться</translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation>Локация</translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation>Системный прокси</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Выкл.</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>Вкл.</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>Закрепить</translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation>Локальная сеть</translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation>Доступ к локальной сети</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>Напрямую</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>Защищённая</translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation>Обновить статус</translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation>Открыть журналы</translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation>Аккаунт: проверка...</translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation>Выйти из аккаунта</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>Выход</translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation>Tovra: служба недоступна</translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation>служба недоступна</translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation>Аккаунт: недоступен</translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation>Tovra — служба недоступна</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation>Tovra: переход в режим «Авто»...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation>Tovra: переход в режим WireGuard...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation>Tovra: переход в режим TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation>Tovra: переход в режим TovraVPN (раздельный)...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation>Tovra: переход в режим Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation>Tovra: переход в режим Tovra Proxy (раздельный)...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1: %2</translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation>Системный прокси: %1</translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation>Локальная сеть: %1</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>Туннель</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>Прокси</translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation>Регионы (%1): %2</translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation>Не удалось обновить локации</translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation>Не удалось загрузить локации</translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation>Не удалось обновить группы локаций</translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation>Не удалось загрузить группы локаций</translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation>Обновление локаций...</translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation>Локации не загружены</translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation>Нет сохранённых локаций</translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation>Нет локаций</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>Текущая: %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>нет</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation>Обновить локации (%1 с)</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>Локация: %1</translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation>Локация: %1 · %2</translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation>Текущая: %1 (устарело)</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>Группа</translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation>меньше 1 мин</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation>%1 мин</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation>%1 ч</translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation>%1 ч %2 мин</translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation>%1 д</translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation>%1 д %2 ч</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation>Tovra: отключение...</translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation>Tovra: выход из аккаунта...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation>Tovra: изменение системного прокси...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation>Tovra: изменение маршрутизации локальной сети...</translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation>Tovra: включение Kill Switch...</translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation>Tovra: выключение Kill Switch...</translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation>Tovra: не удалось подключиться</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation>Tovra: не удалось отключиться</translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation>Выполнен выход из аккаунта</translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation>операция с аккаунтом не выполнена</translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation>не удалось сменить режим</translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation>Режим изменён</translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation>Системный прокси: %1</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>Обновлено</translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation>Kill Switch включён</translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation>Kill Switch выключен</translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation>операция с Kill Switch не выполнена</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>подключено</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>отключено</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>подключение</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>отключение</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>готово</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>неизвестно</translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation>Tovra: %1</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>работает</translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation>Служба: %1</translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation>Служба: %1 (%2)</translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation>Аккаунт: данные из кэша</translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation>Аккаунт: требуется вход</translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation>Аккаунт: %1</translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation>Аккаунт: вход выполнен</translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation>Kill Switch: %1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>выкл.</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>вкл.</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>закреплён</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation>Не удалось получить состояние скачивания обновления.</translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation>Скачивание отменено.</translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation>Не удалось скачать обновление.</translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation>Скачивание завершено. Открытие установщика...</translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation>Ссылка для скачивания недоступна.</translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation>Не удалось открыть ссылку для скачивания обновления.</translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation>Ссылка для скачивания открыта в браузере. Tovra не будет запускать установщик автоматически.</translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation>Обновление Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation>Чтобы подключаться, нужно обновить Tovra. Скачайте установщик или закройте Tovra.</translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation>Что нового</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>Ход скачивания</translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation>Пропустить это обновление</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>Не сейчас</translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation>Закрыть Tovra</translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation>Закрыть Tovra без обновления</translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation>Открыть ссылку</translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation>Открыть ссылку для скачивания обновления Tovra</translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation>Доступно обязательное обновление</translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation>Доступно новое обновление Tovra</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Неизвестно</translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation>Последняя</translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation>Текущая версия: %1
+Доступная версия: %2</translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation>Описание выпуска недоступно.</translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation>Скачивание: %1 из %2</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>Скачивание обновления...</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 МБ</translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation>Подготовка к скачиванию...</translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation>Проверка скачанного файла...</translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation>Отмена скачивания...</translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation>Скачать в фоне</translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation>Скачать последний установщик, не прерывая текущий сеанс.</translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation>Скрыть это окно на время скачивания обновления</translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation>Отмена...</translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation>Отменить скачивание обновления</translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation>Отменить</translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation>Открытие установщика...</translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation>Повторить</translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation>Повторить скачивание обновления</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>Скачать обновление</translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation>Скачать и установить обновление Tovra</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation>Обновления</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>Проверить обновления</translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation>Tovra для Linux</translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation>Версия этого приложения.</translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation>Запросить у службы Tovra новую версию.</translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation>%1 (сборка %2)</translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>Kill Switch</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <source>Connect</source>
+        <translation>Подключиться</translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
-        <translation type="unfinished"></translation>
+        <source>Sign In</source>
+        <translation>Войти</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Отмена</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>Отключиться</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>Отключение…</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation>Служба недоступна</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation>Ожидание ответа службы Tovra.</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>Вход не выполнен</translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation>Войдите в аккаунт Tovra, чтобы подключиться.</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>Локация</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>Последняя локация</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Подключено</translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation>Ваш трафик идёт через туннель Tovra.</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>Подключение…</translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation>Создание туннеля.</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>Подключение к «%1»</translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation>Закрытие туннеля.</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Отключено</translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation>Kill Switch блокирует трафик, пока вы не подключитесь.</translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation>Ваш трафик не защищён.</translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation>Очистить</translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation>Здесь появятся локации, к которым вы подключались.</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>Недавние локации</translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation>Очистить недавние локации</translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation>Подключиться к «%1»</translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation>Время подключения: %1</translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation>Режим: %1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть ссылку</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка журналов недоступна</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Папка журналов не существует: %1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Не удалось открыть папку журналов: %1</translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation>Не удалось выполнить операцию с аккаунтом</translation>
     </message>
 </context>
 </TS>

@@ -4,38 +4,324 @@
 <context>
     <name>AccountPage</name>
     <message>
-        <source>Your account</source>
-        <translation type="unfinished"></translation>
+        <source>Enter account and password.</source>
+        <translation>請輸入帳號和密碼。</translation>
     </message>
     <message>
-        <source>Sign in to your Tovra account to connect and sync available locations.</source>
-        <translation type="unfinished"></translation>
+        <source>Account operation failed</source>
+        <translation>帳號操作失敗</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSignInCard</name>
+    <message>
+        <source>Remember this account</source>
+        <translation>記住這個帳號</translation>
+    </message>
+    <message>
+        <source>Sign In</source>
+        <translation>登入</translation>
+    </message>
+    <message>
+        <source>Sign in</source>
+        <translation>登入</translation>
+    </message>
+    <message>
+        <source>Use your Tovra account to connect and sync available locations.</source>
+        <translation>使用 Tovra 帳號登入，即可連線並同步可用的節點。</translation>
+    </message>
+    <message>
+        <source>Email or user ID</source>
+        <translation>電子郵件或使用者 ID</translation>
+    </message>
+    <message>
+        <source>Password</source>
+        <translation>密碼</translation>
+    </message>
+    <message>
+        <source>Sign Up</source>
+        <translation>註冊</translation>
+    </message>
+    <message>
+        <source>Forgot password?</source>
+        <translation>忘記密碼？</translation>
+    </message>
+    <message>
+        <source>Signing in...</source>
+        <translation>正在登入...</translation>
+    </message>
+</context>
+<context>
+    <name>AccountSummaryCard</name>
+    <message>
+        <source>Renew</source>
+        <translation>續約</translation>
+    </message>
+    <message>
+        <source>Sign Out</source>
+        <translation>登出</translation>
+    </message>
+    <message>
+        <source>Signed in</source>
+        <translation>已登入</translation>
+    </message>
+    <message>
+        <source>User ID: %1</source>
+        <translation>使用者 ID：%1</translation>
+    </message>
+    <message>
+        <source>Plan: %1</source>
+        <translation>方案：%1</translation>
+    </message>
+    <message>
+        <source>Days left: %1</source>
+        <translation>剩餘天數：%1</translation>
+    </message>
+    <message>
+        <source>Max simultaneous devices: %1</source>
+        <translation>同時連線裝置上限：%1</translation>
+    </message>
+    <message>
+        <source>Signing out...</source>
+        <translation>正在登出...</translation>
+    </message>
+    <message>
+        <source>Opening…</source>
+        <translation>正在開啟…</translation>
+    </message>
+</context>
+<context>
+    <name>AppSection</name>
+    <message>
+        <source>App</source>
+        <translation>應用程式</translation>
+    </message>
+    <message>
+        <source>Change…</source>
+        <translation>變更…</translation>
+    </message>
+    <message>
+        <source>Launch at login</source>
+        <translation>登入時啟動</translation>
+    </message>
+    <message>
+        <source>Start Tovra in the tray when you sign in to the desktop.</source>
+        <translation>登入桌面時在系統匣中啟動 Tovra。</translation>
+    </message>
+    <message>
+        <source>Show window at launch</source>
+        <translation>啟動時顯示視窗</translation>
+    </message>
+    <message>
+        <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
+        <translation>Tovra 啟動時開啟此視窗；否則只會顯示系統匣圖示。</translation>
+    </message>
+    <message>
+        <source>Same as desktop</source>
+        <translation>與桌面相同</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>淺色</translation>
+    </message>
+    <message>
+        <source>Dark</source>
+        <translation>深色</translation>
+    </message>
+    <message>
+        <source>Appearance</source>
+        <translation>外觀</translation>
+    </message>
+    <message>
+        <source>Light, dark, or following the desktop.</source>
+        <translation>淺色、深色或與桌面相同。</translation>
+    </message>
+    <message>
+        <source>Change language</source>
+        <translation>變更語言</translation>
+    </message>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>%1, following the desktop</source>
+        <translation>%1（與桌面相同）</translation>
+    </message>
+    <message>
+        <source>Could not update login startup</source>
+        <translation>無法更新登入時啟動設定</translation>
+    </message>
+</context>
+<context>
+    <name>CatalogTreeModel</name>
+    <message>
+        <source>Location %1</source>
+        <translation>節點 %1</translation>
+    </message>
+    <message>
+        <source>Other locations</source>
+        <translation>其他節點</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>進階</translation>
+    </message>
+    <message>
+        <source>locations: %1</source>
+        <translation>節點數：%1</translation>
+    </message>
+    <message>
+        <source>%1 ms</source>
+        <translation>%1 ms</translation>
+    </message>
+    <message>
+        <source>latency not measured</source>
+        <translation>尚未測量延遲</translation>
+    </message>
+    <message>
+        <source>favourite</source>
+        <translation>我的最愛</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>not in your plan</source>
+        <translation>不在您的方案內</translation>
+    </message>
+    <message>
+        <source>Your plan does not include this location. Upgrade to use it.</source>
+        <translation>您的方案不包含此節點。升級後即可使用。</translation>
+    </message>
+    <message>
+        <source>This list may be out of date.</source>
+        <translation>此清單可能已過時。</translation>
     </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
+    </message>
+</context>
+<context>
+    <name>ConnectionSection</name>
+    <message>
+        <source>Connection</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>API URL</source>
+        <translation>API 網址</translation>
+    </message>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>Reset to default</source>
+        <translation>還原為預設值</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>上次的節點</translation>
+    </message>
+    <message>
+        <source>Fastest location</source>
+        <translation>最快的節點</translation>
+    </message>
+    <message>
+        <source>Auto connect</source>
+        <translation>自動連線</translation>
+    </message>
+    <message>
+        <source>What the Tovra service connects to when it starts.</source>
+        <translation>Tovra 服務啟動時要自動連線的目標。</translation>
+    </message>
+    <message>
+        <source>Save API URL</source>
+        <translation>儲存 API 網址</translation>
+    </message>
+    <message>
+        <source>Reset API URL to default</source>
+        <translation>將 API 網址還原為預設值</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
+        <translation>Tovra 服務連線帳號及節點伺服器所用的位址。請僅在技術支援人員要求時變更。</translation>
+    </message>
+    <message>
+        <source>Validation: %1</source>
+        <translation>驗證：%1</translation>
+    </message>
+    <message>
+        <source>Validated by the Tovra service</source>
+        <translation>已由 Tovra 服務驗證</translation>
+    </message>
+    <message>
+        <source>Not validated: the Tovra service saved this address but could not confirm it</source>
+        <translation>未驗證：Tovra 服務已儲存此位址，但無法確認是否可用</translation>
+    </message>
+</context>
+<context>
+    <name>Continents</name>
+    <message>
+        <source>Africa</source>
+        <translation>非洲</translation>
+    </message>
+    <message>
+        <source>Antarctica</source>
+        <translation>南極洲</translation>
+    </message>
+    <message>
+        <source>Asia</source>
+        <translation>亞洲</translation>
+    </message>
+    <message>
+        <source>Europe</source>
+        <translation>歐洲</translation>
+    </message>
+    <message>
+        <source>Middle East</source>
+        <translation>中東</translation>
+    </message>
+    <message>
+        <source>North America</source>
+        <translation>北美洲</translation>
+    </message>
+    <message>
+        <source>Oceania</source>
+        <translation>大洋洲</translation>
+    </message>
+    <message>
+        <source>South America</source>
+        <translation>南美洲</translation>
     </message>
 </context>
 <context>
     <name>ControlClient</name>
     <message>
         <source>Tovra daemon is not running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra 服務未執行。</translation>
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation type="unfinished"></translation>
+        <translation>無權存取 Tovra 服務。請將此使用者加入 tovracli 群組，然後登出再重新登入。</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法連線至 Tovra 服務。</translation>
     </message>
     <message>
         <source>Tovra daemon is too old for Kill Switch modes. Update Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra 服務版本過舊，不支援斷網保護模式。請更新 Tovra。</translation>
     </message>
 </context>
 <context>
@@ -974,30 +1260,133 @@
     </message>
 </context>
 <context>
+    <name>DiagnosticsSection</name>
+    <message>
+        <source>Configuration</source>
+        <translation>設定目錄</translation>
+    </message>
+    <message>
+        <source>Runtime</source>
+        <translation>執行階段目錄</translation>
+    </message>
+    <message>
+        <source>Logs</source>
+        <translation>記錄檔</translation>
+    </message>
+    <message>
+        <source>State file</source>
+        <translation>狀態檔</translation>
+    </message>
+    <message>
+        <source>Credentials key</source>
+        <translation>憑證金鑰</translation>
+    </message>
+    <message>
+        <source>History</source>
+        <translation>歷史記錄</translation>
+    </message>
+    <message>
+        <source>Profiles</source>
+        <translation>設定檔</translation>
+    </message>
+    <message>
+        <source>Control socket</source>
+        <translation>控制通訊端</translation>
+    </message>
+    <message>
+        <source>PID file</source>
+        <translation>PID 檔</translation>
+    </message>
+    <message>
+        <source>Control address</source>
+        <translation>控制位址</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>診斷</translation>
+    </message>
+    <message>
+        <source>Repair</source>
+        <translation>修復</translation>
+    </message>
+    <message>
+        <source>Open logs</source>
+        <translation>開啟記錄檔</translation>
+    </message>
+    <message>
+        <source>Repair connection</source>
+        <translation>修復連線</translation>
+    </message>
+    <message>
+        <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
+        <translation>流量卡住時，重設斷網保護、本機代理和通道。</translation>
+    </message>
+    <message>
+        <source>The Tovra service&apos;s log folder, for support.</source>
+        <translation>Tovra 服務的記錄檔資料夾，供技術支援使用。</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>複製</translation>
+    </message>
+    <message>
+        <source>Copy %1 path</source>
+        <translation>複製%1路徑</translation>
+    </message>
+    <message>
+        <source>Service paths</source>
+        <translation>服務路徑</translation>
+    </message>
+    <message>
+        <source>Where the Tovra service keeps its files.</source>
+        <translation>Tovra 服務存放檔案的位置。</translation>
+    </message>
+    <message>
+        <source>Tovra service version</source>
+        <translation>Tovra 服務版本</translation>
+    </message>
+    <message>
+        <source>Control protocol</source>
+        <translation>控制協定</translation>
+    </message>
+    <message>
+        <source>This app speaks version 1.</source>
+        <translation>此應用程式使用第 1 版協定。</translation>
+    </message>
+    <message>
+        <source>Not set</source>
+        <translation>未設定</translation>
+    </message>
+    <message>
+        <source>%1, not compatible</source>
+        <translation>%1，不相容</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
-        <translation type="unfinished"></translation>
+        <translation>此平台不支援登入時啟動。</translation>
     </message>
     <message>
         <source>Could not resolve the Tovra executable for login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>找不到登入時啟動所需的 Tovra 執行檔。</translation>
     </message>
     <message>
         <source>Could not prepare the login startup directory.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法準備登入啟動目錄。</translation>
     </message>
     <message>
         <source>Could not update Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新 Tovra 的登入啟動項目。</translation>
     </message>
     <message>
         <source>Could not secure Tovra login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法為 Tovra 的登入啟動項目設定安全權限。</translation>
     </message>
     <message>
         <source>Could not remove Tovra from login startup.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法將 Tovra 從登入啟動項目中移除。</translation>
     </message>
 </context>
 <context>
@@ -1008,104 +1397,434 @@
     </message>
     <message>
         <source>Lockdown</source>
-        <translation type="unfinished"></translation>
+        <translation>強制鎖定</translation>
     </message>
     <message>
         <source>Lockdown unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>無法使用強制鎖定</translation>
     </message>
     <message>
         <source>On</source>
-        <translation>開</translation>
+        <translation>已開啟</translation>
     </message>
     <message>
         <source>Off</source>
-        <translation>關</translation>
+        <translation>已關閉</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation type="unfinished"></translation>
+        <translation>斷網保護需要 VPN 模式</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation type="unfinished"></translation>
+        <translation>斷網保護無法在 Tovra Proxy 模式下執行。請切換至自動（建議）、TovraVPN 或 WireGuard 後再啟用。</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
-        <translation type="unfinished"></translation>
+        <translation>切換至自動並啟用</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>切換至自動模式並啟用斷網保護</translation>
     </message>
     <message>
         <source>Choose mode…</source>
-        <translation type="unfinished"></translation>
+        <translation>選擇模式…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>為斷網保護選擇模式</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy 需要關閉斷網保護</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation type="unfinished"></translation>
+        <translation>斷網保護會封鎖 Tovra Proxy。請先在設定中關閉斷網保護，再切換模式。</translation>
     </message>
     <message>
         <source>Open Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟設定</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>開啟設定以關閉斷網保護</translation>
+    </message>
+</context>
+<context>
+    <name>KillSwitchSection</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>斷網保護</translation>
+    </message>
+    <message>
+        <source>Block traffic outside the tunnel</source>
+        <translation>封鎖通道外的流量</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
+        <translation>Tovra 已連線或正在連線時，封鎖通道外的流量。</translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation>永遠</translation>
+    </message>
+    <message>
+        <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
+        <translation>只要斷網保護為開啟狀態，即使未連線也會封鎖通道外的流量。</translation>
+    </message>
+    <message>
+        <source>Lockdown</source>
+        <translation>強制鎖定</translation>
+    </message>
+    <message>
+        <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
+        <translation>由 Tovra 服務設定：通道外的流量會持續遭到封鎖，且無法在此關閉斷網保護。</translation>
+    </message>
+    <message>
+        <source>Mode</source>
+        <translation>模式</translation>
+    </message>
+    <message>
+        <source>When Kill Switch blocks traffic.</source>
+        <translation>斷網保護何時封鎖流量。</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>區域網路</translation>
+    </message>
+    <message>
+        <source>Whether printers, shares and other devices nearby stay reachable while traffic is blocked.</source>
+        <translation>流量遭到封鎖時，是否仍可存取印表機、共用資料夾等附近的裝置。</translation>
+    </message>
+    <message>
+        <source>Kill Switch mode: %1</source>
+        <translation>斷網保護模式：%1</translation>
+    </message>
+    <message>
+        <source>Now: %1</source>
+        <translation>目前：%1</translation>
+    </message>
+    <message>
+        <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
+        <translation>%1。Tovra 服務讓斷網保護保持開啟，無法在此關閉。</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
+        <translation>正在使用 Tovra Proxy：斷網保護需要 VPN 模式。</translation>
+    </message>
+    <message>
+        <source>Reachable</source>
+        <translation>可存取</translation>
+    </message>
+    <message>
+        <source>Blocked</source>
+        <translation>已封鎖</translation>
+    </message>
+</context>
+<context>
+    <name>LanguagePickerDialog</name>
+    <message>
+        <source>Language</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Use system language</source>
+        <translation>使用系統語言</translation>
+    </message>
+    <message>
+        <source>Use system language (%1)</source>
+        <translation>使用系統語言（%1）</translation>
+    </message>
+    <message>
+        <source>Follow the desktop&apos;s language</source>
+        <translation>與桌面語言相同</translation>
+    </message>
+    <message>
+        <source>Choose a language</source>
+        <translation>選擇語言</translation>
+    </message>
+    <message>
+        <source>Tovra restarts to show the new language.</source>
+        <translation>Tovra 會重新啟動以顯示新語言。</translation>
+    </message>
+    <message>
+        <source>Search languages</source>
+        <translation>搜尋語言</translation>
+    </message>
+    <message>
+        <source>Languages</source>
+        <translation>語言</translation>
+    </message>
+    <message>
+        <source>Use language</source>
+        <translation>使用此語言</translation>
     </message>
 </context>
 <context>
     <name>LocationItemDelegate</name>
     <message>
         <source>%1 ms</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ms</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsEmptyState</name>
+    <message>
+        <source>The Tovra service is not available.
+Locations appear here as soon as it responds.</source>
+        <translation>無法使用 Tovra 服務。
+服務回應後，節點就會顯示在這裡。</translation>
+    </message>
+    <message>
+        <source>Loading locations...</source>
+        <translation>正在載入節點...</translation>
+    </message>
+    <message>
+        <source>The service has no locations to offer right now.
+Try Refresh in a moment.</source>
+        <translation>服務目前沒有可用的節點。
+請稍後按「重新整理」再試一次。</translation>
+    </message>
+    <message>
+        <source>No favourites yet.
+Star a location (or select it and press Space) to keep it here.</source>
+        <translation>尚無我的最愛。
+為節點加上星號（或選取後按空白鍵），即可保留在這裡。</translation>
+    </message>
+    <message>
+        <source>No locations in this tab.</source>
+        <translation>此分頁中沒有節點。</translation>
+    </message>
+    <message>
+        <source>Nothing matches “%1”.
+Try a country, a city or a code such as “de”.</source>
+        <translation>找不到符合「%1」的結果。
+請試試國家、城市或代碼，例如「de」。</translation>
     </message>
 </context>
 <context>
     <name>LocationsPage</name>
     <message>
         <source>All locations</source>
-        <translation type="unfinished"></translation>
+        <translation>所有節點</translation>
     </message>
     <message>
-        <source>Every location of the service appears here, with your favourites.</source>
-        <translation type="unfinished"></translation>
+        <source>Double-click a location to connect to it, or a country or city to connect to its fastest location.</source>
+        <translation>按兩下節點即可連線；按兩下國家或城市則會連線至其中最快的節點。</translation>
+    </message>
+    <message>
+        <source>Search countries, cities, locations or P2P</source>
+        <translation>搜尋國家、城市、節點或 P2P</translation>
+    </message>
+    <message>
+        <source>Search locations</source>
+        <translation>搜尋節點</translation>
+    </message>
+    <message>
+        <source>None of the locations in %1 is included in your plan.</source>
+        <translation>%1 中的節點都不在您的方案內。</translation>
+    </message>
+    <message>
+        <source>%1 is not included in your plan. Upgrade to use it.</source>
+        <translation>%1 不在您的方案內。升級後即可使用。</translation>
+    </message>
+    <message>
+        <source>Location actions</source>
+        <translation>節點動作</translation>
+    </message>
+    <message>
+        <source>Connect to the fastest location</source>
+        <translation>連線至最快的節點</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>Collapse</source>
+        <translation>摺疊</translation>
+    </message>
+    <message>
+        <source>Expand</source>
+        <translation>展開</translation>
+    </message>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>從我的最愛中移除</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>加入我的最愛</translation>
+    </message>
+    <message>
+        <source>Matches in every tab: %1</source>
+        <translation>所有分頁中的符合項目：%1</translation>
+    </message>
+    <message>
+        <source>Locations: %1</source>
+        <translation>節點數：%1</translation>
+    </message>
+    <message>
+        <source>Measuring latency...</source>
+        <translation>正在測量延遲...</translation>
+    </message>
+    <message>
+        <source>This list may be out of date; Refresh fetches a new one.</source>
+        <translation>此清單可能已過時；按「重新整理」即可取得新清單。</translation>
+    </message>
+    <message>
+        <source>Grouping by region until the service&apos;s groups arrive.</source>
+        <translation>在收到服務提供的群組之前，暫時依地區分組。</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsToolbar</name>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Free</source>
+        <translation>免費</translation>
+    </message>
+    <message>
+        <source>Premium</source>
+        <translation>進階</translation>
+    </message>
+    <message>
+        <source>Favourites</source>
+        <translation>我的最愛</translation>
+    </message>
+    <message>
+        <source>Location tabs</source>
+        <translation>節點分頁</translation>
+    </message>
+    <message>
+        <source>Sort locations</source>
+        <translation>節點排序</translation>
+    </message>
+    <message>
+        <source>Service order</source>
+        <translation>預設順序</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名稱</translation>
+    </message>
+    <message>
+        <source>Latency</source>
+        <translation>延遲</translation>
+    </message>
+    <message>
+        <source>Order of the locations within each group</source>
+        <translation>各群組內節點的排列順序</translation>
+    </message>
+    <message>
+        <source>Fetch the list of locations again and measure their latency</source>
+        <translation>重新取得節點清單並測量延遲</translation>
+    </message>
+    <message>
+        <source>Refresh (%1s)</source>
+        <translation>重新整理（%1 秒）</translation>
+    </message>
+    <message>
+        <source>Refresh</source>
+        <translation>重新整理</translation>
+    </message>
+    <message>
+        <source>Refresh locations, possible again in %1 s</source>
+        <translation>重新整理節點（%1 秒後可再次使用）</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>重新整理節點</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsTreeView</name>
+    <message>
+        <source>Locations</source>
+        <translation>節點</translation>
     </message>
 </context>
 <context>
     <name>MainWindow</name>
     <message>
         <source>Tovra</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>操作失敗</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>設定操作失敗</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>模式操作失敗</translation>
+    </message>
+</context>
+<context>
+    <name>ModeChoiceCard</name>
+    <message>
+        <source>Tovra picks the protocol that works best here.</source>
+        <translation>由 Tovra 選擇目前網路環境下效果最好的協定。</translation>
+    </message>
+    <message>
+        <source>A fast, modern tunnel for all your traffic.</source>
+        <translation>快速、現代的通道，承載您的所有流量。</translation>
+    </message>
+    <message>
+        <source>All traffic goes through the TovraVPN tunnel.</source>
+        <translation>所有流量都經由 TovraVPN 通道。</translation>
+    </message>
+    <message>
+        <source>The tunnel by default; chosen regions and sites go direct.</source>
+        <translation>預設經由通道；所選地區和網站直連。</translation>
+    </message>
+    <message>
+        <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
+        <translation>不使用通道：使用本機代理的應用程式透過 Tovra 連上網際網路。</translation>
+    </message>
+    <message>
+        <source>The local proxy, with chosen regions and sites going direct.</source>
+        <translation>使用本機代理，所選地區和網站直連。</translation>
+    </message>
+    <message>
+        <source>Applying…</source>
+        <translation>正在套用…</translation>
+    </message>
+    <message>
+        <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
+        <translation>斷網保護需要 VPN 模式：請選擇自動、WireGuard 或 TovraVPN 後再開啟。</translation>
+    </message>
+    <message>
+        <source>Choose a mode</source>
+        <translation>選擇模式</translation>
+    </message>
+    <message>
+        <source>The current mode shows once the Tovra service answers.</source>
+        <translation>Tovra 服務回應後就會顯示目前的模式。</translation>
+    </message>
+    <message>
+        <source>Current mode: %1. This version of Tovra does not know it; choose one of the modes above to replace it.</source>
+        <translation>目前模式：%1。此版本的 Tovra 無法辨識此模式；請從上方選擇一種模式來取代。</translation>
     </message>
 </context>
 <context>
@@ -1116,386 +1835,1794 @@
     </message>
     <message>
         <source>WireGuard</source>
-        <translation type="unfinished"></translation>
+        <translation>WireGuard</translation>
     </message>
     <message>
         <source>TovraVPN Split</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN 分流</translation>
     </message>
     <message>
         <source>TovraVPN Global</source>
-        <translation type="unfinished"></translation>
+        <translation>TovraVPN 全域</translation>
     </message>
     <message>
         <source>Tovra Proxy Split</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy 分流</translation>
     </message>
     <message>
         <source>Tovra Proxy Global</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra Proxy 全域</translation>
     </message>
     <message>
         <source>Routing mode</source>
-        <translation type="unfinished"></translation>
+        <translation>路由模式</translation>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Applying the mode...</source>
-        <translation type="unfinished"></translation>
+        <translation>選擇流量的路由方式，以及哪些網站略過通道。</translation>
     </message>
 </context>
 <context>
     <name>NavigationSidebar</name>
     <message>
         <source>Locations</source>
-        <translation type="unfinished"></translation>
+        <translation>節點</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>模式</translation>
     </message>
     <message>
         <source>VPN</source>
-        <translation type="unfinished"></translation>
+        <translation>VPN</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Account</source>
-        <translation type="unfinished"></translation>
+        <translation>帳號</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkOptionsCard</name>
+    <message>
+        <source>Local network</source>
+        <translation>區域網路</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>系統代理</translation>
+    </message>
+    <message>
+        <source>Network</source>
+        <translation>網路</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直連</translation>
+    </message>
+    <message>
+        <source>Printers, shares and other devices on your network stay reachable</source>
+        <translation>仍可存取網路上的印表機、共用資料夾等裝置</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>受保護</translation>
+    </message>
+    <message>
+        <source>Local network traffic is protected like the rest</source>
+        <translation>區域網路流量與其他流量一樣受到保護</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings are left alone</source>
+        <translation>不變更桌面的代理設定</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra</source>
+        <translation>桌面的代理設定指向 Tovra</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>鎖定</translation>
+    </message>
+    <message>
+        <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
+        <translation>桌面的代理設定指向 Tovra，並維持不變</translation>
+    </message>
+    <message>
+        <source>Whether devices on your local network stay reachable while Tovra routes your traffic.</source>
+        <translation>Tovra 接管流量時，是否仍可存取區域網路上的裝置。</translation>
+    </message>
+    <message>
+        <source>Point the desktop&apos;s proxy settings at Tovra, or also keep other programs from changing them.</source>
+        <translation>將桌面的代理設定指向 Tovra，或同時禁止其他程式變更這些設定。</translation>
+    </message>
+</context>
+<context>
+    <name>NetworkSection</name>
+    <message>
+        <source>Network</source>
+        <translation>網路</translation>
+    </message>
+    <message>
+        <source>SOCKS5 listener</source>
+        <translation>SOCKS5 監聽位址</translation>
+    </message>
+    <message>
+        <source>HTTP listener</source>
+        <translation>HTTP 監聽位址</translation>
+    </message>
+    <message>
+        <source>Apply listeners</source>
+        <translation>套用監聽位址</translation>
+    </message>
+    <message>
+        <source>Local DNS servers</source>
+        <translation>本機 DNS 伺服器</translation>
+    </message>
+    <message>
+        <source>For example 192.168.1.1, ::1</source>
+        <translation>例如 192.168.1.1, ::1</translation>
+    </message>
+    <message>
+        <source>Save servers</source>
+        <translation>儲存伺服器</translation>
+    </message>
+    <message>
+        <source>Clear servers</source>
+        <translation>清除伺服器</translation>
+    </message>
+    <message>
+        <source>Reset split DNS</source>
+        <translation>重設分流 DNS</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>On and locked</source>
+        <translation>開啟並鎖定</translation>
+    </message>
+    <message>
+        <source>System proxy</source>
+        <translation>系統代理</translation>
+    </message>
+    <message>
+        <source>Points the desktop&apos;s proxy settings at Tovra; locked keeps other programs from changing them.</source>
+        <translation>將桌面的代理設定指向 Tovra；鎖定後其他程式無法變更這些設定。</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直連</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>受保護</translation>
+    </message>
+    <message>
+        <source>Local network</source>
+        <translation>區域網路</translation>
+    </message>
+    <message>
+        <source>Direct reaches devices nearby outside the tunnel; protected sends everything through it.</source>
+        <translation>直連：在通道之外存取附近的裝置；受保護：所有流量都經由通道。</translation>
+    </message>
+    <message>
+        <source>SOCKS5</source>
+        <translation>SOCKS5</translation>
+    </message>
+    <message>
+        <source>HTTP</source>
+        <translation>HTTP</translation>
+    </message>
+    <message>
+        <source>Local proxy listeners</source>
+        <translation>本機代理監聽位址</translation>
+    </message>
+    <message>
+        <source>Addresses where the daemon accepts proxy connections, as host:port. Leave a field empty to close that listener.</source>
+        <translation>服務接受代理連線的位址，格式為「主機:連接埠」。欄位留空即關閉該監聽。</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>Local DNS</source>
+        <translation>本機 DNS</translation>
+    </message>
+    <message>
+        <source>Remote DNS</source>
+        <translation>遠端 DNS</translation>
+    </message>
+    <message>
+        <source>Split DNS</source>
+        <translation>分流 DNS</translation>
+    </message>
+    <message>
+        <source>Which resolver answers for names that stay outside the tunnel.</source>
+        <translation>由哪個 DNS 伺服器解析不經由通道的網域名稱。</translation>
+    </message>
+    <message>
+        <source>IP addresses of the resolvers for local names, separated by commas.</source>
+        <translation>用於解析本機網域名稱的 DNS 伺服器 IP 位址，以逗號分隔。</translation>
+    </message>
+    <message>
+        <source>In effect: %1</source>
+        <translation>目前生效：%1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>In effect: %1, servers %2</source>
+        <translation>目前生效：%1，伺服器：%2</translation>
+    </message>
+    <message>
+        <source>(from %1)</source>
+        <translation>（來自 %1）</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>(from the system settings)</source>
+        <translation>（來自系統設定）</translation>
+    </message>
+    <message>
+        <source>(from your list)</source>
+        <translation>（來自您的清單）</translation>
     </message>
 </context>
 <context>
     <name>NotificationHost</name>
     <message>
         <source>Dismiss notification</source>
-        <translation type="unfinished"></translation>
+        <translation>關閉通知</translation>
     </message>
     <message>
         <source>Notification: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>通知：%1</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::ShellText</name>
+    <message>
+        <source>Custom split rules unchanged</source>
+        <translation>自訂分流規則未變更</translation>
+    </message>
+</context>
+<context>
+    <name>QCoreApplication::TrayMenuText</name>
+    <message>
+        <source>Connect</source>
+        <translation>連線</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryField</name>
+    <message>
+        <source>Search for a country, city or location</source>
+        <translation>搜尋國家、城市或節點</translation>
+    </message>
+    <message>
+        <source>Quick connect search</source>
+        <translation>快速連線搜尋</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryModel</name>
+    <message>
+        <source>Recent searches</source>
+        <translation>最近的搜尋</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>最近使用的節點</translation>
+    </message>
+    <message>
+        <source>Type a country, city or location name</source>
+        <translation>輸入國家、城市或節點名稱</translation>
+    </message>
+    <message>
+        <source>No locations match “%1”</source>
+        <translation>沒有符合「%1」的節點</translation>
+    </message>
+    <message>
+        <source>%1  ·  %2</source>
+        <translation>%1  ·  %2</translation>
+    </message>
+</context>
+<context>
+    <name>QuickEntryPopup</name>
+    <message>
+        <source>Search results</source>
+        <translation>搜尋結果</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsCard</name>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
     </message>
 </context>
 <context>
     <name>SettingsPage</name>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>取消</translation>
     </message>
     <message>
         <source>Preferences</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Kill switch, DNS, proxies, language, appearance and updates appear here.</source>
-        <translation type="unfinished"></translation>
+        <translation>偏好設定</translation>
     </message>
     <message>
         <source>Applying settings...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在套用設定...</translation>
+    </message>
+    <message>
+        <source>Changes take effect once the Tovra service confirms them.</source>
+        <translation>變更會在 Tovra 服務確認後生效。</translation>
+    </message>
+    <message>
+        <source>Settings</source>
+        <translation>設定</translation>
+    </message>
+    <message>
+        <source>Settings can be changed again once the Tovra service answers.</source>
+        <translation>Tovra 服務回應後即可再次變更設定。</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service...</source>
+        <translation>正在等待 Tovra 服務...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsValidator</name>
+    <message>
+        <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
+        <translation>請加上連接埠，格式為「主機:連接埠」，例如 127.0.0.1:1080。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IPv6 address.</source>
+        <translation>「%1」不是 IPv6 位址。</translation>
+    </message>
+    <message>
+        <source>Write an IPv6 address in brackets: [::1]:1080.</source>
+        <translation>IPv6 位址請寫在方括號內，例如 [::1]:1080。</translation>
+    </message>
+    <message>
+        <source>Add a host before the port: host:port.</source>
+        <translation>請在連接埠前加上主機，格式為「主機:連接埠」。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not a host name or IP address.</source>
+        <translation>「%1」不是主機名稱或 IP 位址。</translation>
+    </message>
+    <message>
+        <source>Add a port after the colon: host:port.</source>
+        <translation>請在冒號後加上連接埠，格式為「主機:連接埠」。</translation>
+    </message>
+    <message>
+        <source>The port must be a number from 1 to 65535.</source>
+        <translation>連接埠必須是 1 到 65535 之間的數字。</translation>
+    </message>
+    <message>
+        <source>Enter an API URL, or reset it to the default.</source>
+        <translation>請輸入 API 網址，或將其還原為預設值。</translation>
+    </message>
+    <message>
+        <source>The API URL must start with http:// or https://.</source>
+        <translation>API 網址必須以 http:// 或 https:// 開頭。</translation>
+    </message>
+    <message>
+        <source>The API URL needs a host, for example https://api.example.com.</source>
+        <translation>API 網址必須包含主機，例如 https://api.example.com。</translation>
+    </message>
+    <message>
+        <source>Enter at least one DNS server, or clear the list.</source>
+        <translation>請至少輸入一個 DNS 伺服器，或清除清單。</translation>
+    </message>
+    <message>
+        <source>&quot;%1&quot; is not an IP address.</source>
+        <translation>「%1」不是 IP 位址。</translation>
+    </message>
+</context>
+<context>
+    <name>SplitOptionsCard</name>
+    <message>
+        <source>Choose TovraVPN Split or Tovra Proxy Split to send some traffic direct: by region, by the GFWList or by your own rules.</source>
+        <translation>選擇 TovraVPN 分流或 Tovra Proxy 分流，即可依地區、GFWList 或自訂規則讓部分流量直連。</translation>
+    </message>
+    <message>
+        <source>Default route</source>
+        <translation>預設路由</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直連</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes direct</source>
+        <translation>下方未選擇的流量一律直連</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選擇…</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>選擇地區</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>地區</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>自訂分流規則</translation>
+    </message>
+    <message>
+        <source>Edit rules…</source>
+        <translation>編輯規則…</translation>
+    </message>
+    <message>
+        <source>Edit custom split rules</source>
+        <translation>編輯自訂分流規則</translation>
+    </message>
+    <message>
+        <source>Split routing</source>
+        <translation>分流路由</translation>
+    </message>
+    <message>
+        <source>TovraVPN Split options</source>
+        <translation>TovraVPN 分流選項</translation>
+    </message>
+    <message>
+        <source>Tovra Proxy Split options</source>
+        <translation>Tovra Proxy 分流選項</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>代理</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the tunnel</source>
+        <translation>下方未選擇的流量一律經由通道</translation>
+    </message>
+    <message>
+        <source>Everything not chosen below goes through the proxy</source>
+        <translation>下方未選擇的流量一律經由代理</translation>
+    </message>
+    <message>
+        <source>Traffic goes direct unless a region, the GFWList or a rule says otherwise.</source>
+        <translation>除非地區、GFWList 或規則另有指定，否則流量一律直連。</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the tunnel unless a region or a rule sends it direct.</source>
+        <translation>除非地區或規則指定直連，否則流量一律經由通道。</translation>
+    </message>
+    <message>
+        <source>Traffic goes through the proxy unless a region or a rule sends it direct.</source>
+        <translation>除非地區或規則指定直連，否則流量一律經由代理。</translation>
+    </message>
+    <message>
+        <source>No regions chosen.</source>
+        <translation>未選擇地區。</translation>
+    </message>
+    <message>
+        <source>Go direct: %1</source>
+        <translation>直連：%1</translation>
+    </message>
+    <message>
+        <source>Go through the tunnel: %1</source>
+        <translation>經由通道：%1</translation>
+    </message>
+    <message>
+        <source>Go through the proxy: %1</source>
+        <translation>經由代理：%1</translation>
+    </message>
+    <message>
+        <source>GFWList → Tunnel</source>
+        <translation>GFWList → 通道</translation>
+    </message>
+    <message>
+        <source>GFWList → Proxy</source>
+        <translation>GFWList → 代理</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the tunnel.</source>
+        <translation>GFWList 中的網站一律經由通道。</translation>
+    </message>
+    <message>
+        <source>Sites on the GFWList always go through the proxy.</source>
+        <translation>GFWList 中的網站一律經由代理。</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists.</source>
+        <translation>您自訂的網域和位址清單。</translation>
+    </message>
+    <message>
+        <source>Your own domain and address lists. Rules held: %1.</source>
+        <translation>您自訂的網域和位址清單。目前共有 %1 條規則。</translation>
     </message>
 </context>
 <context>
     <name>TovraAppShell</name>
     <message>
         <source>Could not sign in</source>
-        <translation type="unfinished"></translation>
+        <translation>無法登入</translation>
     </message>
     <message>
         <source>Could not sign out</source>
-        <translation type="unfinished"></translation>
+        <translation>無法登出</translation>
     </message>
     <message>
         <source>Could not load account</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入帳號</translation>
     </message>
     <message>
         <source>Could not open renewal page</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開啟續約頁面</translation>
     </message>
     <message>
         <source>Refreshing locations...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在重新整理節點...</translation>
     </message>
     <message>
         <source>A locations update is already in progress</source>
-        <translation type="unfinished"></translation>
+        <translation>節點更新已在進行中</translation>
     </message>
     <message>
         <source>Could not update favorite</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新我的最愛</translation>
     </message>
     <message>
         <source>Could not refresh locations</source>
-        <translation type="unfinished"></translation>
+        <translation>無法重新整理節點</translation>
     </message>
     <message>
         <source>Could not refresh location groups</source>
-        <translation type="unfinished"></translation>
+        <translation>無法重新整理節點群組</translation>
     </message>
     <message>
         <source>Locations updated</source>
-        <translation type="unfinished"></translation>
+        <translation>節點已更新</translation>
     </message>
     <message>
         <source>Could not connect to this location</source>
-        <translation type="unfinished"></translation>
+        <translation>無法連線至此節點</translation>
     </message>
     <message>
         <source>Could not connect</source>
-        <translation type="unfinished"></translation>
+        <translation>無法連線</translation>
     </message>
     <message>
         <source>Could not disconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>無法中斷連線</translation>
     </message>
     <message>
         <source>Could not update language</source>
-        <translation type="unfinished"></translation>
+        <translation>無法變更語言</translation>
     </message>
     <message>
         <source>Restarting Tovra to apply the interface language.</source>
-        <translation type="unfinished"></translation>
+        <translation>正在重新啟動 Tovra 以套用介面語言。</translation>
     </message>
     <message>
         <source>Could not restart Tovra. Please restart the app manually.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法重新啟動 Tovra。請手動重新啟動應用程式。</translation>
     </message>
     <message>
         <source>Could not switch mode</source>
-        <translation type="unfinished"></translation>
+        <translation>無法切換模式</translation>
     </message>
     <message>
         <source>Could not update local network</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新區域網路設定</translation>
     </message>
     <message>
         <source>Could not update system proxy</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新系統代理</translation>
     </message>
     <message>
         <source>Please wait for the current operation to finish</source>
-        <translation type="unfinished"></translation>
+        <translation>請等待目前的操作完成</translation>
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation type="unfinished"></translation>
+        <translation>請選擇 VPN 模式以開啟斷網保護</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新斷網保護</translation>
     </message>
     <message>
         <source>Custom split rules updated, but rules could not be refreshed</source>
-        <translation type="unfinished"></translation>
+        <translation>自訂分流規則已更新，但無法重新整理規則</translation>
     </message>
     <message>
         <source>Could not load split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入分流規則</translation>
     </message>
     <message>
         <source>Could not import split rules</source>
-        <translation type="unfinished"></translation>
+        <translation>無法匯入分流規則</translation>
     </message>
     <message numerus="yes">
         <source>Custom split rules updated (%n rule(s))</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>自訂分流規則已更新（%n 條規則）</numerusform>
         </translation>
     </message>
     <message>
-        <source>Custom split rules unchanged</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Could not load config paths</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入設定路徑</translation>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新 API 網址</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation type="unfinished"></translation>
+        <translation>API 網址已還原為預設值</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation type="unfinished"></translation>
+        <translation>API 網址已驗證並儲存</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation type="unfinished"></translation>
+        <translation>API 網址已儲存，但未驗證</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新自動連線設定</translation>
     </message>
     <message>
         <source>Could not update proxy listen address</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新代理監聽位址</translation>
     </message>
     <message>
         <source>Proxy listen address saved for reconnect</source>
-        <translation type="unfinished"></translation>
+        <translation>代理監聽位址已儲存，將於重新連線後生效</translation>
     </message>
     <message>
         <source>Proxy listen address updated</source>
-        <translation type="unfinished"></translation>
+        <translation>代理監聽位址已更新</translation>
     </message>
     <message>
         <source>Could not update split DNS</source>
-        <translation type="unfinished"></translation>
+        <translation>無法更新分流 DNS</translation>
     </message>
     <message>
         <source>Split DNS updated</source>
-        <translation type="unfinished"></translation>
+        <translation>分流 DNS 已更新</translation>
     </message>
     <message>
         <source>Repair failed</source>
-        <translation type="unfinished"></translation>
+        <translation>修復失敗</translation>
     </message>
     <message>
         <source>Repair completed</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
-        <translation type="unfinished"></translation>
+        <translation>修復完成</translation>
     </message>
     <message>
         <source>Checking Tovra service compatibility...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在檢查 Tovra 服務的相容性...</translation>
     </message>
     <message>
         <source>Tovra GUI and daemon are incompatible. Update Tovra before continuing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra 介面程式與服務不相容。請先更新 Tovra 再繼續。</translation>
     </message>
     <message>
         <source>Could not load version</source>
-        <translation type="unfinished"></translation>
+        <translation>無法載入版本資訊</translation>
     </message>
     <message>
         <source>GUI version is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>無法取得介面程式版本</translation>
     </message>
     <message>
         <source>Could not check for updates</source>
-        <translation type="unfinished"></translation>
+        <translation>無法檢查更新</translation>
     </message>
     <message>
         <source>Tovra is up to date</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra 已是最新版本</translation>
     </message>
     <message>
         <source>A required Tovra update is being checked before connecting.</source>
-        <translation type="unfinished"></translation>
+        <translation>連線前正在檢查必要的 Tovra 更新。</translation>
     </message>
     <message>
         <source>Finishing the latest update check before starting the download...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在完成最近一次更新檢查，隨後開始下載...</translation>
     </message>
     <message>
         <source>Update information is unavailable. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>無法取得更新資訊。請重新檢查更新。</translation>
     </message>
     <message>
         <source>Canceling...</source>
-        <translation type="unfinished"></translation>
+        <translation>正在取消...</translation>
     </message>
     <message>
         <source>Could not confirm that the download started. Checking its status...</source>
-        <translation type="unfinished"></translation>
+        <translation>無法確認下載是否已開始。正在檢查下載狀態...</translation>
     </message>
     <message>
         <source>Could not start the update download</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開始下載更新</translation>
     </message>
     <message>
         <source>Could not confirm cancellation. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>無法確認是否已取消。正在重試...</translation>
     </message>
     <message>
         <source>Could not read download progress. Retrying...</source>
-        <translation type="unfinished"></translation>
+        <translation>無法讀取下載進度。正在重試...</translation>
     </message>
     <message>
         <source>The download completed before it could be canceled. The installer was not opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download complete. Opening the installer...</source>
-        <translation type="unfinished"></translation>
+        <translation>下載在取消前已完成。未開啟安裝程式。</translation>
     </message>
     <message>
         <source>The update was downloaded, but the installer could not be opened.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Download canceled.</source>
-        <translation type="unfinished"></translation>
+        <translation>更新已下載，但無法開啟安裝程式。</translation>
     </message>
     <message>
         <source>The download belongs to a different update release. Check for updates again.</source>
-        <translation type="unfinished"></translation>
+        <translation>此下載屬於另一個更新版本。請重新檢查更新。</translation>
     </message>
     <message>
-        <source>Could not download the update.</source>
-        <translation type="unfinished"></translation>
+        <source>Could not load kill switch</source>
+        <translation>無法載入斷網保護設定</translation>
+    </message>
+    <message>
+        <source>Could not load API URL</source>
+        <translation>無法載入 API 網址</translation>
+    </message>
+    <message>
+        <source>Could not load split DNS</source>
+        <translation>無法載入分流 DNS 設定</translation>
+    </message>
+    <message>
+        <source>Could not reach the Tovra service</source>
+        <translation>無法連線至 Tovra 服務</translation>
+    </message>
+    <message>
+        <source>Could not load languages</source>
+        <translation>無法載入語言清單</translation>
+    </message>
+    <message>
+        <source>Checking for updates...</source>
+        <translation>正在檢查更新...</translation>
+    </message>
+    <message>
+        <source>Tovra %1 is available</source>
+        <translation>Tovra %1 已推出</translation>
+    </message>
+</context>
+<context>
+    <name>TovraRegionPickerDialog</name>
+    <message>
+        <source>Save</source>
+        <translation>儲存</translation>
+    </message>
+    <message>
+        <source>Choose regions</source>
+        <translation>選擇地區</translation>
+    </message>
+    <message>
+        <source>Search countries</source>
+        <translation>搜尋國家/地區</translation>
+    </message>
+    <message>
+        <source>Countries</source>
+        <translation>國家/地區</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, outside the tunnel. Everything else goes through the tunnel.</source>
+        <translation>前往所勾選地區的流量會直連，不經由通道。其他流量一律經由通道。</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes direct, not through the proxy. Everything else goes through the proxy.</source>
+        <translation>前往所勾選地區的流量會直連，不經由代理。其他流量一律經由代理。</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the tunnel. Everything else goes direct.</source>
+        <translation>前往所勾選地區的流量會經由通道，其他流量一律直連。</translation>
+    </message>
+    <message>
+        <source>Traffic to the regions you check goes through the proxy. Everything else goes direct.</source>
+        <translation>前往所勾選地區的流量會經由代理，其他流量一律直連。</translation>
+    </message>
+    <message>
+        <source>Checked: %1</source>
+        <translation>已勾選：%1</translation>
+    </message>
+    <message>
+        <source>No country matches “%1”.</source>
+        <translation>沒有符合「%1」的國家/地區。</translation>
+    </message>
+</context>
+<context>
+    <name>TovraSplitRulesEditorDialog</name>
+    <message>
+        <source>Rule list</source>
+        <translation>規則清單</translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation>匯入</translation>
+    </message>
+    <message>
+        <source>Custom split rules</source>
+        <translation>自訂分流規則</translation>
+    </message>
+    <message>
+        <source>One domain, IP address or CIDR range per line, such as example.org, 203.0.113.7 or 10.0.0.0/8. Lines starting with # are comments.</source>
+        <translation>每行一個網域、IP 位址或 CIDR 範圍，例如 example.org、203.0.113.7 或 10.0.0.0/8。以 # 開頭的行為註解。</translation>
+    </message>
+    <message>
+        <source>Rules</source>
+        <translation>規則</translation>
+    </message>
+    <message>
+        <source>example.org
+*.example.net
+203.0.113.0/24</source>
+        <translation>example.org
+*.example.net
+203.0.113.0/24</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>Replace the chosen list with these rules</source>
+        <translation>以這些規則取代所選清單</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直連</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>代理</translation>
+    </message>
+    <message>
+        <source>Block</source>
+        <translation>封鎖</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go direct</source>
+        <translation>一律直連的網站和位址</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that always go through Tovra</source>
+        <translation>一律經由 Tovra 的網站和位址</translation>
+    </message>
+    <message>
+        <source>Sites and addresses that are blocked</source>
+        <translation>遭到封鎖的網站和位址</translation>
+    </message>
+    <message>
+        <source>Loading rules…</source>
+        <translation>正在載入規則…</translation>
+    </message>
+    <message>
+        <source>The Tovra service reports no rule lists.</source>
+        <translation>Tovra 服務未提供任何規則清單。</translation>
+    </message>
+    <message>
+        <source>Rules are not loaded yet.</source>
+        <translation>規則尚未載入。</translation>
+    </message>
+    <message>
+        <source>Rules: %1 · Lines: %2</source>
+        <translation>規則：%1 · 行數：%2</translation>
+    </message>
+    <message>
+        <source>not imported</source>
+        <translation>未匯入</translation>
+    </message>
+    <message>
+        <source>importing…</source>
+        <translation>正在匯入…</translation>
+    </message>
+    <message>
+        <source>Nothing was imported. Fix these lines first:</source>
+        <translation>未匯入任何內容。請先修正以下各行：</translation>
+    </message>
+    <message>
+        <source>Line %1: “%2” is not a domain, IP address or CIDR range.</source>
+        <translation>第 %1 行：「%2」不是網域、IP 位址或 CIDR 範圍。</translation>
+    </message>
+    <message>
+        <source>… Bad lines in all: %1.</source>
+        <translation>… 錯誤行共 %1 行。</translation>
     </message>
 </context>
 <context>
     <name>TrayMenuText</name>
     <message>
         <source>Tovra: connecting...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: 正在連線...</translation>
     </message>
     <message>
         <source>Tovra: connecting %1...</source>
-        <translation type="unfinished"></translation>
+        <translation>Tovra: 正在連線至 %1...</translation>
     </message>
     <message>
         <source>[ %1 ]</source>
-        <translation type="unfinished"></translation>
+        <translation>[ %1 ]</translation>
     </message>
     <message>
         <source>Error: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>錯誤：%1</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN split...</source>
+        <translation>Tovra: 正在更新 TovraVPN 分流...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN regions...</source>
+        <translation>Tovra: 正在更新 TovraVPN 地區...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN GFWList...</source>
+        <translation>Tovra: 正在更新 TovraVPN GFWList...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating TovraVPN custom rules...</source>
+        <translation>Tovra: 正在更新 TovraVPN 自訂規則...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy Split...</source>
+        <translation>Tovra: 正在更新 Tovra Proxy 分流...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy regions...</source>
+        <translation>Tovra: 正在更新 Tovra Proxy 地區...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating Tovra Proxy GFWList...</source>
+        <translation>Tovra: 正在更新 Tovra Proxy GFWList...</translation>
+    </message>
+    <message>
+        <source>operation failed</source>
+        <translation>操作失敗</translation>
+    </message>
+    <message>
+        <source>log directory</source>
+        <translation>記錄檔目錄</translation>
+    </message>
+    <message>
+        <source>missing %1</source>
+        <translation>缺少%1</translation>
+    </message>
+    <message>
+        <source>%1 does not exist: %2</source>
+        <translation>%1不存在：%2</translation>
+    </message>
+    <message>
+        <source>could not open %1: %2</source>
+        <translation>無法開啟%1：%2</translation>
+    </message>
+    <message>
+        <source>Current: loading...</source>
+        <translation>目前：正在載入...</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes</source>
+        <translation>重新整理節點</translation>
+    </message>
+    <message>
+        <source>Loading nodes...</source>
+        <translation>正在載入節點...</translation>
+    </message>
+    <message>
+        <source>Auto</source>
+        <translation>自動</translation>
+    </message>
+    <message>
+        <source>WireGuard</source>
+        <translation>WireGuard</translation>
+    </message>
+    <message>
+        <source>Mode: TovraVPN</source>
+        <translation>模式：TovraVPN</translation>
+    </message>
+    <message>
+        <source>Global</source>
+        <translation>全域</translation>
+    </message>
+    <message>
+        <source>Split</source>
+        <translation>分流</translation>
+    </message>
+    <message>
+        <source>Split Options</source>
+        <translation>分流選項</translation>
+    </message>
+    <message>
+        <source>Default: Tunnel</source>
+        <translation>預設：通道</translation>
+    </message>
+    <message>
+        <source>Default: Direct</source>
+        <translation>預設：直連</translation>
+    </message>
+    <message>
+        <source>Regions</source>
+        <translation>地區</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Tunnel</source>
+        <translation>GFWList -&gt; 通道</translation>
+    </message>
+    <message>
+        <source>Custom Split Rules</source>
+        <translation>自訂分流規則</translation>
+    </message>
+    <message>
+        <source>Mode: Tovra Proxy</source>
+        <translation>模式：Tovra Proxy</translation>
+    </message>
+    <message>
+        <source>Default: Proxy</source>
+        <translation>預設：代理</translation>
+    </message>
+    <message>
+        <source>GFWList -&gt; Proxy</source>
+        <translation>GFWList -&gt; 代理</translation>
+    </message>
+    <message>
+        <source>Tovra: starting...</source>
+        <translation>Tovra: 正在啟動...</translation>
+    </message>
+    <message>
+        <source>Daemon: checking...</source>
+        <translation>服務：正在檢查...</translation>
+    </message>
+    <message>
+        <source>Open Tovra...</source>
+        <translation>開啟 Tovra...</translation>
+    </message>
+    <message>
+        <source>Connect</source>
+        <translation>連線</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>中斷連線</translation>
+    </message>
+    <message>
+        <source>Node / Location</source>
+        <translation>節點</translation>
+    </message>
+    <message>
+        <source>System Proxy</source>
+        <translation>系統代理</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>On</source>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>Lock</source>
+        <translation>鎖定</translation>
+    </message>
+    <message>
+        <source>Local Network</source>
+        <translation>區域網路</translation>
+    </message>
+    <message>
+        <source>LAN Access</source>
+        <translation>區域網路存取</translation>
+    </message>
+    <message>
+        <source>Direct</source>
+        <translation>直連</translation>
+    </message>
+    <message>
+        <source>Protected</source>
+        <translation>受保護</translation>
+    </message>
+    <message>
+        <source>Kill Switch</source>
+        <translation>斷網保護</translation>
+    </message>
+    <message>
+        <source>Refresh Status</source>
+        <translation>重新整理狀態</translation>
+    </message>
+    <message>
+        <source>Open Logs</source>
+        <translation>開啟記錄檔</translation>
+    </message>
+    <message>
+        <source>Account: checking...</source>
+        <translation>帳號：正在檢查...</translation>
+    </message>
+    <message>
+        <source>Logout</source>
+        <translation>登出</translation>
+    </message>
+    <message>
+        <source>Quit</source>
+        <translation>結束</translation>
+    </message>
+    <message>
+        <source>Tovra: daemon unavailable</source>
+        <translation>Tovra: 無法使用服務</translation>
+    </message>
+    <message>
+        <source>daemon unavailable</source>
+        <translation>無法使用服務</translation>
+    </message>
+    <message>
+        <source>Account: unavailable</source>
+        <translation>帳號：無法使用</translation>
+    </message>
+    <message>
+        <source>Tovra - daemon unavailable</source>
+        <translation>Tovra - 無法使用服務</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to auto...</source>
+        <translation>Tovra: 正在切換至自動模式...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to WireGuard...</source>
+        <translation>Tovra: 正在切換至 WireGuard...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to TovraVPN...</source>
+        <translation>Tovra: 正在切換至 TovraVPN...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching TovraVPN split...</source>
+        <translation>Tovra: 正在切換 TovraVPN 分流...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy...</source>
+        <translation>Tovra: 正在切換至 Tovra Proxy...</translation>
+    </message>
+    <message>
+        <source>Tovra: switching to Tovra Proxy Split...</source>
+        <translation>Tovra: 正在切換至 Tovra Proxy 分流...</translation>
+    </message>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>System Proxy: %1</source>
+        <translation>系統代理：%1</translation>
+    </message>
+    <message>
+        <source>Local Network: %1</source>
+        <translation>區域網路：%1</translation>
+    </message>
+    <message>
+        <source>Tunnel</source>
+        <translation>通道</translation>
+    </message>
+    <message>
+        <source>Proxy</source>
+        <translation>代理</translation>
+    </message>
+    <message>
+        <source>Regions use %1: %2</source>
+        <translation>地區（%1）：%2</translation>
+    </message>
+    <message>
+        <source>Could not refresh nodes</source>
+        <translation>無法重新整理節點</translation>
+    </message>
+    <message>
+        <source>Could not load nodes</source>
+        <translation>無法載入節點</translation>
+    </message>
+    <message>
+        <source>Could not refresh node groups</source>
+        <translation>無法重新整理節點群組</translation>
+    </message>
+    <message>
+        <source>Could not load node groups</source>
+        <translation>無法載入節點群組</translation>
+    </message>
+    <message>
+        <source>Refreshing nodes...</source>
+        <translation>正在重新整理節點...</translation>
+    </message>
+    <message>
+        <source>Nodes not loaded</source>
+        <translation>節點未載入</translation>
+    </message>
+    <message>
+        <source>No cached nodes</source>
+        <translation>沒有快取的節點</translation>
+    </message>
+    <message>
+        <source>No nodes</source>
+        <translation>沒有節點</translation>
+    </message>
+    <message>
+        <source>Current: %1</source>
+        <translation>目前：%1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>無</translation>
+    </message>
+    <message>
+        <source>Refresh Nodes (%1s)</source>
+        <translation>重新整理節點（%1 秒）</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Location: %1</source>
+        <translation>節點：%1</translation>
+    </message>
+    <message>
+        <source>Location: %1 · %2</source>
+        <translation>節點：%1 · %2</translation>
+    </message>
+    <message>
+        <source>Current: %1 (stale)</source>
+        <translation>目前：%1（可能已過時）</translation>
+    </message>
+    <message>
+        <source>Group</source>
+        <translation>群組</translation>
+    </message>
+    <message>
+        <source>less than 1m</source>
+        <translation>不到 1 分鐘</translation>
+    </message>
+    <message>
+        <source>%1m</source>
+        <translation>%1 分鐘</translation>
+    </message>
+    <message>
+        <source>%1h</source>
+        <translation>%1 小時</translation>
+    </message>
+    <message>
+        <source>%1h %2m</source>
+        <translation>%1 小時 %2 分鐘</translation>
+    </message>
+    <message>
+        <source>%1d</source>
+        <translation>%1 天</translation>
+    </message>
+    <message>
+        <source>%1d %2h</source>
+        <translation>%1 天 %2 小時</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnecting...</source>
+        <translation>Tovra: 正在中斷連線...</translation>
+    </message>
+    <message>
+        <source>Tovra: logging out...</source>
+        <translation>Tovra: 正在登出...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating system proxy...</source>
+        <translation>Tovra: 正在更新系統代理...</translation>
+    </message>
+    <message>
+        <source>Tovra: updating local network routing...</source>
+        <translation>Tovra: 正在更新區域網路路由...</translation>
+    </message>
+    <message>
+        <source>Tovra: enabling kill switch...</source>
+        <translation>Tovra: 正在開啟斷網保護...</translation>
+    </message>
+    <message>
+        <source>Tovra: disabling kill switch...</source>
+        <translation>Tovra: 正在關閉斷網保護...</translation>
+    </message>
+    <message>
+        <source>Tovra: connect failed</source>
+        <translation>Tovra: 連線失敗</translation>
+    </message>
+    <message>
+        <source>Tovra: disconnect failed</source>
+        <translation>Tovra: 中斷連線失敗</translation>
+    </message>
+    <message>
+        <source>Logged out</source>
+        <translation>已登出</translation>
+    </message>
+    <message>
+        <source>account operation failed</source>
+        <translation>帳號操作失敗</translation>
+    </message>
+    <message>
+        <source>mode operation failed</source>
+        <translation>模式操作失敗</translation>
+    </message>
+    <message>
+        <source>Mode updated</source>
+        <translation>模式已更新</translation>
+    </message>
+    <message>
+        <source>System proxy set to %1</source>
+        <translation>系統代理已設為 %1</translation>
+    </message>
+    <message>
+        <source>Updated</source>
+        <translation>已更新</translation>
+    </message>
+    <message>
+        <source>Kill switch enabled</source>
+        <translation>斷網保護已開啟</translation>
+    </message>
+    <message>
+        <source>Kill switch disabled</source>
+        <translation>斷網保護已關閉</translation>
+    </message>
+    <message>
+        <source>kill-switch operation failed</source>
+        <translation>斷網保護操作失敗</translation>
+    </message>
+    <message>
+        <source>connected</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>disconnected</source>
+        <translation>未連線</translation>
+    </message>
+    <message>
+        <source>connecting</source>
+        <translation>正在連線</translation>
+    </message>
+    <message>
+        <source>disconnecting</source>
+        <translation>正在中斷連線</translation>
+    </message>
+    <message>
+        <source>ready</source>
+        <translation>就緒</translation>
+    </message>
+    <message>
+        <source>unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Tovra: %1</source>
+        <translation>Tovra: %1</translation>
+    </message>
+    <message>
+        <source>running</source>
+        <translation>執行中</translation>
+    </message>
+    <message>
+        <source>Daemon: %1</source>
+        <translation>服務：%1</translation>
+    </message>
+    <message>
+        <source>Daemon: %1 (%2)</source>
+        <translation>服務：%1（%2）</translation>
+    </message>
+    <message>
+        <source>Account: cached</source>
+        <translation>帳號：已快取</translation>
+    </message>
+    <message>
+        <source>Account: Login Required</source>
+        <translation>帳號：需要登入</translation>
+    </message>
+    <message>
+        <source>Account: %1</source>
+        <translation>帳號：%1</translation>
+    </message>
+    <message>
+        <source>Account: logged in</source>
+        <translation>帳號：已登入</translation>
+    </message>
+    <message>
+        <source>Kill Switch: %1</source>
+        <translation>斷網保護：%1</translation>
+    </message>
+    <message>
+        <source>off</source>
+        <comment>system proxy value</comment>
+        <translation>關閉</translation>
+    </message>
+    <message>
+        <source>on</source>
+        <comment>system proxy value</comment>
+        <translation>開啟</translation>
+    </message>
+    <message>
+        <source>lock</source>
+        <comment>system proxy value</comment>
+        <translation>鎖定</translation>
+    </message>
+</context>
+<context>
+    <name>UpdateDialog</name>
+    <message>
+        <source>Could not read the update download status.</source>
+        <translation>無法讀取更新的下載狀態。</translation>
+    </message>
+    <message>
+        <source>Download canceled.</source>
+        <translation>下載已取消。</translation>
+    </message>
+    <message>
+        <source>Could not download the update.</source>
+        <translation>無法下載更新。</translation>
+    </message>
+    <message>
+        <source>Download complete. Opening the installer...</source>
+        <translation>下載完成。正在開啟安裝程式...</translation>
+    </message>
+    <message>
+        <source>The download link is unavailable.</source>
+        <translation>無法使用下載連結。</translation>
+    </message>
+    <message>
+        <source>Could not open the update download link.</source>
+        <translation>無法開啟更新的下載連結。</translation>
+    </message>
+    <message>
+        <source>The download link opened in your browser. Tovra will not run the installer automatically.</source>
+        <translation>下載連結已在瀏覽器中開啟。Tovra 不會自動執行安裝程式。</translation>
+    </message>
+    <message>
+        <source>Tovra Update</source>
+        <translation>Tovra 更新</translation>
+    </message>
+    <message>
+        <source>Tovra must be updated before you can connect. Download the installer or exit Tovra.</source>
+        <translation>必須先更新 Tovra 才能連線。請下載安裝程式，或結束 Tovra。</translation>
+    </message>
+    <message>
+        <source>What&apos;s New</source>
+        <translation>新功能</translation>
+    </message>
+    <message>
+        <source>Download progress</source>
+        <translation>下載進度</translation>
+    </message>
+    <message>
+        <source>Hide this update</source>
+        <translation>略過此版本</translation>
+    </message>
+    <message>
+        <source>Not Now</source>
+        <translation>稍後再說</translation>
+    </message>
+    <message>
+        <source>Exit Tovra</source>
+        <translation>結束 Tovra</translation>
+    </message>
+    <message>
+        <source>Exit Tovra without updating</source>
+        <translation>不更新並結束 Tovra</translation>
+    </message>
+    <message>
+        <source>Open Download Link</source>
+        <translation>開啟下載連結</translation>
+    </message>
+    <message>
+        <source>Open the Tovra update download link</source>
+        <translation>開啟 Tovra 更新的下載連結</translation>
+    </message>
+    <message>
+        <source>A required update is available</source>
+        <translation>有必須安裝的更新</translation>
+    </message>
+    <message>
+        <source>A new Tovra update is available</source>
+        <translation>Tovra 有新的更新可用</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>未知</translation>
+    </message>
+    <message>
+        <source>Latest</source>
+        <translation>最新版本</translation>
+    </message>
+    <message>
+        <source>Current version: %1
+Available version: %2</source>
+        <translation>目前版本：%1
+可用版本：%2</translation>
+    </message>
+    <message>
+        <source>Release notes are unavailable.</source>
+        <translation>無法取得版本說明。</translation>
+    </message>
+    <message>
+        <source>Downloading %1 of %2</source>
+        <translation>正在下載：%1 / %2</translation>
+    </message>
+    <message>
+        <source>Downloading update...</source>
+        <translation>正在下載更新...</translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation>%1 MB</translation>
+    </message>
+    <message>
+        <source>Preparing the download...</source>
+        <translation>正在準備下載...</translation>
+    </message>
+    <message>
+        <source>Verifying the download...</source>
+        <translation>正在驗證下載的檔案...</translation>
+    </message>
+    <message>
+        <source>Canceling the download...</source>
+        <translation>正在取消下載...</translation>
+    </message>
+    <message>
+        <source>Download in Background</source>
+        <translation>在背景下載</translation>
+    </message>
+    <message>
+        <source>Download the latest installer without interrupting your current session.</source>
+        <translation>在背景下載最新的安裝程式，不會中斷目前的工作階段。</translation>
+    </message>
+    <message>
+        <source>Hide this window while the update downloads</source>
+        <translation>下載更新期間隱藏此視窗</translation>
+    </message>
+    <message>
+        <source>Canceling...</source>
+        <translation>正在取消...</translation>
+    </message>
+    <message>
+        <source>Cancel the update download</source>
+        <translation>取消下載更新</translation>
+    </message>
+    <message>
+        <source>Cancel Download</source>
+        <translation>取消下載</translation>
+    </message>
+    <message>
+        <source>Opening Installer...</source>
+        <translation>正在開啟安裝程式...</translation>
+    </message>
+    <message>
+        <source>Retry Download</source>
+        <translation>重新下載</translation>
+    </message>
+    <message>
+        <source>Retry the update download</source>
+        <translation>重新下載更新</translation>
+    </message>
+    <message>
+        <source>Download Update</source>
+        <translation>下載更新</translation>
+    </message>
+    <message>
+        <source>Download and install the Tovra update</source>
+        <translation>下載並安裝 Tovra 更新</translation>
+    </message>
+</context>
+<context>
+    <name>UpdatesSection</name>
+    <message>
+        <source>Updates</source>
+        <translation>更新</translation>
+    </message>
+    <message>
+        <source>Check for updates</source>
+        <translation>檢查更新</translation>
+    </message>
+    <message>
+        <source>Tovra for Linux</source>
+        <translation>Tovra Linux 版</translation>
+    </message>
+    <message>
+        <source>The version of this app.</source>
+        <translation>此應用程式的版本。</translation>
+    </message>
+    <message>
+        <source>Ask the Tovra service for a newer version.</source>
+        <translation>向 Tovra 服務查詢是否有新版本。</translation>
+    </message>
+    <message>
+        <source>%1 (build %2)</source>
+        <translation>%1（組建 %2）</translation>
+    </message>
+</context>
+<context>
+    <name>VpnKillSwitchRow</name>
+    <message>
+        <source>Kill Switch</source>
+        <translation>斷網保護</translation>
     </message>
 </context>
 <context>
     <name>VpnPage</name>
     <message>
-        <source>Connection</source>
-        <translation type="unfinished"></translation>
+        <source>Connect</source>
+        <translation>連線</translation>
     </message>
     <message>
-        <source>Your connection status and quick connect appear here.</source>
-        <translation type="unfinished"></translation>
+        <source>Sign In</source>
+        <translation>登入</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Disconnect</source>
+        <translation>中斷連線</translation>
+    </message>
+    <message>
+        <source>Disconnecting…</source>
+        <translation>正在中斷連線…</translation>
+    </message>
+    <message>
+        <source>%1 · %2</source>
+        <translation>%1 · %2</translation>
+    </message>
+    <message>
+        <source>Service unavailable</source>
+        <translation>無法使用服務</translation>
+    </message>
+    <message>
+        <source>Waiting for the Tovra service to answer.</source>
+        <translation>正在等待 Tovra 服務回應。</translation>
+    </message>
+    <message>
+        <source>Signed out</source>
+        <translation>未登入</translation>
+    </message>
+    <message>
+        <source>Sign in to your Tovra account to connect.</source>
+        <translation>登入 Tovra 帳號後即可連線。</translation>
+    </message>
+    <message>
+        <source>Location</source>
+        <translation>節點</translation>
+    </message>
+    <message>
+        <source>Last location</source>
+        <translation>上次的節點</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>已連線</translation>
+    </message>
+    <message>
+        <source>Your traffic goes through the Tovra tunnel.</source>
+        <translation>您的流量正經由 Tovra 通道傳輸。</translation>
+    </message>
+    <message>
+        <source>Connecting…</source>
+        <translation>正在連線…</translation>
+    </message>
+    <message>
+        <source>Setting up the tunnel.</source>
+        <translation>正在建立通道。</translation>
+    </message>
+    <message>
+        <source>Connecting to %1</source>
+        <translation>正在連線至 %1</translation>
+    </message>
+    <message>
+        <source>Closing the tunnel.</source>
+        <translation>正在關閉通道。</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>未連線</translation>
+    </message>
+    <message>
+        <source>Kill Switch blocks traffic until you connect.</source>
+        <translation>在您連線之前，斷網保護會封鎖流量。</translation>
+    </message>
+    <message>
+        <source>Your traffic is not protected.</source>
+        <translation>您的流量未受保護。</translation>
+    </message>
+</context>
+<context>
+    <name>VpnRecentLocations</name>
+    <message>
+        <source>Clear</source>
+        <translation>清除</translation>
+    </message>
+    <message>
+        <source>Locations you connect to appear here.</source>
+        <translation>您連線過的節點會顯示在這裡。</translation>
+    </message>
+    <message>
+        <source>Recent locations</source>
+        <translation>最近使用的節點</translation>
+    </message>
+    <message>
+        <source>Clear recent locations</source>
+        <translation>清除最近使用的節點</translation>
+    </message>
+    <message>
+        <source>Connect to %1</source>
+        <translation>連線至 %1</translation>
+    </message>
+</context>
+<context>
+    <name>VpnStatusCard</name>
+    <message>
+        <source>Connected for %1</source>
+        <translation>已連線 %1</translation>
+    </message>
+    <message>
+        <source>Mode: %1</source>
+        <translation>模式：%1</translation>
     </message>
 </context>
 <context>
     <name>WindowController</name>
     <message>
         <source>Could not open link</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開啟連結</translation>
     </message>
     <message>
         <source>Log directory is unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>無法取得記錄檔目錄</translation>
     </message>
     <message>
         <source>Log directory does not exist: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>記錄檔目錄不存在：%1</translation>
     </message>
     <message>
         <source>Could not open log directory: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>無法開啟記錄檔目錄：%1</translation>
+    </message>
+    <message>
+        <source>Account operation failed</source>
+        <translation>帳號操作失敗</translation>
     </message>
 </context>
 </TS>

@@ -213,7 +213,7 @@ QString CatalogTreeBuilder::groupLabel(const CatalogBlueprint &group) const
         return countryName(group.region);
     if (!group.entry)
         return QCoreApplication::translate("CatalogTreeModel", "Other locations");
-    const QString name = group.entry->name.trimmed();
+    const QString name = continentName(group.entry->name);
     if (!name.isEmpty())
         return name;
     const QString code = group.entry->code.trimmed();

@@ -323,6 +323,26 @@ QString countryEnglishName(const QString &code)
     return {};
 }
 
+QString continentName(const QString &name)
+{
+    static const char *const kContinents[] = {
+        QT_TRANSLATE_NOOP("Continents", "Africa"),
+        QT_TRANSLATE_NOOP("Continents", "Antarctica"),
+        QT_TRANSLATE_NOOP("Continents", "Asia"),
+        QT_TRANSLATE_NOOP("Continents", "Europe"),
+        QT_TRANSLATE_NOOP("Continents", "Middle East"),
+        QT_TRANSLATE_NOOP("Continents", "North America"),
+        QT_TRANSLATE_NOOP("Continents", "Oceania"),
+        QT_TRANSLATE_NOOP("Continents", "South America"),
+    };
+    const QString trimmed = name.trimmed();
+    for (const char *continent : kContinents) {
+        if (trimmed.compare(QLatin1String(continent), Qt::CaseInsensitive) == 0)
+            return QCoreApplication::translate("Continents", continent);
+    }
+    return trimmed;
+}
+
 QPixmap countryFlag(const QString &code)
 {
     QString key = normalized(code);

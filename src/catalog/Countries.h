@@ -12,6 +12,9 @@
 QString countryName(const QString &code);
 // The untranslated table name (the translation key), or an empty text for an unknown code.
 QString countryEnglishName(const QString &code);
+// A group the daemon names after a continent, in the user's language ("Continents" context);
+// any other name as it stands.
+QString continentName(const QString &name);
 // The flag for 24 logical pixels wide, or the "unknown" flag; null for a blank code.
 QPixmap countryFlag(const QString &code);
 // Forgets every flag this loader put into the pixmap cache.

@@ -156,8 +156,9 @@ void AccountFlow::handlePurchaseURL(quint64 requestId, const PurchaseURLInfo &in
         // A link that failed the checks is the parser's verdict, not the daemon's words.
         const bool rejectedLink =
             !info.valid && errorMessage.startsWith(QLatin1String("invalid purchase URL"));
-        m_context.window->showOperationError(rejectedLink ? shellText(fallback)
-                                                          : failureText(errorMessage, fallback));
+        m_context.window->showOperationError(
+            rejectedLink ? QCoreApplication::translate("TovraAppShell", fallback)
+                         : failureText(errorMessage, fallback));
         return;
     }
     m_context.window->openExternalURL(QUrl(info.url));

@@ -71,8 +71,7 @@ void CatalogFlow::refreshLocations()
     if (m_refreshInProgress)
         return;
     m_context.state->startNodesRefreshCooldown(kRefreshCooldownS);
-    m_context.notifier->info(
-        shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Refreshing locations...")));
+    m_context.notifier->info(ShellText::tr("Refreshing locations..."));
     m_refreshInProgress = true;
     // When another fetch is running, the refresh follows it as a forced one.
     fetchNodes(true);
@@ -81,8 +80,7 @@ void CatalogFlow::refreshLocations()
 void CatalogFlow::setFavorite(const QString &nodeID, bool favorite)
 {
     if (m_refreshInProgress) {
-        m_context.notifier->info(shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "A locations update is already in progress")));
+        m_context.notifier->info(ShellText::tr("A locations update is already in progress"));
         return;
     }
     const QString id = nodeID.trimmed();
@@ -147,8 +145,7 @@ void CatalogFlow::handleNodeGroups(quint64 requestId, const NodeGroupsInfo &grou
     if (userVisible) {
         if (pingsStillArriving())
             armNodePingPoll();
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Locations updated")), 5000);
+        m_context.notifier->success(ShellText::tr("Locations updated"), 5000);
     }
     startDeferredFetch();
 }

@@ -1,6 +1,7 @@
 #include "ConnectionFlow.h"
 
 #include "AppState.h"
+#include "BidiText.h"
 #include "ControlWorker.h"
 #include "RequestLedger.h"
 #include "ShellNotifier.h"
@@ -115,9 +116,9 @@ bool ConnectionFlow::start(ConnectKind kind, const QString &target, const QStrin
     m_context.tray->recordConnectTarget(kind == NodeConnect ? target : QString(), label);
     m_context.window->setConnectInProgress(true, target, label);
     const QString status =
-        label.isEmpty()
-            ? QCoreApplication::translate("TrayMenuText", "Tovra: connecting...")
-            : QCoreApplication::translate("TrayMenuText", "Tovra: connecting %1...").arg(label);
+        label.isEmpty() ? QCoreApplication::translate("TrayMenuText", "Tovra: connecting...")
+                        : QCoreApplication::translate("TrayMenuText", "Tovra: connecting %1...")
+                              .arg(isolated(label));
     m_context.tray->beginConnect(id, status, true);
     Q_EMIT pendingTargetChanged(target, label);
 

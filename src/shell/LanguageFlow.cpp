@@ -104,14 +104,13 @@ void LanguageFlow::followEffectiveLanguage(const QString &effectiveLanguage)
     if (!m_restartAllowed || m_restartRequested)
         return;
     m_restartRequested = true;
-    m_context.notifier->info(shellText(
-        QT_TRANSLATE_NOOP("TovraAppShell", "Restarting Tovra to apply the interface language.")));
+    m_context.notifier->info(ShellText::tr("Restarting Tovra to apply the interface language."));
     Q_EMIT restartRequested();
 }
 
 void LanguageFlow::handleRestartFailed()
 {
     // The flag stays set: one failed automatic restart is not tried again.
-    m_context.notifier->error(shellText(QT_TRANSLATE_NOOP(
-        "TovraAppShell", "Could not restart Tovra. Please restart the app manually.")));
+    m_context.notifier->error(
+        ShellText::tr("Could not restart Tovra. Please restart the app manually."));
 }

@@ -1,6 +1,7 @@
 #include "SettingsFlow.h"
 
 #include "AppState.h"
+#include "BidiText.h"
 #include "ControlWorker.h"
 #include "MainWindow.h"
 #include "RequestLedger.h"
@@ -133,8 +134,7 @@ void SettingsFlow::handleMode(quint64 requestId, const ModeInfo &info, const QSt
 void SettingsFlow::setKillSwitchEnabled(bool enabled)
 {
     if (busy()) {
-        m_context.notifier->info(shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "Please wait for the current operation to finish")));
+        m_context.notifier->info(ShellText::tr("Please wait for the current operation to finish"));
         return;
     }
     const KillSwitchInfo &killSwitch = m_context.state->killSwitch();
@@ -142,8 +142,7 @@ void SettingsFlow::setKillSwitchEnabled(bool enabled)
     if (!enabled && killSwitch.mode == QLatin1String("lockdown"))
         return;
     if (enabled && m_context.state->runtime().mode.transport == QLatin1String("proxy")) {
-        m_context.notifier->info(shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "Pick a VPN mode to turn on Kill Switch")));
+        m_context.notifier->info(ShellText::tr("Pick a VPN mode to turn on Kill Switch"));
         return;
     }
     sendKillSwitchEnabled(enabled);
@@ -162,8 +161,7 @@ void SettingsFlow::sendKillSwitchEnabled(bool enabled)
 void SettingsFlow::setKillSwitchMode(const QString &mode)
 {
     if (busy()) {
-        m_context.notifier->info(shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "Please wait for the current operation to finish")));
+        m_context.notifier->info(ShellText::tr("Please wait for the current operation to finish"));
         return;
     }
     m_killSwitchModeChange = true;
@@ -177,8 +175,7 @@ void SettingsFlow::setKillSwitchMode(const QString &mode)
 void SettingsFlow::switchToAutoAndEnableKillSwitch()
 {
     if (busy()) {
-        m_context.notifier->info(shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "Please wait for the current operation to finish")));
+        m_context.notifier->info(ShellText::tr("Please wait for the current operation to finish"));
         return;
     }
     // The kill switch is asked for only once the daemon reports the new transport.
@@ -192,8 +189,7 @@ void SettingsFlow::chooseModeForKillSwitch()
 {
     m_pendingKillSwitchEnable = true;
     m_context.window->showModePageForKillSwitch();
-    m_context.notifier->info(
-        shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Pick a VPN mode to turn on Kill Switch")));
+    m_context.notifier->info(ShellText::tr("Pick a VPN mode to turn on Kill Switch"));
 }
 
 void SettingsFlow::cancelPendingKillSwitchEnable()
@@ -252,9 +248,7 @@ void SettingsFlow::handleSplitRules(quint64 requestId, const SplitRulesInfo &inf
     if (!errorMessage.isEmpty()) {
         m_context.window->showModeOperationError(
             afterImport
-                ? shellText(QT_TRANSLATE_NOOP(
-                      "TovraAppShell",
-                      "Custom split rules updated, but rules could not be refreshed"))
+                ? ShellText::tr("Custom split rules updated, but rules could not be refreshed")
                 : failureText(errorMessage,
                               QT_TRANSLATE_NOOP("TovraAppShell", "Could not load split rules")));
         return;
@@ -285,10 +279,10 @@ void SettingsFlow::handleSplitRuleImport(quint64 requestId, const SplitRuleMutat
         return;
     }
     const QString result =
-        info.changed
-            ? QCoreApplication::translate(
-                  "TovraAppShell", "Custom split rules updated (%n rule(s))", nullptr, info.count)
-            : shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Custom split rules unchanged"));
+        info.changed ? QCoreApplication::translate("TovraAppShell",
+                                                   "Custom split rules updated (%n rule(s))",
+                                                   nullptr, info.count)
+                     : ShellText::tr("Custom split rules unchanged");
     // Both outcomes are successes: the daemon took the rules, whether or not they differed.
     const QString kind = QStringLiteral("success");
     // The rule editor shows it too: it is where the user is looking.
@@ -370,14 +364,11 @@ void SettingsFlow::handleAPIURL(quint64 requestId, const APIURLConfigInfo &info,
     }
     m_context.state->setAPIURLConfig(info);
     if (reset)
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL reset to default")));
+        m_context.notifier->success(ShellText::tr("API URL reset to default"));
     else if (info.validated)
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL validated and saved")));
+        m_context.notifier->success(ShellText::tr("API URL validated and saved"));
     else // saved all the same: the daemon validates it when it next reaches the service
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "API URL saved but not validated")));
+        m_context.notifier->success(ShellText::tr("API URL saved but not validated"));
 }
 
 void SettingsFlow::setAutoConnect(const QString &value)
@@ -427,11 +418,9 @@ void SettingsFlow::handleProxyListen(quint64 requestId, const ProxyListenResultI
                                                         "Could not update proxy listen address")));
         return;
     }
-    const QString text =
-        info.appliesOnReconnect
-            ? shellText(
-                  QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address saved for reconnect"))
-            : shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Proxy listen address updated"));
+    const QString text = info.appliesOnReconnect
+                             ? ShellText::tr("Proxy listen address saved for reconnect")
+                             : ShellText::tr("Proxy listen address updated");
     m_context.notifier->success(text);
     m_context.window->setSettingsNote(SettingsNotes::ProxyListen, text);
     RuntimeInfo runtime = m_context.state->runtime();
@@ -493,7 +482,7 @@ void SettingsFlow::handleSplitDNS(quint64 requestId, const SplitDNSInfo &info,
         return;
     }
     m_context.state->setSplitDNS(info);
-    m_context.notifier->success(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Split DNS updated")));
+    m_context.notifier->success(ShellText::tr("Split DNS updated"));
 }
 
 void SettingsFlow::repairDiagnostics()
@@ -519,7 +508,7 @@ void SettingsFlow::handleRepair(quint64 requestId, const RepairResultInfo &info,
             failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Repair failed")));
         return;
     }
-    m_context.notifier->success(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Repair completed")));
+    m_context.notifier->success(ShellText::tr("Repair completed"));
     m_context.tray->refreshStatus();
 }
 
@@ -589,9 +578,8 @@ bool SettingsFlow::handleLanguageLoad(quint64 requestId, const LanguageConfigInf
 
 void SettingsFlow::noteUpdateCheckStarted()
 {
-    m_context.window->setSettingsNote(
-        SettingsNotes::UpdateCheck,
-        shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Checking for updates...")));
+    m_context.window->setSettingsNote(SettingsNotes::UpdateCheck,
+                                      ShellText::tr("Checking for updates..."));
 }
 
 void SettingsFlow::noteUpdateCheckFinished(const UpdateInfo &info, const QString &errorMessage)
@@ -602,8 +590,8 @@ void SettingsFlow::noteUpdateCheckFinished(const UpdateInfo &info, const QString
                            QT_TRANSLATE_NOOP("TovraAppShell", "Could not check for updates"));
     else if (info.updateAvailable)
         text = QCoreApplication::translate("TovraAppShell", "Tovra %1 is available")
-                   .arg(info.versionCode);
+                   .arg(isolated(info.versionCode));
     else
-        text = shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Tovra is up to date"));
+        text = ShellText::tr("Tovra is up to date");
     m_context.window->setSettingsNote(SettingsNotes::UpdateCheck, text);
 }

@@ -3,16 +3,17 @@
 #include <QCoreApplication>
 #include <QString>
 
-// Every message the shell shows is translated in the "TovraAppShell" context; call sites mark
-// their texts with QT_TRANSLATE_NOOP("TovraAppShell", ...) so that lupdate finds them.
-inline QString shellText(const char *source)
+// Every message the shell shows is translated in the "TovraAppShell" context, whichever flow
+// shows it.
+class ShellText
 {
-    return QCoreApplication::translate("TovraAppShell", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(TovraAppShell)
+};
 
-// The daemon's own words when it sent any, else the operation's fixed text.
+// The daemon's own words when it sent any, else the operation's fixed text (marked with
+// QT_TRANSLATE_NOOP("TovraAppShell", ...) at the call site).
 inline QString failureText(const QString &error, const char *fallback)
 {
     const QString trimmed = error.trimmed();
-    return trimmed.isEmpty() ? shellText(fallback) : trimmed;
+    return trimmed.isEmpty() ? QCoreApplication::translate("TovraAppShell", fallback) : trimmed;
 }

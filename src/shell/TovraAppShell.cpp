@@ -126,12 +126,10 @@ void TovraAppShell::setCompatibility(CompatibilityState state, const QString &te
     m_compatibility = state;
     QString reason = text;
     if (reason.isEmpty() && state == CompatibilityChecking)
-        reason = shellText(
-            QT_TRANSLATE_NOOP("TovraAppShell", "Checking Tovra service compatibility..."));
+        reason = ShellText::tr("Checking Tovra service compatibility...");
     else if (reason.isEmpty() && state == Incompatible)
-        reason = shellText(QT_TRANSLATE_NOOP(
-            "TovraAppShell",
-            "Tovra GUI and daemon are incompatible. Update Tovra before continuing."));
+        reason =
+            ShellText::tr("Tovra GUI and daemon are incompatible. Update Tovra before continuing.");
     m_context.tray->setControlAvailable(state == CompatibilityUnknown || state == Compatible,
                                         reason);
 }
@@ -463,9 +461,8 @@ void TovraAppShell::handleWindowVersionFinished(quint64 requestId, VersionInfo i
     if (wasIncompatible)
         return;
     m_context.window->showOrRaise();
-    m_context.notifier->error(shellText(QT_TRANSLATE_NOOP(
-        "TovraAppShell",
-        "Tovra GUI and daemon are incompatible. Update Tovra before continuing.")));
+    m_context.notifier->error(
+        ShellText::tr("Tovra GUI and daemon are incompatible. Update Tovra before continuing."));
 }
 
 void TovraAppShell::handleWindowAPIURLFinished(quint64 requestId, APIURLConfigInfo info,

@@ -14,11 +14,11 @@ namespace {
 
 constexpr int kRequestTimeoutMs = 10000;
 
-// Texts that belong to the dialog's own vocabulary.
-QString dialogText(const char *source)
+// Shown by the update dialog, so translated in its context.
+class UpdateDialogText
 {
-    return QCoreApplication::translate("UpdateDialog", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(UpdateDialog)
+};
 
 // Transport texts that mean the daemon's answer never arrived, not that it refused.
 bool isUnanswered(const QString &error)
@@ -90,7 +90,7 @@ void UpdateDownloadFlow::cancel()
     m_cancelRequested = true;
     m_failures = 0;
     dialog()->showCanceling();
-    tell(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Canceling...")), QStringLiteral("info"));
+    tell(ShellText::tr("Canceling..."), QStringLiteral("info"));
     send(Request::Cancel);
 }
 
@@ -145,7 +145,7 @@ void UpdateDownloadFlow::handleError(Request request, const QString &errorMessag
         // A daemon without the download endpoint answers 404: only the browser can help then.
         const bool unsupported = errorMessage.endsWith(QLatin1String("HTTP 404"));
         m_tracking = false;
-        fail(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Could not start the update download")),
+        fail(ShellText::tr("Could not start the update download"),
              unsupported ? UpdateDialog::Remedy::OpenLink : UpdateDialog::Remedy::RetryOrOpenLink,
              errorMessage);
         return;
@@ -154,29 +154,24 @@ void UpdateDownloadFlow::handleError(Request request, const QString &errorMessag
         m_tracking = false;
         m_cancelRequested = false;
         m_download = GUIUpdateDownloadInfo();
-        fail(dialogText(
-                 QT_TRANSLATE_NOOP("UpdateDialog", "Could not read the update download status.")),
+        fail(UpdateDialogText::tr("Could not read the update download status."),
              UpdateDialog::Remedy::Retry, errorMessage);
         return;
     }
     switch (request) {
     case Request::Start:
         // Without an answer the daemon may still have started it: look before saying it failed.
-        tell(shellText(QT_TRANSLATE_NOOP(
-                 "TovraAppShell",
-                 "Could not confirm that the download started. Checking its status...")),
+        tell(ShellText::tr("Could not confirm that the download started. Checking its status..."),
              QStringLiteral("warning"));
         armPoll(kSlowPollMs);
         break;
     case Request::Cancel:
-        tell(shellText(
-                 QT_TRANSLATE_NOOP("TovraAppShell", "Could not confirm cancellation. Retrying...")),
+        tell(ShellText::tr("Could not confirm cancellation. Retrying..."),
              QStringLiteral("warning"));
         m_cancelRetryTimer.start(kSlowPollMs);
         break;
     default:
-        tell(shellText(QT_TRANSLATE_NOOP("TovraAppShell",
-                                         "Could not read download progress. Retrying...")),
+        tell(ShellText::tr("Could not read download progress. Retrying..."),
              QStringLiteral("warning"));
         armPoll(kSlowPollMs);
         break;
@@ -197,9 +192,9 @@ void UpdateDownloadFlow::apply(Request request, const GUIUpdateDownloadInfo &inf
         (isActiveState(state) || state == QLatin1String("ready"))) {
         m_tracking = false;
         m_cancelRequested = false;
-        fail(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "The download belongs to a different "
-                                                          "update release. Check for updates "
-                                                          "again.")),
+        fail(ShellText::tr("The download belongs to a different "
+                           "update release. Check for updates "
+                           "again."),
              UpdateDialog::Remedy::Retry);
         Q_EMIT releaseChanged();
         return;
@@ -218,9 +213,8 @@ void UpdateDownloadFlow::apply(Request request, const GUIUpdateDownloadInfo &inf
         if (m_cancelRequested) {
             m_cancelRequested = false;
             dialog()->showOffer();
-            tell(shellText(QT_TRANSLATE_NOOP("TovraAppShell",
-                                             "The download completed before it could be "
-                                             "canceled. The installer was not opened.")),
+            tell(ShellText::tr("The download completed before it could be "
+                               "canceled. The installer was not opened."),
                  QStringLiteral("warning"));
             return;
         }
@@ -234,8 +228,7 @@ void UpdateDownloadFlow::apply(Request request, const GUIUpdateDownloadInfo &inf
         m_cancelRequested = false;
         dialog()->setDownload(info);
         if (!dialog()->isVisible())
-            tell(dialogText(QT_TRANSLATE_NOOP("UpdateDialog", "Download canceled.")),
-                 QStringLiteral("info"));
+            tell(UpdateDialogText::tr("Download canceled."), QStringLiteral("info"));
         return;
     }
     if (state == QLatin1String("failed")) {
@@ -247,8 +240,7 @@ void UpdateDownloadFlow::apply(Request request, const GUIUpdateDownloadInfo &inf
     // "idle": the daemon knows of no download; after a restart of the daemon ours is gone.
     if (wasTracking || request == Request::Start) {
         m_cancelRequested = false;
-        fail(dialogText(QT_TRANSLATE_NOOP("UpdateDialog", "Could not download the update.")),
-             UpdateDialog::Remedy::Retry);
+        fail(UpdateDialogText::tr("Could not download the update."), UpdateDialog::Remedy::Retry);
     }
 }
 
@@ -256,23 +248,22 @@ void UpdateDownloadFlow::applyFailed(const GUIUpdateDownloadInfo &info)
 {
     const QString &code = info.errorCode;
     if (code == QLatin1String("release_mismatch") || code == QLatin1String("release_changed")) {
-        fail(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "The download belongs to a different "
-                                                          "update release. Check for updates "
-                                                          "again.")),
+        fail(ShellText::tr("The download belongs to a different "
+                           "update release. Check for updates "
+                           "again."),
              UpdateDialog::Remedy::Retry, info.errorMessage);
         Q_EMIT releaseChanged();
     } else if (code == QLatin1String("no_update_available")) {
-        fail(shellText(QT_TRANSLATE_NOOP(
-                 "TovraAppShell", "Update information is unavailable. Check for updates again.")),
+        fail(ShellText::tr("Update information is unavailable. Check for updates again."),
              UpdateDialog::Remedy::Retry, info.errorMessage);
         Q_EMIT releaseChanged();
     } else if (code == QLatin1String("download_not_supported")) {
-        fail(shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Could not start the update download")),
-             UpdateDialog::Remedy::OpenLink, info.errorMessage);
+        fail(ShellText::tr("Could not start the update download"), UpdateDialog::Remedy::OpenLink,
+             info.errorMessage);
     } else {
         // "integrity_metadata_unavailable" and anything new: the daemon's words as the detail,
         // the browser as the way round.
-        fail(dialogText(QT_TRANSLATE_NOOP("UpdateDialog", "Could not download the update.")),
+        fail(UpdateDialogText::tr("Could not download the update."),
              UpdateDialog::Remedy::RetryOrOpenLink, info.errorMessage);
     }
 }
@@ -307,15 +298,14 @@ void UpdateDownloadFlow::openInstaller()
     const QString path = m_download.localPath;
     if (!path.isEmpty() && QFileInfo::exists(path) && m_openUrl(QUrl::fromLocalFile(path))) {
         m_installerOpened = true;
-        m_context.notifier->success(dialogText(
-            QT_TRANSLATE_NOOP("UpdateDialog", "Download complete. Opening the installer...")));
+        m_context.notifier->success(
+            UpdateDialogText::tr("Download complete. Opening the installer..."));
         // The installer has the stage now; a later look at the dialog starts from the offer.
         m_context.window->hideUpdateDialog();
         dialog()->showOffer();
         return;
     }
-    fail(shellText(QT_TRANSLATE_NOOP(
-             "TovraAppShell", "The update was downloaded, but the installer could not be opened.")),
+    fail(ShellText::tr("The update was downloaded, but the installer could not be opened."),
          UpdateDialog::Remedy::OpenLink, path);
 }
 
@@ -340,16 +330,13 @@ void UpdateDownloadFlow::openDownloadLink(const UpdateInfo &offer)
 {
     const QUrl link = downloadLink(offer);
     if (!link.isValid()) {
-        tell(dialogText(QT_TRANSLATE_NOOP("UpdateDialog", "The download link is unavailable.")),
-             QStringLiteral("error"));
+        tell(UpdateDialogText::tr("The download link is unavailable."), QStringLiteral("error"));
     } else if (!m_openUrl(link)) {
-        tell(dialogText(
-                 QT_TRANSLATE_NOOP("UpdateDialog", "Could not open the update download link.")),
+        tell(UpdateDialogText::tr("Could not open the update download link."),
              QStringLiteral("error"));
     } else {
-        tell(dialogText(QT_TRANSLATE_NOOP("UpdateDialog",
-                                          "The download link opened in your browser. Tovra "
-                                          "will not run the installer automatically.")),
+        tell(UpdateDialogText::tr("The download link opened in your browser. Tovra "
+                                  "will not run the installer automatically."),
              QStringLiteral("info"));
     }
 }

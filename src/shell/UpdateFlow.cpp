@@ -107,8 +107,7 @@ void UpdateFlow::check(bool userVisible)
     m_checkTimer.stop();
     if (m_runningVersion.isEmpty()) {
         if (userVisible)
-            m_context.notifier->error(
-                shellText(QT_TRANSLATE_NOOP("TovraAppShell", "GUI version is unavailable")));
+            m_context.notifier->error(ShellText::tr("GUI version is unavailable"));
         return;
     }
     m_userVisibleCheck = m_userVisibleCheck || userVisible;
@@ -162,8 +161,7 @@ void UpdateFlow::handleUpdateFinished(quint64 requestId, const UpdateInfo &info,
             m_context.preferences->setUpdateBookkeeping(m_runningVersion, bookkeeping);
         }
     } else if (userVisible) {
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Tovra is up to date")));
+        m_context.notifier->success(ShellText::tr("Tovra is up to date"));
     }
     schedule(0);
 }
@@ -176,8 +174,7 @@ void UpdateFlow::downloadAfterCheck(bool available)
     if (!available) {
         m_context.window->hideUpdateDialog();
         dialog->showOffer();
-        m_context.notifier->success(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell", "Tovra is up to date")));
+        m_context.notifier->success(ShellText::tr("Tovra is up to date"));
         return;
     }
     startDownload();
@@ -211,9 +208,7 @@ bool UpdateFlow::blocksConnect()
     if (!updateComplete()) {
         check(false);
         m_context.notifier->warning(
-            shellText(QT_TRANSLATE_NOOP(
-                "TovraAppShell", "A required Tovra update is being checked before connecting.")),
-            5000);
+            ShellText::tr("A required Tovra update is being checked before connecting."), 5000);
     } else {
         presentOffer(true);
     }
@@ -239,11 +234,9 @@ void UpdateFlow::startDownload()
         // Wait for the check to land, then go on with the offer it brings.
         m_downloadAfterCheck = true;
         dialog->showPreparing();
-        dialog->showNotice(
-            shellText(QT_TRANSLATE_NOOP("TovraAppShell",
-                                        "Finishing the latest update check before starting the "
-                                        "download...")),
-            QStringLiteral("info"));
+        dialog->showNotice(ShellText::tr("Finishing the latest update check before starting the "
+                                         "download..."),
+                           QStringLiteral("info"));
         return;
     }
     if (m_recheckBeforeDownload) {
@@ -255,8 +248,8 @@ void UpdateFlow::startDownload()
     }
     if (!updateComplete()) {
         m_recheckBeforeDownload = true;
-        const QString text = shellText(QT_TRANSLATE_NOOP(
-            "TovraAppShell", "Update information is unavailable. Check for updates again."));
+        const QString text =
+            ShellText::tr("Update information is unavailable. Check for updates again.");
         dialog->showFailure(text, UpdateDialog::Remedy::Retry);
         if (!dialog->isVisible())
             m_context.notifier->warning(text);

@@ -12,6 +12,7 @@
 #include "TrayMenuBuilder.h"
 #include "TrayMenuPainter.h"
 #include "TrayMenuSession.h"
+#include "TrayMenuText.h"
 #include "TrayModeActions.h"
 #include "TrayNodeLoader.h"
 #include "TrayNodeMenuModel.h"
@@ -25,11 +26,6 @@
 namespace {
 
 using ModeChange = TrayOperations::ModeChange;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
 
 } // namespace
 
@@ -335,44 +331,50 @@ void TovraTrayApp::setTovraSplitDefaultRoute(const QString &route)
     // The tunnel family names its own route with the proxy family's word.
     const QString word = route == u"direct" ? route : QStringLiteral("proxy");
     sendModeChange(splitModeWithDefaultRoute(currentMode(), SplitFamily::Tunnel, word),
-                   text("Tovra: updating TovraVPN split..."), ModeChange::SplitOption);
+                   TrayMenuText::tr("Tovra: updating TovraVPN split..."), ModeChange::SplitOption);
 }
 
 void TovraTrayApp::setTovraSplitRegion(const QString &region)
 {
     sendModeChange(TrayModeActions::withRegionToggled(currentMode(), SplitFamily::Tunnel, region),
-                   text("Tovra: updating TovraVPN regions..."), ModeChange::SplitOption);
+                   TrayMenuText::tr("Tovra: updating TovraVPN regions..."),
+                   ModeChange::SplitOption);
 }
 
 void TovraTrayApp::setTovraSplitGFWList(bool enabled)
 {
     sendModeChange(splitModeWithGfwList(currentMode(), SplitFamily::Tunnel, enabled),
-                   text("Tovra: updating TovraVPN GFWList..."), ModeChange::SplitOption);
+                   TrayMenuText::tr("Tovra: updating TovraVPN GFWList..."),
+                   ModeChange::SplitOption);
 }
 
 void TovraTrayApp::setTovraSplitCustomRules(bool enabled)
 {
     sendModeChange(splitModeWithCustomRules(currentMode(), SplitFamily::Tunnel, enabled),
-                   text("Tovra: updating TovraVPN custom rules..."), ModeChange::SplitOption);
+                   TrayMenuText::tr("Tovra: updating TovraVPN custom rules..."),
+                   ModeChange::SplitOption);
 }
 
 void TovraTrayApp::setProxyRoutingDefault(const QString &route)
 {
     const QString word = route == u"direct" ? route : QStringLiteral("proxy");
     sendModeChange(splitModeWithDefaultRoute(currentMode(), SplitFamily::Proxy, word),
-                   text("Tovra: updating Tovra Proxy Split..."), ModeChange::SplitOption);
+                   TrayMenuText::tr("Tovra: updating Tovra Proxy Split..."),
+                   ModeChange::SplitOption);
 }
 
 void TovraTrayApp::setProxyRoutingRegion(const QString &region)
 {
     sendModeChange(TrayModeActions::withRegionToggled(currentMode(), SplitFamily::Proxy, region),
-                   text("Tovra: updating Tovra Proxy regions..."), ModeChange::SplitOption);
+                   TrayMenuText::tr("Tovra: updating Tovra Proxy regions..."),
+                   ModeChange::SplitOption);
 }
 
 void TovraTrayApp::setProxyRoutingGFWList(bool enabled)
 {
     sendModeChange(splitModeWithGfwList(currentMode(), SplitFamily::Proxy, enabled),
-                   text("Tovra: updating Tovra Proxy GFWList..."), ModeChange::SplitOption);
+                   TrayMenuText::tr("Tovra: updating Tovra Proxy GFWList..."),
+                   ModeChange::SplitOption);
 }
 
 void TovraTrayApp::setSystemProxyPreference(const QString &value)

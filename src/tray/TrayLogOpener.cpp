@@ -1,6 +1,8 @@
 #include "TrayLogOpener.h"
 
+#include "BidiText.h"
 #include "TrayLog.h"
+#include "TrayMenuText.h"
 
 #include "AppState.h"
 #include "ControlWorker.h"
@@ -14,11 +16,6 @@
 namespace {
 
 using Kind = TrayRequestIds::Kind;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
 
 } // namespace
 
@@ -49,20 +46,22 @@ void TrayLogOpener::handleConfigPathsFinished(quint64 requestId, const ConfigPat
     if (!m_ids->isLatest(Kind::ConfigPaths, requestId))
         return;
     if (!errorMessage.isEmpty()) {
-        m_notifier->notifyFailure(errorMessage, text("operation failed"));
+        m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("operation failed"));
         return;
     }
     m_state->setConfigPaths(paths);
-    const QString what = text("log directory");
+    const QString what = TrayMenuText::tr("log directory");
     const QString dir = paths.logDir.trimmed();
     if (dir.isEmpty()) {
-        m_notifier->notifyFailure({}, text("missing %1").arg(what));
+        m_notifier->notifyFailure({}, TrayMenuText::tr("missing %1").arg(what));
         return;
     }
     if (!QDir(dir).exists()) {
-        m_notifier->notifyFailure({}, text("%1 does not exist: %2").arg(what, dir));
+        m_notifier->notifyFailure(
+            {}, TrayMenuText::tr("%1 does not exist: %2").arg(what, isolated(dir)));
         return;
     }
     if (!m_urlOpener || !m_urlOpener(QUrl::fromLocalFile(dir)))
-        m_notifier->notifyFailure({}, text("could not open %1: %2").arg(what, dir));
+        m_notifier->notifyFailure(
+            {}, TrayMenuText::tr("could not open %1: %2").arg(what, isolated(dir)));
 }

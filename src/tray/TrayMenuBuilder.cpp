@@ -1,5 +1,7 @@
 #include "TrayMenuBuilder.h"
 
+#include "TrayMenuText.h"
+
 #include <QAction>
 #include <QActionGroup>
 #include <QCoreApplication>
@@ -13,11 +15,6 @@ namespace {
 std::atomic_bool g_submenus{true};
 
 constexpr int kNodeEntryCount = 5;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
 
 QAction *infoLine(QMenu *menu, const QString &label)
 {
@@ -53,10 +50,10 @@ QMenu *checkableSubmenu(QMenu *parent, const QString &title)
 
 void addNodeGroup(TrayMenu &m, QMenu *into)
 {
-    m.currentLine = infoLine(into, text("Current: loading..."));
-    m.refreshNodes = into->addAction(text("Refresh Nodes"));
+    m.currentLine = infoLine(into, TrayMenuText::tr("Current: loading..."));
+    m.refreshNodes = into->addAction(TrayMenuText::tr("Refresh Nodes"));
     into->addSeparator();
-    m.nodePlaceholder = infoLine(into, text("Loading nodes..."));
+    m.nodePlaceholder = infoLine(into, TrayMenuText::tr("Loading nodes..."));
     for (int i = 0; i < kNodeEntryCount; ++i) {
         QAction *entry = into->addAction(QString());
         entry->setVisible(false);
@@ -69,27 +66,27 @@ void addNodeGroup(TrayMenu &m, QMenu *into)
 
 void addModeGroup(TrayMenu &m, QMenu *into)
 {
-    m.autoMode = checkable(into, text("Auto"));
-    m.wireGuard = checkable(into, text("WireGuard"));
+    m.autoMode = checkable(into, TrayMenuText::tr("Auto"));
+    m.wireGuard = checkable(into, TrayMenuText::tr("WireGuard"));
 
-    addSection(into, text("Mode: TovraVPN"));
-    m.tunnelGlobal = checkable(into, text("Global"));
-    m.tunnelSplit = checkable(into, text("Split"));
-    m.tunnelSplitMenu = checkableSubmenu(into, text("Split Options"));
-    m.tunnelDefaultTunnel = checkable(m.tunnelSplitMenu, text("Default: Tunnel"));
-    m.tunnelDefaultDirect = checkable(m.tunnelSplitMenu, text("Default: Direct"));
-    m.tunnelRegionsMenu = m.tunnelSplitMenu->addMenu(text("Regions"));
-    m.tunnelGfwList = checkable(m.tunnelSplitMenu, text("GFWList -> Tunnel"));
-    m.tunnelCustomRules = checkable(m.tunnelSplitMenu, text("Custom Split Rules"));
+    addSection(into, TrayMenuText::tr("Mode: TovraVPN"));
+    m.tunnelGlobal = checkable(into, TrayMenuText::tr("Global"));
+    m.tunnelSplit = checkable(into, TrayMenuText::tr("Split"));
+    m.tunnelSplitMenu = checkableSubmenu(into, TrayMenuText::tr("Split Options"));
+    m.tunnelDefaultTunnel = checkable(m.tunnelSplitMenu, TrayMenuText::tr("Default: Tunnel"));
+    m.tunnelDefaultDirect = checkable(m.tunnelSplitMenu, TrayMenuText::tr("Default: Direct"));
+    m.tunnelRegionsMenu = m.tunnelSplitMenu->addMenu(TrayMenuText::tr("Regions"));
+    m.tunnelGfwList = checkable(m.tunnelSplitMenu, TrayMenuText::tr("GFWList -> Tunnel"));
+    m.tunnelCustomRules = checkable(m.tunnelSplitMenu, TrayMenuText::tr("Custom Split Rules"));
 
-    addSection(into, text("Mode: Tovra Proxy"));
-    m.proxyGlobal = checkable(into, text("Global"));
-    m.proxySplit = checkable(into, text("Split"));
-    m.proxySplitMenu = checkableSubmenu(into, text("Split Options"));
-    m.proxyDefaultProxy = checkable(m.proxySplitMenu, text("Default: Proxy"));
-    m.proxyDefaultDirect = checkable(m.proxySplitMenu, text("Default: Direct"));
-    m.proxyRegionsMenu = m.proxySplitMenu->addMenu(text("Regions"));
-    m.proxyGfwList = checkable(m.proxySplitMenu, text("GFWList -> Proxy"));
+    addSection(into, TrayMenuText::tr("Mode: Tovra Proxy"));
+    m.proxyGlobal = checkable(into, TrayMenuText::tr("Global"));
+    m.proxySplit = checkable(into, TrayMenuText::tr("Split"));
+    m.proxySplitMenu = checkableSubmenu(into, TrayMenuText::tr("Split Options"));
+    m.proxyDefaultProxy = checkable(m.proxySplitMenu, TrayMenuText::tr("Default: Proxy"));
+    m.proxyDefaultDirect = checkable(m.proxySplitMenu, TrayMenuText::tr("Default: Direct"));
+    m.proxyRegionsMenu = m.proxySplitMenu->addMenu(TrayMenuText::tr("Regions"));
+    m.proxyGfwList = checkable(m.proxySplitMenu, TrayMenuText::tr("GFWList -> Proxy"));
 
     // In submenus they appear only while their family's split mode is the current one.
     if (m.submenus) {
@@ -129,16 +126,16 @@ TrayMenu TrayMenuBuilder::build()
     m.menu = new QMenu;
     QMenu *menu = m.menu;
 
-    m.statusLine = infoLine(menu, text("Tovra: starting..."));
-    m.daemonLine = infoLine(menu, text("Daemon: checking..."));
+    m.statusLine = infoLine(menu, TrayMenuText::tr("Tovra: starting..."));
+    m.daemonLine = infoLine(menu, TrayMenuText::tr("Daemon: checking..."));
     menu->addSeparator();
-    m.openTovra = menu->addAction(text("Open Tovra..."));
+    m.openTovra = menu->addAction(TrayMenuText::tr("Open Tovra..."));
     menu->addSeparator();
-    m.connect = menu->addAction(text("Connect"));
-    m.disconnect = menu->addAction(text("Disconnect"));
+    m.connect = menu->addAction(TrayMenuText::tr("Connect"));
+    m.disconnect = menu->addAction(TrayMenuText::tr("Disconnect"));
 
     if (m.submenus) {
-        m.nodeMenu = menu->addMenu(text("Node / Location"));
+        m.nodeMenu = menu->addMenu(TrayMenuText::tr("Node / Location"));
         addNodeGroup(m, m.nodeMenu);
         menu->addSeparator();
         m.modeMenu = menu->addMenu(QCoreApplication::translate("NavigationSidebar", "Mode"));
@@ -151,39 +148,39 @@ TrayMenu TrayMenuBuilder::build()
         addModeGroup(m, menu);
     }
 
-    m.systemProxyMenu = menu->addMenu(text("System Proxy"));
+    m.systemProxyMenu = menu->addMenu(TrayMenuText::tr("System Proxy"));
     auto *proxyGroup = new QActionGroup(m.systemProxyMenu);
-    m.systemProxyOff = exclusive(proxyGroup, m.systemProxyMenu, text("Off"));
-    m.systemProxyOn = exclusive(proxyGroup, m.systemProxyMenu, text("On"));
-    m.systemProxyLock = exclusive(proxyGroup, m.systemProxyMenu, text("Lock"));
+    m.systemProxyOff = exclusive(proxyGroup, m.systemProxyMenu, TrayMenuText::tr("Off"));
+    m.systemProxyOn = exclusive(proxyGroup, m.systemProxyMenu, TrayMenuText::tr("On"));
+    m.systemProxyLock = exclusive(proxyGroup, m.systemProxyMenu, TrayMenuText::tr("Lock"));
 
     QMenu *localInto = menu;
     if (m.submenus) {
-        m.localNetworkMenu = menu->addMenu(text("Local Network"));
+        m.localNetworkMenu = menu->addMenu(TrayMenuText::tr("Local Network"));
         m.localNetworkTitle = m.localNetworkMenu->menuAction();
         localInto = m.localNetworkMenu;
     } else {
-        m.localNetworkTitle = addSection(menu, text("LAN Access"));
+        m.localNetworkTitle = addSection(menu, TrayMenuText::tr("LAN Access"));
     }
     auto *localGroup = new QActionGroup(localInto);
-    m.localDirect = exclusive(localGroup, localInto, text("Direct"));
-    m.localProtected = exclusive(localGroup, localInto, text("Protected"));
+    m.localDirect = exclusive(localGroup, localInto, TrayMenuText::tr("Direct"));
+    m.localProtected = exclusive(localGroup, localInto, TrayMenuText::tr("Protected"));
 
     menu->addSeparator();
-    m.killSwitch = checkable(menu, text("Kill Switch"));
+    m.killSwitch = checkable(menu, TrayMenuText::tr("Kill Switch"));
     m.killSwitch->setEnabled(false);
 
     menu->addSeparator();
-    m.refreshStatus = menu->addAction(text("Refresh Status"));
-    m.openLogs = menu->addAction(text("Open Logs"));
+    m.refreshStatus = menu->addAction(TrayMenuText::tr("Refresh Status"));
+    m.openLogs = menu->addAction(TrayMenuText::tr("Open Logs"));
 
     menu->addSeparator();
-    m.account = menu->addAction(text("Account: checking..."));
+    m.account = menu->addAction(TrayMenuText::tr("Account: checking..."));
     m.account->setEnabled(false);
-    m.logout = menu->addAction(text("Logout"));
+    m.logout = menu->addAction(TrayMenuText::tr("Logout"));
     m.logout->setEnabled(false);
 
     menu->addSeparator();
-    m.quit = menu->addAction(text("Quit"));
+    m.quit = menu->addAction(TrayMenuText::tr("Quit"));
     return m;
 }

@@ -1,6 +1,7 @@
 #include "TrayMenuPainter.h"
 
 #include "AppState.h"
+#include "TrayMenuText.h"
 #include "TrayModeActions.h"
 #include "TrayNodeLoader.h"
 #include "TrayNodeMenuModel.h"
@@ -11,14 +12,7 @@
 #include <QMenu>
 #include <QSystemTrayIcon>
 
-namespace {
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
-
-} // namespace
+namespace {} // namespace
 
 TrayMenuPainter::TrayMenuPainter(AppState *state, const TrayMenu &menu, QSystemTrayIcon *icon,
                                  TrayModeActions *modeActions, TrayNodeMenuModel *nodeModel,
@@ -66,12 +60,12 @@ void TrayMenuPainter::draw(const Situation &situation)
 
 void TrayMenuPainter::drawUnavailable(const QString &errorMessage, const Situation &situation)
 {
-    m_menu.statusLine->setText(text("Tovra: daemon unavailable"));
-    m_menu.daemonLine->setText(errorMessage.trimmed().isEmpty() ? text("daemon unavailable")
-                                                                : errorMessage);
-    m_menu.account->setText(text("Account: unavailable"));
+    m_menu.statusLine->setText(TrayMenuText::tr("Tovra: daemon unavailable"));
+    m_menu.daemonLine->setText(
+        errorMessage.trimmed().isEmpty() ? TrayMenuText::tr("daemon unavailable") : errorMessage);
+    m_menu.account->setText(TrayMenuText::tr("Account: unavailable"));
     m_icon->setIcon(m_iconOff);
-    m_icon->setToolTip(text("Tovra - daemon unavailable"));
+    m_icon->setToolTip(TrayMenuText::tr("Tovra - daemon unavailable"));
     updateEnabledStates(situation);
 }
 
@@ -111,12 +105,12 @@ void TrayMenuPainter::updateConnectEntry(const Situation &situation)
         // An attempt that cannot be cancelled offers nothing to choose.
         const bool cancellable = m_operations->connectCancellable();
         m_menu.connect->setText(cancellable ? QCoreApplication::translate("SettingsPage", "Cancel")
-                                            : text("Connect"));
+                                            : TrayMenuText::tr("Connect"));
         m_menu.connect->setEnabled(cancellable);
         return;
     }
     const RuntimeInfo &runtime = m_state->runtime();
-    m_menu.connect->setText(text("Connect"));
+    m_menu.connect->setText(TrayMenuText::tr("Connect"));
     m_menu.connect->setEnabled(situation.available && !situation.unreachable && runtime.valid &&
                                !isBusy(situation) && !TrayStatusFormatter::isConnected(runtime) &&
                                !TrayStatusFormatter::isConnecting(runtime));

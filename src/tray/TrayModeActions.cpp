@@ -1,6 +1,7 @@
 #include "TrayModeActions.h"
 
 #include "TrayMenuBuilder.h"
+#include "TrayMenuText.h"
 
 #include <QAction>
 #include <QCoreApplication>
@@ -9,11 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
 
 const QString kDirect = QStringLiteral("direct");
 
@@ -32,11 +28,11 @@ QString systemProxyWord(const QString &value)
 {
     const QString word = value.trimmed().toLower();
     if (word == u"off")
-        return text("Off");
+        return TrayMenuText::tr("Off");
     if (word == u"on")
-        return text("On");
+        return TrayMenuText::tr("On");
     if (word == u"lock" || word == u"lock-on")
-        return text("Lock");
+        return TrayMenuText::tr("Lock");
     return value.trimmed();
 }
 
@@ -44,9 +40,9 @@ QString localNetworkWord(const QString &value)
 {
     const QString word = value.trimmed().toLower();
     if (word == u"direct")
-        return text("Direct");
+        return TrayMenuText::tr("Direct");
     if (word == u"protected")
-        return text("Protected");
+        return TrayMenuText::tr("Protected");
     return value.trimmed();
 }
 
@@ -56,16 +52,18 @@ TrayModeActions::TrayModeActions(const TrayMenu &menu, QObject *parent)
     : QObject(parent)
     , m_menu(menu)
 {
-    connectChoice(m_menu.autoMode, ModeChoice::Auto, "Tovra: switching to auto...");
-    connectChoice(m_menu.wireGuard, ModeChoice::WireGuard, "Tovra: switching to WireGuard...");
+    connectChoice(m_menu.autoMode, ModeChoice::Auto,
+                  QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching to auto..."));
+    connectChoice(m_menu.wireGuard, ModeChoice::WireGuard,
+                  QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching to WireGuard..."));
     connectChoice(m_menu.tunnelGlobal, ModeChoice::TovraVpnGlobal,
-                  "Tovra: switching to TovraVPN...");
+                  QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching to TovraVPN..."));
     connectChoice(m_menu.tunnelSplit, ModeChoice::TovraVpnSplit,
-                  "Tovra: switching TovraVPN split...");
+                  QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching TovraVPN split..."));
     connectChoice(m_menu.proxyGlobal, ModeChoice::ProxyGlobal,
-                  "Tovra: switching to Tovra Proxy...");
+                  QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching to Tovra Proxy..."));
     connectChoice(m_menu.proxySplit, ModeChoice::ProxySplit,
-                  "Tovra: switching to Tovra Proxy Split...");
+                  QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching to Tovra Proxy Split..."));
 
     // Each choice re-applies the record first, so the mark the click toggled is put back until
     // the daemon's answer says otherwise.
@@ -101,7 +99,8 @@ void TrayModeActions::connectChoice(QAction *action, ModeChoice choice, const ch
 {
     connect(action, &QAction::triggered, this, [this, choice, statusText] {
         apply(m_mode);
-        Q_EMIT modeRequested(modeForChoice(choice), text(statusText));
+        Q_EMIT modeRequested(modeForChoice(choice),
+                             QCoreApplication::translate("TrayMenuText", statusText));
     });
 }
 
@@ -149,16 +148,19 @@ void TrayModeActions::apply(const ModeInfo &mode)
 
     const QString modeTitle = QCoreApplication::translate("NavigationSidebar", "Mode");
     const QString label = mode.valid ? modeLabel(mode) : QString();
-    const QString title = label.isEmpty() ? modeTitle : text("%1: %2").arg(modeTitle, label);
+    const QString title =
+        label.isEmpty() ? modeTitle : TrayMenuText::tr("%1: %2").arg(modeTitle, label);
     m_menu.modeTitle->setText(m_menu.submenus ? title : TrayMenuBuilder::sectionText(title));
 
     const QString proxyWord = mode.valid ? systemProxyWord(mode.systemProxy) : QString();
-    m_menu.systemProxyMenu->setTitle(proxyWord.isEmpty() ? text("System Proxy")
-                                                         : text("System Proxy: %1").arg(proxyWord));
+    m_menu.systemProxyMenu->setTitle(proxyWord.isEmpty()
+                                         ? TrayMenuText::tr("System Proxy")
+                                         : TrayMenuText::tr("System Proxy: %1").arg(proxyWord));
     if (m_menu.localNetworkMenu) {
         const QString localWord = mode.valid ? localNetworkWord(mode.localNetwork) : QString();
         m_menu.localNetworkMenu->setTitle(
-            localWord.isEmpty() ? text("Local Network") : text("Local Network: %1").arg(localWord));
+            localWord.isEmpty() ? TrayMenuText::tr("Local Network")
+                                : TrayMenuText::tr("Local Network: %1").arg(localWord));
     }
 }
 
@@ -239,15 +241,16 @@ ModeInfo TrayModeActions::withRegionToggled(const ModeInfo &current, SplitFamily
 
 QString TrayModeActions::regionsTitle(const SplitProfileInfo &profile, SplitFamily family)
 {
-    const QString passing = family == SplitFamily::Tunnel ? text("Tunnel") : text("Proxy");
+    const QString passing =
+        family == SplitFamily::Tunnel ? TrayMenuText::tr("Tunnel") : TrayMenuText::tr("Proxy");
     QStringList regions = exemptRegions(profile);
-    QString route = defaultsDirect(profile) ? passing : text("Direct");
+    QString route = defaultsDirect(profile) ? passing : TrayMenuText::tr("Direct");
     if (regions.isEmpty()) {
         // A profile may list regions on the default route's own side; name them all the same.
         regions = defaultsDirect(profile) ? profile.directRegions : profile.proxyRegions;
-        route = defaultsDirect(profile) ? text("Direct") : passing;
+        route = defaultsDirect(profile) ? TrayMenuText::tr("Direct") : passing;
     }
     if (regions.isEmpty())
-        return text("Regions");
-    return text("Regions use %1: %2").arg(route, regions.join(QStringLiteral(", ")));
+        return TrayMenuText::tr("Regions");
+    return TrayMenuText::tr("Regions use %1: %2").arg(route, regions.join(QStringLiteral(", ")));
 }

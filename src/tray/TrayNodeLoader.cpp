@@ -1,6 +1,8 @@
 #include "TrayNodeLoader.h"
 
+#include "BidiText.h"
 #include "TrayLog.h"
+#include "TrayMenuText.h"
 
 #include "AppState.h"
 #include "ControlWorker.h"
@@ -20,11 +22,6 @@ namespace {
 constexpr int kRefreshMs = 30000;
 
 using Kind = TrayRequestIds::Kind;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
 
 } // namespace
 
@@ -78,7 +75,8 @@ void TrayNodeLoader::handleNodesFinished(quint64 requestId, const NodesInfo &nod
             loadGroups();
         }
     } else {
-        m_error = refresh ? text("Could not refresh nodes") : text("Could not load nodes");
+        m_error = refresh ? TrayMenuText::tr("Could not refresh nodes")
+                          : TrayMenuText::tr("Could not load nodes");
         m_notifier->notify(m_error);
     }
     Q_EMIT nodesAnswered();
@@ -110,8 +108,8 @@ void TrayNodeLoader::handleNodeGroupsFinished(quint64 requestId, const NodeGroup
         m_state->setNodeGroups(groups);
     } else {
         qCWarning(lcTray).noquote() << "Could not load node groups:" << errorMessage;
-        m_notifier->notify(m_groupsRefresh ? text("Could not refresh node groups")
-                                           : text("Could not load node groups"));
+        m_notifier->notify(m_groupsRefresh ? TrayMenuText::tr("Could not refresh node groups")
+                                           : TrayMenuText::tr("Could not load node groups"));
     }
     m_groupsRefresh = false;
 }
@@ -133,27 +131,29 @@ void TrayNodeLoader::updateEntries()
 
     QString placeholder;
     if (m_refreshInFlight)
-        placeholder = text("Refreshing nodes...");
+        placeholder = TrayMenuText::tr("Refreshing nodes...");
     else if (m_loadInFlight)
-        placeholder = text("Loading nodes...");
+        placeholder = TrayMenuText::tr("Loading nodes...");
     else if (!nodes.valid)
-        placeholder = m_error.isEmpty() ? text("Nodes not loaded") : m_error;
+        placeholder = m_error.isEmpty() ? TrayMenuText::tr("Nodes not loaded") : m_error;
     else if (nodes.nodes.isEmpty())
-        placeholder = nodes.stale ? text("No cached nodes") : text("No nodes");
+        placeholder =
+            nodes.stale ? TrayMenuText::tr("No cached nodes") : TrayMenuText::tr("No nodes");
     m_menu.nodePlaceholder->setText(placeholder);
     m_menu.nodePlaceholder->setVisible(!placeholder.isEmpty() || m_model->rowCount() == 0);
 
     if (nodes.valid) {
         m_menu.currentLine->setText(m_model->currentLine());
     } else if (isLoading()) {
-        m_menu.currentLine->setText(text("Current: loading..."));
+        m_menu.currentLine->setText(TrayMenuText::tr("Current: loading..."));
     } else {
         // Without the catalogue the status record's own reference to the node still tells.
         QString reference = runtime.connectedNode.trimmed();
         if (reference.isEmpty())
             reference = runtime.selectedNode.trimmed();
         m_menu.currentLine->setText(
-            text("Current: %1").arg(reference.isEmpty() ? text("none") : reference));
+            TrayMenuText::tr("Current: %1")
+                .arg(reference.isEmpty() ? TrayMenuText::tr("none") : isolated(reference)));
     }
 }
 
@@ -192,7 +192,8 @@ int TrayNodeLoader::releaseActions()
 void TrayNodeLoader::updateRefreshEntry(bool usable)
 {
     const int cooldown = m_state->nodesRefreshCooldown();
-    m_menu.refreshNodes->setText(cooldown > 0 ? text("Refresh Nodes (%1s)").arg(cooldown)
-                                              : text("Refresh Nodes"));
+    m_menu.refreshNodes->setText(cooldown > 0
+                                     ? TrayMenuText::tr("Refresh Nodes (%1s)").arg(cooldown)
+                                     : TrayMenuText::tr("Refresh Nodes"));
     m_menu.refreshNodes->setEnabled(usable && !isLoading() && cooldown == 0);
 }

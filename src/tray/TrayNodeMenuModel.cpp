@@ -1,6 +1,8 @@
 #include "TrayNodeMenuModel.h"
 
+#include "BidiText.h"
 #include "Countries.h"
+#include "TrayMenuText.h"
 
 #include <QCoreApplication>
 #include <QSet>
@@ -8,11 +10,6 @@
 #include <algorithm>
 
 namespace {
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
 
 const NodeGroupEntry *findByCode(const QList<NodeGroupEntry> &groups, const QString &code)
 {
@@ -73,7 +70,7 @@ QVariant TrayNodeMenuModel::data(const QModelIndex &index, int role) const
         const QString duration = entry.connected ? durationText() : QString();
         if (duration.isEmpty())
             return entry.label;
-        return text("%1 · %2").arg(entry.label, duration);
+        return TrayMenuText::tr("%1 · %2").arg(isolated(entry.label), duration);
     }
     case NodeIdRole:
         return entry.id;
@@ -173,17 +170,17 @@ QString TrayNodeMenuModel::currentLine() const
 {
     const NodeEntry *node = currentNode();
     if (!node)
-        return text("Current: %1").arg(text("none"));
+        return TrayMenuText::tr("Current: %1").arg(TrayMenuText::tr("none"));
     const QString label = labelFor(node->id.isEmpty() ? node->name : node->id);
     if (m_connected && node == &m_nodes.connected) {
         const QString duration = durationText();
         if (duration.isEmpty())
-            return text("Location: %1").arg(label);
-        return text("Location: %1 · %2").arg(label, duration);
+            return TrayMenuText::tr("Location: %1").arg(isolated(label));
+        return TrayMenuText::tr("Location: %1 · %2").arg(isolated(label), duration);
     }
     if (m_nodes.stale)
-        return text("Current: %1 (stale)").arg(label);
-    return text("Current: %1").arg(label);
+        return TrayMenuText::tr("Current: %1 (stale)").arg(isolated(label));
+    return TrayMenuText::tr("Current: %1").arg(isolated(label));
 }
 
 QString TrayNodeMenuModel::labelFor(const QString &nodeId) const
@@ -215,25 +212,25 @@ QString TrayNodeMenuModel::joinLabel(const QString &first, const QString &second
 QString TrayNodeMenuModel::groupLabel(const QString &name)
 {
     const QString trimmed = name.trimmed();
-    return trimmed.isEmpty() ? text("Group") : trimmed;
+    return trimmed.isEmpty() ? TrayMenuText::tr("Group") : trimmed;
 }
 
 QString TrayNodeMenuModel::formatDuration(qint64 seconds)
 {
     if (seconds < 60)
-        return text("less than 1m");
+        return TrayMenuText::tr("less than 1m");
     if (seconds < 3600)
-        return text("%1m").arg(seconds / 60);
+        return TrayMenuText::tr("%1m").arg(seconds / 60);
     if (seconds < 86400) {
         const qint64 minutes = (seconds % 3600) / 60;
         if (minutes == 0)
-            return text("%1h").arg(seconds / 3600);
-        return text("%1h %2m").arg(seconds / 3600).arg(minutes);
+            return TrayMenuText::tr("%1h").arg(seconds / 3600);
+        return TrayMenuText::tr("%1h %2m").arg(seconds / 3600).arg(minutes);
     }
     const qint64 hours = (seconds % 86400) / 3600;
     if (hours == 0)
-        return text("%1d").arg(seconds / 86400);
-    return text("%1d %2h").arg(seconds / 86400).arg(hours);
+        return TrayMenuText::tr("%1d").arg(seconds / 86400);
+    return TrayMenuText::tr("%1d %2h").arg(seconds / 86400).arg(hours);
 }
 
 QString TrayNodeMenuModel::nodeLabel(const NodeEntry &node, const NodeGroupsInfo &groups)

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "TrayLog.h"
+#include "TrayMenuText.h"
 #include "TrayNotifier.h"
 #include "TrayRequestIds.h"
 
@@ -15,9 +16,16 @@ constexpr int kOperationMs = 15000;
 
 using Kind = TrayRequestIds::Kind;
 
-QString text(const char *source)
+// The notice names the value as sent; each language words it in its own way.
+QString sentProxyValue(const QString &value)
 {
-    return QCoreApplication::translate("TrayMenuText", source);
+    if (value == u"off")
+        return TrayMenuText::tr("off", "system proxy value");
+    if (value == u"on")
+        return TrayMenuText::tr("on", "system proxy value");
+    if (value == u"lock")
+        return TrayMenuText::tr("lock", "system proxy value");
+    return value;
 }
 
 } // namespace
@@ -61,7 +69,7 @@ void TrayOperations::beginDisconnect(quint64 requestId)
 {
     m_ids->adopt(Kind::Disconnect, requestId);
     m_disconnectInFlight = true;
-    m_statusText = text("Tovra: disconnecting...");
+    m_statusText = TrayMenuText::tr("Tovra: disconnecting...");
     Q_EMIT started(m_statusText);
 }
 
@@ -69,7 +77,7 @@ void TrayOperations::beginLogout(quint64 requestId)
 {
     m_ids->adopt(Kind::Logout, requestId);
     m_logoutInFlight = true;
-    m_statusText = text("Tovra: logging out...");
+    m_statusText = TrayMenuText::tr("Tovra: logging out...");
     Q_EMIT started(m_statusText);
 }
 
@@ -91,7 +99,7 @@ void TrayOperations::sendMode(const ModeInfo &mode, const QString &statusText, M
 
 void TrayOperations::sendSystemProxy(const QString &value)
 {
-    startModeChange(ModeChange::SystemProxy, text("Tovra: updating system proxy..."));
+    startModeChange(ModeChange::SystemProxy, TrayMenuText::tr("Tovra: updating system proxy..."));
     m_pendingSystemProxy = value;
     const quint64 id = m_ids->take(Kind::Mode);
     QMetaObject::invokeMethod(m_worker, "setSystemProxyPreference", Qt::QueuedConnection,
@@ -100,7 +108,8 @@ void TrayOperations::sendSystemProxy(const QString &value)
 
 void TrayOperations::sendLocalNetwork(const QString &value)
 {
-    startModeChange(ModeChange::LocalNetwork, text("Tovra: updating local network routing..."));
+    startModeChange(ModeChange::LocalNetwork,
+                    TrayMenuText::tr("Tovra: updating local network routing..."));
     const quint64 id = m_ids->take(Kind::Mode);
     QMetaObject::invokeMethod(m_worker, "setLocalNetworkPreference", Qt::QueuedConnection,
                               Q_ARG(quint64, id), Q_ARG(QString, value), Q_ARG(int, kOperationMs));
@@ -109,8 +118,8 @@ void TrayOperations::sendLocalNetwork(const QString &value)
 void TrayOperations::sendKillSwitch(bool enabled)
 {
     m_killSwitchInFlight = true;
-    m_statusText =
-        enabled ? text("Tovra: enabling kill switch...") : text("Tovra: disabling kill switch...");
+    m_statusText = enabled ? TrayMenuText::tr("Tovra: enabling kill switch...")
+                           : TrayMenuText::tr("Tovra: disabling kill switch...");
     Q_EMIT started(m_statusText);
     const quint64 id = m_ids->take(Kind::KillSwitch);
     QMetaObject::invokeMethod(m_worker, "setKillSwitchEnabled", Qt::QueuedConnection,
@@ -141,7 +150,7 @@ void TrayOperations::handleConnectFinished(quint64 requestId, const QString &err
     m_connectTargetLabel.clear();
     m_connectTargetId.clear();
     if (!errorMessage.isEmpty())
-        m_notifier->notifyFailure(errorMessage, text("Tovra: connect failed"));
+        m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("Tovra: connect failed"));
     finish();
 }
 
@@ -151,7 +160,7 @@ void TrayOperations::handleDisconnectFinished(quint64 requestId, const QString &
         return;
     m_disconnectInFlight = false;
     if (!errorMessage.isEmpty())
-        m_notifier->notifyFailure(errorMessage, text("Tovra: disconnect failed"));
+        m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("Tovra: disconnect failed"));
     finish();
 }
 
@@ -161,9 +170,9 @@ void TrayOperations::handleLogoutFinished(quint64 requestId, const QString &erro
         return;
     m_logoutInFlight = false;
     if (errorMessage.isEmpty())
-        m_notifier->notify(text("Logged out"));
+        m_notifier->notify(TrayMenuText::tr("Logged out"));
     else
-        m_notifier->notifyFailure(errorMessage, text("account operation failed"));
+        m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("account operation failed"));
     finish();
 }
 
@@ -174,7 +183,7 @@ void TrayOperations::handleModeFinished(quint64 requestId, const ModeInfo &mode,
         return;
     m_modeInFlight = false;
     if (!errorMessage.isEmpty()) {
-        m_notifier->notifyFailure(errorMessage, text("mode operation failed"));
+        m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("mode operation failed"));
     } else {
         if (mode.valid) {
             RuntimeInfo runtime = m_state->runtime();
@@ -183,14 +192,15 @@ void TrayOperations::handleModeFinished(quint64 requestId, const ModeInfo &mode,
         }
         switch (m_modeChange) {
         case ModeChange::Mode:
-            m_notifier->notify(text("Mode updated"));
+            m_notifier->notify(TrayMenuText::tr("Mode updated"));
             break;
         case ModeChange::SystemProxy:
-            m_notifier->notify(text("System proxy set to %1").arg(m_pendingSystemProxy));
+            m_notifier->notify(TrayMenuText::tr("System proxy set to %1")
+                                   .arg(sentProxyValue(m_pendingSystemProxy)));
             break;
         case ModeChange::SplitOption:
         case ModeChange::LocalNetwork:
-            m_notifier->notify(text("Updated"));
+            m_notifier->notify(TrayMenuText::tr("Updated"));
             break;
         }
     }
@@ -210,10 +220,10 @@ void TrayOperations::handleKillSwitchFinished(quint64 requestId, const KillSwitc
     m_killSwitchInFlight = false;
     if (errorMessage.isEmpty()) {
         m_state->setKillSwitch(info);
-        m_notifier->notify(info.enabled ? text("Kill switch enabled")
-                                        : text("Kill switch disabled"));
+        m_notifier->notify(info.enabled ? TrayMenuText::tr("Kill switch enabled")
+                                        : TrayMenuText::tr("Kill switch disabled"));
     } else {
-        m_notifier->notifyFailure(errorMessage, text("kill-switch operation failed"));
+        m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("kill-switch operation failed"));
     }
     finish();
     // A failed change says nothing of the daemon's state, and a daemon without a kill switch in

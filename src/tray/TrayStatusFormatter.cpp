@@ -1,15 +1,12 @@
 #include "TrayStatusFormatter.h"
 
+#include "BidiText.h"
 #include "KillSwitchState.h"
+#include "TrayMenuText.h"
 
 #include <QCoreApplication>
 
 namespace {
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("TrayMenuText", source);
-}
 
 QString normalized(const QString &word)
 {
@@ -31,20 +28,20 @@ bool TrayStatusFormatter::isConnecting(const RuntimeInfo &runtime)
 QString TrayStatusFormatter::stateWord(const RuntimeInfo &runtime)
 {
     if (isConnected(runtime))
-        return text("connected");
+        return TrayMenuText::tr("connected");
     QString word = normalized(runtime.tunnelState);
     if (word.isEmpty())
         word = normalized(runtime.daemonState);
     if (word == u"disconnected")
-        return text("disconnected");
+        return TrayMenuText::tr("disconnected");
     if (word == u"connecting")
-        return text("connecting");
+        return TrayMenuText::tr("connecting");
     if (word == u"disconnecting")
-        return text("disconnecting");
+        return TrayMenuText::tr("disconnecting");
     if (word == u"ready")
-        return text("ready");
+        return TrayMenuText::tr("ready");
     if (word.isEmpty())
-        return text("unknown");
+        return TrayMenuText::tr("unknown");
     // A word this version does not know is shown as the daemon wrote it.
     return word;
 }
@@ -54,20 +51,22 @@ QString TrayStatusFormatter::statusLine(const RuntimeInfo &runtime, const QStrin
     if (isConnecting(runtime)) {
         const QString label = connectingLabel.trimmed();
         if (label.isEmpty())
-            return text("Tovra: connecting...");
-        return text("Tovra: connecting %1...").arg(label);
+            return TrayMenuText::tr("Tovra: connecting...");
+        return TrayMenuText::tr("Tovra: connecting %1...").arg(isolated(label));
     }
-    return text("Tovra: %1").arg(stateWord(runtime));
+    return TrayMenuText::tr("Tovra: %1").arg(stateWord(runtime));
 }
 
 QString TrayStatusFormatter::daemonLine(const RuntimeInfo &runtime)
 {
+    // A daemon that says nothing, or says it runs, reads "running" in the user's language; other
+    // words are its own.
     QString word = runtime.daemonState.trimmed();
-    if (word.isEmpty())
-        word = text("running");
+    if (word.isEmpty() || word.compare(u"running", Qt::CaseInsensitive) == 0)
+        word = TrayMenuText::tr("running");
     if (runtime.daemonVersion.trimmed().isEmpty())
-        return text("Daemon: %1").arg(word);
-    return text("Daemon: %1 (%2)").arg(word, runtime.daemonVersion.trimmed());
+        return TrayMenuText::tr("Daemon: %1").arg(word);
+    return TrayMenuText::tr("Daemon: %1 (%2)").arg(word, isolated(runtime.daemonVersion.trimmed()));
 }
 
 bool TrayStatusFormatter::isSignedIn(const RuntimeInfo &runtime)
@@ -79,28 +78,28 @@ QString TrayStatusFormatter::accountLine(const RuntimeInfo &runtime, const UserI
                                          UserLookup lookup)
 {
     if (!runtime.valid)
-        return text("Account: checking...");
+        return TrayMenuText::tr("Account: checking...");
     const QString auth = normalized(runtime.authState);
     if (auth == u"cached")
-        return text("Account: cached");
+        return TrayMenuText::tr("Account: cached");
     if (auth != u"logged_in")
-        return text("Account: Login Required");
+        return TrayMenuText::tr("Account: Login Required");
     if (user.valid) {
         const QString email = user.email.trimmed();
         const QString identity = email.isEmpty() ? user.userNumber.trimmed() : email;
         if (!identity.isEmpty())
-            return text("Account: %1").arg(identity);
-        return text("Account: logged in");
+            return TrayMenuText::tr("Account: %1").arg(isolated(identity));
+        return TrayMenuText::tr("Account: logged in");
     }
     if (lookup == UserLookup::Pending)
-        return text("Account: checking...");
+        return TrayMenuText::tr("Account: checking...");
     // Signed in, but the account details could not be read: say what is certain.
-    return text("Account: logged in");
+    return TrayMenuText::tr("Account: logged in");
 }
 
 QString TrayStatusFormatter::killSwitchText(const KillSwitchInfo &record)
 {
     if (!record.valid)
-        return text("Kill Switch");
-    return text("Kill Switch: %1").arg(killSwitchStateText(record, "TrayMenuText"));
+        return TrayMenuText::tr("Kill Switch");
+    return TrayMenuText::tr("Kill Switch: %1").arg(killSwitchStateText(record, "TrayMenuText"));
 }

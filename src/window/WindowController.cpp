@@ -1,5 +1,6 @@
 #include "WindowController.h"
 
+#include "BidiText.h"
 #include "Countries.h"
 #include "DesktopColorScheme.h"
 #include "GuiMemLog.h"
@@ -543,11 +544,11 @@ bool WindowController::openLogDirectory(const QString &path)
         return false;
     }
     if (!QFileInfo::exists(path)) {
-        showErrorNotification(tr("Log directory does not exist: %1").arg(path));
+        showErrorNotification(tr("Log directory does not exist: %1").arg(isolated(path)));
         return false;
     }
     if (!m_urlOpener(QUrl::fromLocalFile(path))) {
-        showErrorNotification(tr("Could not open log directory: %1").arg(path));
+        showErrorNotification(tr("Could not open log directory: %1").arg(isolated(path)));
         return false;
     }
     return true;

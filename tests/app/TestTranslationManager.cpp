@@ -7,9 +7,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString modeAuto()
+QString locations()
 {
-    return QCoreApplication::translate("ModePage", "Auto");
+    return QCoreApplication::translate("NavigationSidebar", "Locations");
 }
 
 } // namespace
@@ -89,11 +89,11 @@ private Q_SLOTS:
             << u""_s << true << u"en-US"_s << autoText << u"Auto"_s;
         QTest::addRow("de loads") << u"de_DE"_s << true << u"de"_s
                                   << u"GuiAutostart:Could not update Tovra login startup."_s
-                                  << u"Der Tovra-Anmeldestart konnte nicht aktualisiert werden."_s;
+                                  << u"Der Tovra-Autostart konnte nicht aktualisiert werden."_s;
         QTest::addRow("zh_CN loads the Hans file")
             << u"zh_CN"_s << true << u"zh-Hans"_s << autoText << u"自动"_s;
         QTest::addRow("zh-TW loads the Hant file")
-            << u"zh-TW"_s << true << u"zh-Hant"_s << u"KillSwitchConfirm:Off"_s << u"關"_s;
+            << u"zh-TW"_s << true << u"zh-Hant"_s << u"KillSwitchConfirm:Off"_s << u"已關閉"_s;
         QTest::addRow("pt_BR") << u"pt_br"_s << true << u"pt-BR"_s << u"KillSwitchConfirm:On"_s
                                << u"Ativado"_s;
         QTest::addRow("listed but not shipped falls back")
@@ -124,15 +124,15 @@ private Q_SLOTS:
         TranslationManager manager;
         QCOMPARE(manager.currentLanguage(), u"en-US"_s);
         QVERIFY(manager.apply(u"de"_s));
-        QCOMPARE(modeAuto(), u"Automatisch"_s);
+        QCOMPARE(locations(), u"Standorte"_s);
         QVERIFY(manager.apply(u"fr"_s));
-        QCOMPARE(modeAuto(), u"Automatique"_s);
+        QCOMPARE(locations(), u"Emplacements"_s);
         // Going back to English must not leave the French catalogue installed.
         QVERIFY(manager.apply(u"en"_s));
-        QCOMPARE(modeAuto(), u"Auto"_s);
+        QCOMPARE(locations(), u"Locations"_s);
         QVERIFY(manager.apply(u"de"_s));
         QVERIFY(!manager.apply(u"sw"_s));
-        QCOMPARE(modeAuto(), u"Auto"_s);
+        QCOMPARE(locations(), u"Locations"_s);
     }
 };
 

@@ -1,9 +1,12 @@
 #include "Countries.h"
+#include "TranslationManager.h"
 
 #include <QGuiApplication>
 #include <QPixmap>
 #include <QPixmapCache>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 class TestCountries : public QObject
 {
@@ -13,6 +16,8 @@ private Q_SLOTS:
     void names_data();
     void names();
     void tableOrder();
+    void continentNames_data();
+    void continentNames();
     void flags_data();
     void flags();
     void flagCacheClears();
@@ -41,6 +46,29 @@ void TestCountries::names()
     QFETCH(QString, code);
     QFETCH(QString, name);
     QCOMPARE(countryName(code), name);
+}
+
+void TestCountries::continentNames_data()
+{
+    QTest::addColumn<QString>("language");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("shown");
+    QTest::addRow("english") << u"en"_s << u" Europe "_s << u"Europe"_s;
+    QTest::addRow("german") << u"de"_s << u"North America"_s << u"Nordamerika"_s;
+    QTest::addRow("any case") << u"ru"_s << u"europe"_s << u"Европа"_s;
+    QTest::addRow("right to left") << u"ar"_s << u"Asia"_s << u"آسيا"_s;
+    QTest::addRow("not a continent") << u"de"_s << u"Benelux"_s << u"Benelux"_s;
+    QTest::addRow("a country is not translated here") << u"de"_s << u"Germany"_s << u"Germany"_s;
+}
+
+void TestCountries::continentNames()
+{
+    QFETCH(QString, language);
+    QFETCH(QString, name);
+    QFETCH(QString, shown);
+    TranslationManager translations;
+    QVERIFY(translations.apply(language));
+    QCOMPARE(continentName(name), shown);
 }
 
 void TestCountries::tableOrder()

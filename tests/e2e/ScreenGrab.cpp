@@ -74,12 +74,17 @@ int main(int argc, char *argv[])
                              std::atoi(argv[7])};
         return wanted.isValid() ? printCount(image, wanted, std::atoi(argv[3]), rect) : 2;
     }
-    if (argc != 2) {
-        std::fprintf(stderr, "usage: tovra-e2e-grab OUTPUT.png | --average X Y WIDTH HEIGHT |"
+    if (argc != 2 && argc != 6) {
+        std::fprintf(stderr, "usage: tovra-e2e-grab OUTPUT.png [X Y WIDTH HEIGHT] |"
+                             " --average X Y WIDTH HEIGHT |"
                              " --count #RRGGBB TOLERANCE X Y WIDTH HEIGHT\n");
         return 2;
     }
-    if (!image.save(QString::fromLocal8Bit(argv[1]), "PNG")) {
+    // With a rectangle, only that part of the screen: a picture of one window for AppStream.
+    const QImage picture = argc == 6 ? image.copy(std::atoi(argv[2]), std::atoi(argv[3]),
+                                                  std::atoi(argv[4]), std::atoi(argv[5]))
+                                     : image;
+    if (picture.isNull() || !picture.save(QString::fromLocal8Bit(argv[1]), "PNG")) {
         std::fprintf(stderr, "could not write %s\n", argv[1]);
         return 1;
     }

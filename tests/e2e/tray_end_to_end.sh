@@ -2,8 +2,12 @@
 # End to end: the demo daemon, a real X server (Xvfb) with a tray host (trayer), and the client.
 # Checks that the tray icon appears, that a click opens the window, that "Connect" in the tray
 # menu connects, and that "Quit" ends the client; takes pictures of the menu and the window.
-# Usage: tray_end_to_end.sh CLIENT DAEMON CTL GRAB SCREENSHOT_DIR
+# Usage: tray_end_to_end.sh CLIENT DAEMON CTL GRAB SCREENSHOT_DIR [HOST]
+# HOST is the kind of tray host: xembed (trayer, the default) or sni (StatusNotifierItem, whose
+# clicks are D-Bus calls: tray_sni_end_to_end.sh).
 set -euo pipefail
+if [[ ${6:-xembed} == sni ]]; then exec "$(dirname "$0")/tray_sni_end_to_end.sh" "${@:1:5}"; fi
+[[ ${6:-xembed} == xembed ]] || { echo "FAIL: unknown tray host kind $6" >&2; exit 2; }
 
 client=$1 daemon=$2 ctl=$3 grab=$4 shots=$5
 work=$(mktemp -d)
@@ -97,7 +101,7 @@ menu_visible() {
     for id in $(xdotool search --onlyvisible --class tovra 2>/dev/null); do
         size=$(xdotool getwindowgeometry "$id" | sed -n 's/.*Geometry: \([0-9]*\)x\([0-9]*\).*/\1 \2/p')
         read -r width height <<<"${size:-0 0}"
-        (( height >= 150 && width < 600 )) && return 0
+        (( height >= 150 && width < 600 )) && { menu_id=$id; return 0; }
     done
     return 1
 }
@@ -132,6 +136,10 @@ wait_for 10 icon_is_on || fail "the tray icon did not turn to connected"
 
 open_menu || fail "tray menu did not open after connecting"
 "$grab" "$shots/tray-menu.png" || fail "could not take the menu picture"
+# For AppStream: the menu with the panel above it, to the right edge of the screen.
+eval "$(xdotool getwindowgeometry --shell "$menu_id")"
+"$grab" "$shots/appstream-tray-menu.png" $((X - 24)) 0 $((1280 - X + 24)) $((Y + HEIGHT + 24)) \
+    || fail "could not take the AppStream menu picture"
 xdo key Escape
 
 # A plain click on the icon opens the window.

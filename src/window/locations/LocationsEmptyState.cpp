@@ -1,5 +1,6 @@
 #include "LocationsEmptyState.h"
 
+#include "BidiText.h"
 #include "GuiTextLog.h"
 
 LocationsEmptyState::LocationsEmptyState(QWidget *parent)
@@ -37,9 +38,9 @@ void LocationsEmptyState::setReason(Reason reason, const QString &search)
         text = tr("No locations in this tab.");
         break;
     case Reason::NoMatch:
-        text = tr("Nothing matches \u201c%1\u201d.\nTry a country, a city or a code such as "
-                  "\u201cde\u201d.")
-                   .arg(search.trimmed());
+        text = tr("Nothing matches “%1”.\nTry a country, a city or a code such as "
+                  "“de”.")
+                   .arg(isolated(search.trimmed()));
         break;
     }
     setText(text);

@@ -1,5 +1,6 @@
 #include "LocationsPage.h"
 
+#include "BidiText.h"
 #include "GuiTextLog.h"
 #include "LocationsEmptyState.h"
 #include "LocationsToolbar.h"
@@ -337,8 +338,9 @@ void LocationsPage::activate(const QModelIndex &index)
     const QString label = index.data(Qt::DisplayRole).toString();
     const bool group = index.data(LocationIsGroupRole).toBool();
     if (index.data(LocationLockedRole).toBool()) {
-        showHint(group ? tr("None of the locations in %1 is included in your plan.").arg(label)
-                       : tr("%1 is not included in your plan. Upgrade to use it.").arg(label));
+        showHint(
+            group ? tr("None of the locations in %1 is included in your plan.").arg(isolated(label))
+                  : tr("%1 is not included in your plan. Upgrade to use it.").arg(isolated(label)));
         return;
     }
     if (group) {

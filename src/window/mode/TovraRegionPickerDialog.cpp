@@ -1,5 +1,6 @@
 #include "TovraRegionPickerDialog.h"
 
+#include "BidiText.h"
 #include "CatalogFilterModel.h"
 #include "Countries.h"
 #include "LocationRoles.h"
@@ -214,9 +215,9 @@ void TovraRegionPickerDialog::updateCount()
 void TovraRegionPickerDialog::updateEmptyNote()
 {
     const bool empty = m_filter->rowCount() == 0;
-    m_empty->setText(empty
-                         ? tr("No country matches \u201c%1\u201d.").arg(m_search->text().trimmed())
-                         : QString());
+    m_empty->setText(
+        empty ? tr("No country matches \u201c%1\u201d.").arg(isolated(m_search->text().trimmed()))
+              : QString());
     m_empty->setVisible(empty);
 }
 

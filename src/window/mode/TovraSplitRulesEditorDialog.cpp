@@ -1,5 +1,6 @@
 #include "TovraSplitRulesEditorDialog.h"
 
+#include "BidiText.h"
 #include "ModeSegmentedBar.h"
 #include "SplitRuleValidator.h"
 #include "ThemeEngine.h"
@@ -282,7 +283,7 @@ void TovraSplitRulesEditorDialog::importCurrent()
         for (const SplitRuleValidator::Problem &problem : check.problems) {
             lines.append(tr("Line %1: \u201c%2\u201d is not a domain, IP address or CIDR range.")
                              .arg(problem.line)
-                             .arg(problem.text.left(80)));
+                             .arg(isolated(problem.text.left(80))));
         }
         if (check.badLines > int(check.problems.size()))
             lines.append(tr("\u2026 Bad lines in all: %1.").arg(check.badLines));

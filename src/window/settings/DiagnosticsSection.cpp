@@ -1,6 +1,7 @@
 #include "DiagnosticsSection.h"
 
 #include "AppState.h"
+#include "BidiText.h"
 #include "SettingsRow.h"
 
 #include <QApplication>
@@ -118,7 +119,7 @@ void DiagnosticsSection::refresh(const AppState &state, bool available)
     else if (version.compatible)
         m_controlVersion->setText(version.controlVersion);
     else
-        m_controlVersion->setText(tr("%1, not compatible").arg(version.controlVersion));
+        m_controlVersion->setText(tr("%1, not compatible").arg(isolated(version.controlVersion)));
 }
 
 void DiagnosticsSection::setRepairResult(const RepairResultInfo &result)

@@ -1,6 +1,7 @@
 #include "NetworkSection.h"
 
 #include "AppState.h"
+#include "BidiText.h"
 #include "SettingsChoice.h"
 #include "SettingsField.h"
 #include "SettingsRow.h"
@@ -184,8 +185,13 @@ void NetworkSection::refresh(const AppState &state, bool available)
                                 ? tr("none")
                                 : dns.effectiveLocalDirectDns.join(QStringLiteral(", "));
     QString effective =
-        tr("In effect: %1, servers %2").arg(policyLabel(dns.effectivePolicy), servers);
-    if (!dns.localDnsSource.isEmpty())
+        tr("In effect: %1, servers %2").arg(policyLabel(dns.effectivePolicy), isolated(servers));
+    // The daemon's two known sources are worded; any other is named as it came.
+    if (dns.localDnsSource == u"system")
+        effective += QLatin1Char(' ') + tr("(from the system settings)");
+    else if (dns.localDnsSource == u"config")
+        effective += QLatin1Char(' ') + tr("(from your list)");
+    else if (!dns.localDnsSource.isEmpty())
         effective += QLatin1Char(' ') + tr("(from %1)").arg(dns.localDnsSource);
     if (!dns.runtimeWarning.isEmpty())
         effective += QLatin1Char('\n') + dns.runtimeWarning;

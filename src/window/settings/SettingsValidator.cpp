@@ -1,5 +1,7 @@
 #include "SettingsValidator.h"
 
+#include "BidiText.h"
+
 #include <QHostAddress>
 #include <QRegularExpression>
 #include <QUrl>
@@ -30,13 +32,13 @@ QString SettingsValidator::checkListenAddress(const QString &address)
     if (host.startsWith(QLatin1Char('[')) && host.endsWith(QLatin1Char(']'))) {
         host = host.mid(1, host.size() - 2);
         if (QHostAddress(host).protocol() != QAbstractSocket::IPv6Protocol)
-            return tr("\"%1\" is not an IPv6 address.").arg(host);
+            return tr("\"%1\" is not an IPv6 address.").arg(isolated(host));
     } else if (host.contains(QLatin1Char(':'))) {
         return tr("Write an IPv6 address in brackets: [::1]:1080.");
     } else if (host.isEmpty()) {
         return tr("Add a host before the port: host:port.");
     } else if (QHostAddress(host).isNull() && !isHostName(host)) {
-        return tr("\"%1\" is not a host name or IP address.").arg(host);
+        return tr("\"%1\" is not a host name or IP address.").arg(isolated(host));
     }
     bool number = false;
     const int port = portText.toInt(&number);
@@ -67,7 +69,7 @@ QString SettingsValidator::checkDNSServers(const QStringList &servers)
         return tr("Enter at least one DNS server, or clear the list.");
     for (const QString &server : servers) {
         if (QHostAddress(server).isNull())
-            return tr("\"%1\" is not an IP address.").arg(server);
+            return tr("\"%1\" is not an IP address.").arg(isolated(server));
     }
     return {};
 }

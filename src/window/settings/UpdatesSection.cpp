@@ -1,6 +1,7 @@
 #include "UpdatesSection.h"
 
 #include "AppState.h"
+#include "BidiText.h"
 #include "SettingsRow.h"
 
 #include <QLabel>
@@ -32,7 +33,7 @@ QString UpdatesSection::versionText(const QString &version)
     const qsizetype plus = version.indexOf(QLatin1Char('+'));
     if (plus < 0)
         return version;
-    return tr("%1 (build %2)").arg(version.left(plus), version.mid(plus + 1));
+    return tr("%1 (build %2)").arg(isolated(version.left(plus)), isolated(version.mid(plus + 1)));
 }
 
 void UpdatesSection::refresh(const AppState &state, bool available)

@@ -1,5 +1,6 @@
 #include "UpdateDialog.h"
 
+#include "BidiText.h"
 #include "TovraDialogTitleBarThemer.h"
 
 #include <QHBoxLayout>
@@ -172,7 +173,8 @@ void UpdateDialog::setOffer(const UpdateInfo &info, const QString &currentVersio
         currentVersion.trimmed().isEmpty() ? tr("Unknown") : currentVersion.trimmed();
     const QString available =
         info.versionCode.trimmed().isEmpty() ? tr("Latest") : info.versionCode.trimmed();
-    m_versions->setText(tr("Current version: %1\nAvailable version: %2").arg(current, available));
+    m_versions->setText(tr("Current version: %1\nAvailable version: %2")
+                            .arg(isolated(current), isolated(available)));
     m_forcedText->setVisible(forced);
 
     // The daemon's lines as plain text, never as markup.

@@ -1,5 +1,6 @@
 #include "QuickEntryModel.h"
 
+#include "BidiText.h"
 #include "CatalogFilterModel.h"
 #include "Countries.h"
 #include "LocationRoles.h"
@@ -75,7 +76,7 @@ void QuickEntryModel::showMatches(const QSortFilterProxyModel &filtered, const Q
                    entries);
     if (entries.isEmpty())
         entries.append({Kind::Notice,
-                        tr("No locations match \u201c%1\u201d").arg(searchText.trimmed()),
+                        tr("No locations match \u201c%1\u201d").arg(isolated(searchText.trimmed())),
                         {},
                         {},
                         {},

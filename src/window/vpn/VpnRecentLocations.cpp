@@ -1,5 +1,6 @@
 #include "VpnRecentLocations.h"
 
+#include "BidiText.h"
 #include "Countries.h"
 
 #include <QHBoxLayout>
@@ -65,7 +66,7 @@ void VpnRecentLocations::setLocations(const QList<RecentLocation> &locations)
         auto *row = new QPushButton(location.label.isEmpty() ? location.id : location.label,
                                     m_scroll->widget());
         row->setObjectName(QStringLiteral("TovraVPNRecentItem"));
-        row->setAccessibleName(tr("Connect to %1").arg(row->text()));
+        row->setAccessibleName(tr("Connect to %1").arg(isolated(row->text())));
         row->setAutoDefault(false);
         row->setCursor(Qt::PointingHandCursor);
         row->setEnabled(m_connectEnabled);

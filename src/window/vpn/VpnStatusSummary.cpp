@@ -1,5 +1,6 @@
 #include "VpnStatusSummary.h"
 
+#include "BidiText.h"
 #include "Countries.h"
 #include "KillSwitchState.h"
 #include "RoutingMode.h"
@@ -9,11 +10,11 @@
 
 namespace {
 
-// Call sites mark their texts with QT_TRANSLATE_NOOP("VpnPage", ...) so that lupdate finds them.
-QString text(const char *source)
+// Shown by the VPN page, so translated in its context.
+class VpnPageText
 {
-    return QCoreApplication::translate("VpnPage", source);
-}
+    Q_DECLARE_TR_FUNCTIONS(VpnPage)
+};
 
 QString word(const QString &value)
 {
@@ -53,7 +54,7 @@ QString placeText(const NodeEntry &node, const QString &fallback)
     const QString name = node.name.trimmed().isEmpty() ? node.id : node.name.trimmed();
     if (country.isEmpty() || country == name)
         return name;
-    return text(QT_TRANSLATE_NOOP("VpnPage", "%1 \u00b7 %2")).arg(country, name);
+    return VpnPageText::tr("%1 \u00b7 %2").arg(country, isolated(name));
 }
 
 } // namespace
@@ -85,11 +86,10 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
     if (!unavailableReason.trimmed().isEmpty() || !runtime.valid) {
         summary.phase = Phase::Unavailable;
         summary.dotState = QStringLiteral("unavailable");
-        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Service unavailable"));
-        summary.detail =
-            unavailableReason.trimmed().isEmpty()
-                ? text(QT_TRANSLATE_NOOP("VpnPage", "Waiting for the Tovra service to answer."))
-                : unavailableReason.trimmed();
+        summary.title = VpnPageText::tr("Service unavailable");
+        summary.detail = unavailableReason.trimmed().isEmpty()
+                             ? VpnPageText::tr("Waiting for the Tovra service to answer.")
+                             : unavailableReason.trimmed();
         return summary;
     }
 
@@ -98,9 +98,8 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
     if (!isSignedIn(runtime.authState)) {
         summary.phase = Phase::SignedOut;
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Signed out"));
-        summary.detail =
-            text(QT_TRANSLATE_NOOP("VpnPage", "Sign in to your Tovra account to connect."));
+        summary.title = VpnPageText::tr("Signed out");
+        summary.detail = VpnPageText::tr("Sign in to your Tovra account to connect.");
         return summary;
     }
 
@@ -123,40 +122,38 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
     summary.locationText = placeText(node, reference);
     summary.flagCode = node.region.trimmed().toLower();
     if (!summary.locationText.isEmpty())
-        summary.locationCaption = live ? text(QT_TRANSLATE_NOOP("VpnPage", "Location"))
-                                       : text(QT_TRANSLATE_NOOP("VpnPage", "Last location"));
+        summary.locationCaption =
+            live ? VpnPageText::tr("Location") : VpnPageText::tr("Last location");
 
     switch (summary.phase) {
     case Phase::Connected:
         summary.dotState = QStringLiteral("connected");
-        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Connected"));
-        summary.detail =
-            text(QT_TRANSLATE_NOOP("VpnPage", "Your traffic goes through the Tovra tunnel."));
+        summary.title = VpnPageText::tr("Connected");
+        summary.detail = VpnPageText::tr("Your traffic goes through the Tovra tunnel.");
         summary.connectedSince = QDateTime::fromString(runtime.connectedSince, Qt::ISODate);
         break;
     case Phase::Connecting: {
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Connecting\u2026"));
+        summary.title = VpnPageText::tr("Connecting\u2026");
         const QString target = pending.active && !pending.label.trimmed().isEmpty()
                                    ? pending.label.trimmed()
                                    : summary.locationText;
         summary.detail = target.isEmpty()
-                             ? text(QT_TRANSLATE_NOOP("VpnPage", "Setting up the tunnel."))
-                             : text(QT_TRANSLATE_NOOP("VpnPage", "Connecting to %1")).arg(target);
+                             ? VpnPageText::tr("Setting up the tunnel.")
+                             : VpnPageText::tr("Connecting to %1").arg(isolated(target));
         break;
     }
     case Phase::Disconnecting:
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Disconnecting\u2026"));
-        summary.detail = text(QT_TRANSLATE_NOOP("VpnPage", "Closing the tunnel."));
+        summary.title = VpnPageText::tr("Disconnecting\u2026");
+        summary.detail = VpnPageText::tr("Closing the tunnel.");
         break;
     default:
         summary.dotState = QStringLiteral("disconnected");
-        summary.title = text(QT_TRANSLATE_NOOP("VpnPage", "Disconnected"));
+        summary.title = VpnPageText::tr("Disconnected");
         summary.detail = word(killSwitch.guard) == QLatin1String("active")
-                             ? text(QT_TRANSLATE_NOOP(
-                                   "VpnPage", "Kill Switch blocks traffic until you connect."))
-                             : text(QT_TRANSLATE_NOOP("VpnPage", "Your traffic is not protected."));
+                             ? VpnPageText::tr("Kill Switch blocks traffic until you connect.")
+                             : VpnPageText::tr("Your traffic is not protected.");
         break;
     }
     return summary;

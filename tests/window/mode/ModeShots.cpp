@@ -8,6 +8,7 @@
 #include "ModeChoiceCard.h"
 #include "ModeInlineError.h"
 #include "ModePage.h"
+#include "TranslationManager.h"
 #include "SplitOptionsCard.h"
 #include "TovraRegionPickerDialog.h"
 #include "TovraSplitRulesEditorDialog.h"
@@ -65,6 +66,10 @@ int main(int argc, char **argv)
 {
     QApplication app(argc, argv);
     registerControlMetaTypes();
+    // TOVRA_SHOT_LANG=de (any shipped tag) shows the pictures in that language.
+    TranslationManager translations;
+    if (qEnvironmentVariableIsSet("TOVRA_SHOT_LANG"))
+        translations.apply(qEnvironmentVariable("TOVRA_SHOT_LANG"));
     const QString dir = app.arguments().value(1, u"/tmp/shots/mode"_s);
     QDir().mkpath(dir);
     QTemporaryDir config;

@@ -9,6 +9,7 @@
 #include "MainWindow.h"
 #include "QuickEntryField.h"
 #include "TempXdgDirs.h"
+#include "TranslationManager.h"
 #include "VpnPage.h"
 
 #include <QApplication>
@@ -64,6 +65,10 @@ int main(int argc, char *argv[])
 {
     QApplication app(argc, argv);
     registerControlMetaTypes();
+    // TOVRA_SHOT_LANG=de (any shipped tag) shows the pictures in that language.
+    TranslationManager translations;
+    if (qEnvironmentVariableIsSet("TOVRA_SHOT_LANG"))
+        translations.apply(qEnvironmentVariable("TOVRA_SHOT_LANG"));
     const QString out = argc > 1 ? QString::fromLocal8Bit(argv[1]) : QStringLiteral(".");
     QDir().mkpath(out);
     TempXdgDirs dirs;

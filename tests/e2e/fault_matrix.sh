@@ -8,7 +8,7 @@
 # its "tovra.stall:" lines (TOVRA_GUI_STALL_MS).
 # Usage: fault_matrix.sh CLIENT DAEMON CTL [CASE...]   (no case: all of them)
 # Environment: TOVRA_FAULT_STALL_MS (threshold, default 50), TOVRA_FAULT_JOBS (cases at a time,
-# default 4), TOVRA_FAULT_RSS_MARGIN_MB (allowed growth, default 25: the catalogue arrives after
+# default 3), TOVRA_FAULT_RSS_MARGIN_MB (allowed growth, default 25: the catalogue arrives after
 # the fault), TOVRA_FAULT_KEEP=1 keeps the per-case folders for a look, TOVRA_FAULT_SHOTS=DIR with
 # TOVRA_FAULT_GRAB=tovra-e2e-grab saves a picture of each fault as the user sees it.
 set -uo pipefail
@@ -20,7 +20,7 @@ all_cases=(latency hang-status hang-all garbage-nodes truncate-groups chunked in
 cases=("$@")
 (( ${#cases[@]} )) || cases=("${all_cases[@]}")
 stall_ms=${TOVRA_FAULT_STALL_MS:-50}
-jobs=${TOVRA_FAULT_JOBS:-4}
+jobs=${TOVRA_FAULT_JOBS:-3}
 rss_margin_mb=${TOVRA_FAULT_RSS_MARGIN_MB:-25}
 recover_s=12
 top=$(mktemp -d)

@@ -2,7 +2,6 @@
 #include "DemoDaemon.h"
 
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QTest>
 #include <QUrl>
@@ -62,11 +61,9 @@ private Q_SLOTS:
     void proxyPreferences();
     void killSwitch();
     void splitDns();
-    void splitRuleImportCounts_data();
-    void splitRuleImportCounts();
     void languageResolves_data();
     void languageResolves();
-    void languageAndConfig();
+    void languageAndApiUrl();
     void updateDownloadRefusesOtherRelease();
 
 private:
@@ -381,11 +378,7 @@ void TestDemoContract::modeRoundTrip()
     QString error;
     const ModeInfo answer = ControlEndpoints::setMode(socket(), wanted, Timeout, &error);
     QCOMPARE(error, QString());
-    QCOMPARE(answer.transport, QStringLiteral("tovravpn"));
-    QCOMPARE(answer.policy, QStringLiteral("split"));
-    QCOMPARE(answer.splitProfile.defaultRoute, QStringLiteral("direct"));
     QCOMPARE(answer.splitProfile.proxyRegions, wanted.splitProfile.proxyRegions);
-    QVERIFY(answer.splitProfile.gfwlist);
     QCOMPARE(answer.lastTovravpnPolicy, QStringLiteral("split"));
     QCOMPARE(answer.lastTovravpnSplitProfile, answer.splitProfile);
     const RuntimeInfo status = ControlEndpoints::fetchStatus(socket(), Timeout);
@@ -425,9 +418,6 @@ void TestDemoContract::proxyPreferences()
     QVERIFY(mode.pacPort > 0);
     QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).pacStatus.state,
              QStringLiteral("active"));
-    mode = ControlEndpoints::setLocalNetworkPreference(socket(), QStringLiteral("protected"),
-                                                       Timeout, &error);
-    QCOMPARE(mode.localNetwork, QStringLiteral("protected"));
     mode = ControlEndpoints::setProxyLANPreference(socket(), true, Timeout, &error);
     QVERIFY(mode.proxyLan);
     QCOMPARE(error, QString());
@@ -496,44 +486,6 @@ void TestDemoContract::splitDns()
     QCOMPARE(error, QStringLiteral("\"dns.example\" is not an IP address"));
 }
 
-void TestDemoContract::splitRuleImportCounts_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("content");
-    QTest::addColumn<int>("count");
-    QTest::addRow("plain lines") << "direct"
-                                 << "example.com\n10.0.0.0/8\n"
-                                 << 2;
-    QTest::addRow("comments and blanks")
-        << "proxy"
-        << "# mine\n\n  a.example  \n#b.example\n\r\nc.example" << 2;
-    QTest::addRow("only comments") << "block"
-                                   << "# nothing\n\n"
-                                   << 0;
-}
-
-void TestDemoContract::splitRuleImportCounts()
-{
-    QFETCH(QString, kind);
-    QFETCH(QString, content);
-    QFETCH(int, count);
-    QString error;
-    const SplitRuleMutationInfo mutation =
-        ControlEndpoints::importSplitRules(socket(), kind, content, Timeout, &error);
-    QCOMPARE(error, QString());
-    QCOMPARE(mutation.kind, kind);
-    QCOMPARE(mutation.count, count);
-    QCOMPARE(mutation.changed, count > 0);
-    const SplitRulesInfo rules = ControlEndpoints::fetchSplitRules(socket(), kind, Timeout, &error);
-    QCOMPARE(rules.rules.value(kind).size(), count);
-    QCOMPARE(rules.files.keys(), QStringList{kind});
-    QFile file(mutation.file);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    if (count > 0)
-        QCOMPARE(QString::fromUtf8(file.readAll()).trimmed().split(QLatin1Char('\n')),
-                 rules.rules.value(kind));
-}
-
 void TestDemoContract::languageResolves_data()
 {
     QTest::addColumn<QString>("tag");
@@ -567,7 +519,7 @@ void TestDemoContract::languageResolves()
     QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).effectiveLanguage, effective);
 }
 
-void TestDemoContract::languageAndConfig()
+void TestDemoContract::languageAndApiUrl()
 {
     QString error;
     LanguageConfigInfo language = ControlEndpoints::fetchLanguageConfig(socket(), Timeout, &error);
@@ -586,27 +538,9 @@ void TestDemoContract::languageAndConfig()
     QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).effectiveLanguage,
              QStringLiteral("de"));
 
-    APIURLConfigInfo api = ControlEndpoints::setAPIURL(
-        socket(), QStringLiteral("https://api.example.net"), Timeout, &error);
-    QCOMPARE(api.apiURL, QStringLiteral("https://api.example.net"));
-    QVERIFY(api.validated);
-    QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).apiURL, api.apiURL);
-    api = ControlEndpoints::resetAPIURL(socket(), Timeout, &error);
-    QCOMPARE(ControlEndpoints::fetchAPIURLConfig(socket(), Timeout), api);
     QVERIFY(
         !ControlEndpoints::setAPIURL(socket(), QStringLiteral("ftp://x"), Timeout, &error).valid);
     QCOMPARE(error, QStringLiteral("API URL must be an http or https URL with a host"));
-
-    error.clear();
-    const AutoConnectConfigInfo autoConnect = ControlEndpoints::setAutoConnectPreference(
-        socket(), QStringLiteral("last"), Timeout, &error);
-    QCOMPARE(error, QString());
-    QCOMPARE(autoConnect.autoConnect, QStringLiteral("last"));
-
-    const ConfigPaths paths = ControlEndpoints::fetchConfigPaths(socket(), Timeout, &error);
-    QCOMPARE(paths.socketPath, socket());
-    QVERIFY(QFileInfo(paths.configDir).isDir());
-    QVERIFY(QFileInfo(paths.profilesDir).isDir());
 }
 
 // The download itself, its file and cancel are driven end to end by TestUpdateFlow; here only

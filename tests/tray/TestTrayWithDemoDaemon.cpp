@@ -87,12 +87,8 @@ void TestTrayWithDemoDaemon::modeAnswerSetsCheckMarks_data()
     // The row's name is the mode's title.
     QTest::newRow("WireGuard") << &TrayMenu::wireGuard << "Tovra: switching to WireGuard..."
                                << false << false;
-    QTest::newRow("TovraVPN Global")
-        << &TrayMenu::tunnelGlobal << "Tovra: switching to TovraVPN..." << false << false;
     QTest::newRow("TovraVPN Split")
         << &TrayMenu::tunnelSplit << "Tovra: switching TovraVPN split..." << true << false;
-    QTest::newRow("Tovra Proxy Global")
-        << &TrayMenu::proxyGlobal << "Tovra: switching to Tovra Proxy..." << false << false;
     QTest::newRow("Tovra Proxy Split")
         << &TrayMenu::proxySplit << "Tovra: switching to Tovra Proxy Split..." << false << true;
 }

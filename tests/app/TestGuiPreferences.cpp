@@ -31,20 +31,6 @@ private Q_SLOTS:
     void init() { m_dirs = std::make_unique<TempXdgDirs>(); }
     void cleanup() { m_dirs.reset(); }
 
-    void defaults()
-    {
-        GuiPreferences preferences;
-        QCOMPARE(preferences.showOnLaunch(), true);
-        QCOMPARE(preferences.launchAtLogin(), false);
-        QCOMPARE(preferences.appearance(), u"system"_s);
-        QCOMPARE(preferences.lastEffectiveLanguage(), QString());
-        QCOMPARE(preferences.recentNodes(20), QList<RecentLocation>());
-        QCOMPARE(preferences.recentSearches(), QStringList());
-        QCOMPARE(preferences.recentNodesCleared(), false);
-        QCOMPARE(preferences.updateBookkeeping(QStringLiteral(TOVRA_VERSION)),
-                 GuiUpdateBookkeeping());
-    }
-
     void writesReachTheFileAtOnce()
     {
         GuiPreferences preferences;

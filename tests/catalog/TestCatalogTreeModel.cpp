@@ -107,26 +107,11 @@ void TestCatalogTreeModel::rowRoles_data()
     QTest::addColumn<int>("role");
     QTest::addColumn<QVariant>("expected");
     const QString frankfurt2 = QStringLiteral("1002");
-    QTest::addRow("node id") << frankfurt2 << int(LocationNodeIdRole) << QVariant(frankfurt2);
-    QTest::addRow("node selector")
-        << frankfurt2 << int(LocationSelectorRole) << QVariant(frankfurt2);
-    QTest::addRow("tier") << frankfurt2 << int(LocationTierRole)
-                          << QVariant(QStringLiteral("SVIP"));
-    QTest::addRow("region") << frankfurt2 << int(LocationRegionRole)
-                            << QVariant(QStringLiteral("de"));
-    QTest::addRow("unmeasured ping") << frankfurt2 << int(LocationPingMsRole) << QVariant(-1);
-    QTest::addRow("unknown signal") << frankfurt2 << int(LocationSignalLevelRole) << QVariant(-1);
     QTest::addRow("connected") << QStringLiteral("1001") << int(LocationConnectedRole)
                                << QVariant(true);
-    QTest::addRow("not connected") << frankfurt2 << int(LocationConnectedRole) << QVariant(false);
     QTest::addRow("node search text")
         << frankfurt2 << int(LocationSearchTextRole)
         << QVariant(QStringLiteral("frankfurt 02 svip p2p premium de germany"));
-    QTest::addRow("group selector")
-        << QStringLiteral("city:de:frankfurt") << int(LocationSelectorRole)
-        << QVariant(QStringLiteral("city:de:frankfurt"));
-    QTest::addRow("group has no node id")
-        << QStringLiteral("country:de") << int(LocationNodeIdRole) << QVariant(QString());
     QTest::addRow("group flag region") << QStringLiteral("city:de:frankfurt")
                                        << int(LocationRegionRole) << QVariant(QStringLiteral("de"));
     QTest::addRow("continent has no region")

@@ -7,106 +7,34 @@
 
 namespace {
 
+template<typename Record>
+QString parseError(const QByteArray &body)
+{
+    QString error;
+    Record::parse(body, &error);
+    return error;
+}
+
 // Every parser's own message for a body that is not a JSON object, keyed by record name.
 const QHash<QString, std::function<QString(const QByteArray &)>> &parsers()
 {
     static const QHash<QString, std::function<QString(const QByteArray &)>> table{
-        {QStringLiteral("nodes"),
-         [](const QByteArray &b) {
-             QString e;
-             NodesInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("groups"),
-         [](const QByteArray &b) {
-             QString e;
-             NodeGroupsInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("api"),
-         [](const QByteArray &b) {
-             QString e;
-             APIURLConfigInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("auto"),
-         [](const QByteArray &b) {
-             QString e;
-             AutoConnectConfigInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("language"),
-         [](const QByteArray &b) {
-             QString e;
-             LanguageConfigInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("user"),
-         [](const QByteArray &b) {
-             QString e;
-             UserInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("purchase"),
-         [](const QByteArray &b) {
-             QString e;
-             PurchaseURLInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("paths"),
-         [](const QByteArray &b) {
-             QString e;
-             ConfigPaths::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("update"),
-         [](const QByteArray &b) {
-             QString e;
-             UpdateInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("download"),
-         [](const QByteArray &b) {
-             QString e;
-             GUIUpdateDownloadInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("listen"),
-         [](const QByteArray &b) {
-             QString e;
-             ProxyListenResultInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("dns"),
-         [](const QByteArray &b) {
-             QString e;
-             SplitDNSInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("rules"),
-         [](const QByteArray &b) {
-             QString e;
-             SplitRulesInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("mutation"),
-         [](const QByteArray &b) {
-             QString e;
-             SplitRuleMutationInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("mode"),
-         [](const QByteArray &b) {
-             QString e;
-             ModeInfo::parse(b, &e);
-             return e;
-         }},
-        {QStringLiteral("killswitch"),
-         [](const QByteArray &b) {
-             QString e;
-             KillSwitchInfo::parse(b, &e);
-             return e;
-         }},
+        {QStringLiteral("nodes"), parseError<NodesInfo>},
+        {QStringLiteral("groups"), parseError<NodeGroupsInfo>},
+        {QStringLiteral("api"), parseError<APIURLConfigInfo>},
+        {QStringLiteral("auto"), parseError<AutoConnectConfigInfo>},
+        {QStringLiteral("language"), parseError<LanguageConfigInfo>},
+        {QStringLiteral("user"), parseError<UserInfo>},
+        {QStringLiteral("purchase"), parseError<PurchaseURLInfo>},
+        {QStringLiteral("paths"), parseError<ConfigPaths>},
+        {QStringLiteral("update"), parseError<UpdateInfo>},
+        {QStringLiteral("download"), parseError<GUIUpdateDownloadInfo>},
+        {QStringLiteral("listen"), parseError<ProxyListenResultInfo>},
+        {QStringLiteral("dns"), parseError<SplitDNSInfo>},
+        {QStringLiteral("rules"), parseError<SplitRulesInfo>},
+        {QStringLiteral("mutation"), parseError<SplitRuleMutationInfo>},
+        {QStringLiteral("mode"), parseError<ModeInfo>},
+        {QStringLiteral("killswitch"), parseError<KillSwitchInfo>},
     };
     return table;
 }

@@ -1,9 +1,7 @@
 #include "ControlEndpoints.h"
 #include "DemoDaemon.h"
 
-#include <QCryptographicHash>
 #include <QDateTime>
-#include <QFile>
 #include <QFileInfo>
 #include <QTest>
 #include <QUrl>
@@ -46,8 +44,6 @@ private Q_SLOTS:
     void init();
     void cleanup();
 
-    void handshake();
-    void statusBeforeSignIn();
     void signIn_data();
     void signIn();
     void userAndPurchaseLink();
@@ -65,14 +61,10 @@ private Q_SLOTS:
     void proxyPreferences();
     void killSwitch();
     void splitDns();
-    void splitRuleImportCounts_data();
-    void splitRuleImportCounts();
-    void repairs();
     void languageResolves_data();
     void languageResolves();
-    void languageAndConfig();
-    void updateDownloadReachesReady();
-    void updateDownloadCancels();
+    void languageAndApiUrl();
+    void updateDownloadRefusesOtherRelease();
 
 private:
     QString socket() const { return m_daemon->socketPath(); }
@@ -101,37 +93,6 @@ void TestDemoContract::signInAs(const QString &user)
         ControlEndpoints::login(socket(), user, Password, true, Timeout, &error);
     QVERIFY2(error.isEmpty(), qPrintable(error));
     QCOMPARE(info.authState, QStringLiteral("logged_in"));
-}
-
-void TestDemoContract::handshake()
-{
-    QString error;
-    const VersionInfo version = ControlEndpoints::fetchVersion(socket(), Timeout, &error);
-    QCOMPARE(error, QString());
-    QVERIFY(version.valid);
-    QVERIFY(version.compatible);
-    QCOMPARE(version.controlVersion, QStringLiteral("1"));
-    QCOMPARE(version.daemonVersion, QStringLiteral("2.8.0-demo"));
-}
-
-void TestDemoContract::statusBeforeSignIn()
-{
-    QString error;
-    const RuntimeInfo info = ControlEndpoints::fetchStatus(socket(), Timeout, &error);
-    QCOMPARE(error, QString());
-    QVERIFY(info.valid);
-    QCOMPARE(info.daemonState, QStringLiteral("running"));
-    QCOMPARE(info.authState, QStringLiteral("logged_out"));
-    QCOMPARE(info.tunnelState, QStringLiteral("disconnected"));
-    QCOMPARE(info.mode.transport, QStringLiteral("auto"));
-    QCOMPARE(info.modeSummary, QStringLiteral("auto"));
-    QCOMPARE(info.mode.localNetwork, QStringLiteral("direct"));
-    QVERIFY(info.killSwitch.valid);
-    QCOMPARE(info.killSwitch.mode, QStringLiteral("auto"));
-    QCOMPARE(info.proxyListeners.size(), 2);
-    QCOMPARE(info.proxyAccessUrls.value(0).url, QStringLiteral("socks5://127.0.0.1:1080"));
-    QCOMPARE(info.languageSource, QStringLiteral("system"));
-    QVERIFY(info.selectedNode.isEmpty());
 }
 
 void TestDemoContract::signIn_data()
@@ -178,9 +139,6 @@ void TestDemoContract::userAndPurchaseLink()
     const UserInfo user = ControlEndpoints::fetchUser(socket(), Timeout, &error);
     QCOMPARE(error, QString());
     QCOMPARE(user.email, DemoUser);
-    QCOMPARE(user.role, QStringLiteral("SVIP"));
-    QCOMPARE(user.leftDays, 182);
-    QCOMPARE(user.maxDeviceCount, 5);
 
     // The client accepts only links on the vendor host with every query item once.
     const PurchaseURLInfo link =
@@ -357,23 +315,14 @@ void TestDemoContract::catalogue()
     const NodeGroupsInfo groups = ControlEndpoints::fetchNodeGroups(socket(), Timeout, &error);
     QCOMPARE(error, QString());
     QVERIFY(groups.valid);
-    QCOMPARE(findTab(groups, QStringLiteral("all"))->nodeIds.size(), nodes.nodes.size());
-    QVERIFY(findTab(groups, QStringLiteral("favorite"))->nodeIds.isEmpty());
     QCOMPARE(findTab(groups, QStringLiteral("free"))->nodeIds.size() +
                  findTab(groups, QStringLiteral("svip"))->nodeIds.size(),
              nodes.nodes.size());
     const NodeGroupEntry &europe = groups.groups.first();
-    QCOMPARE(europe.level, 1);
-    QCOMPARE(europe.code, QStringLiteral("EU"));
     const NodeGroupEntry &germany = europe.subgroups.first();
-    QCOMPARE(germany.level, 2);
-    QCOMPARE(germany.code, QStringLiteral("DE"));
     const NodeGroupEntry &frankfurt = germany.subgroups.first();
     QCOMPARE(frankfurt.level, 3);
-    QCOMPARE(frankfurt.rank, 1);
-    QCOMPARE(frankfurt.name, QStringLiteral("Frankfurt"));
     QCOMPARE(frankfurt.nodeIds.first(), nodes.nodes.first().id);
-    QCOMPARE(germany.subgroups.at(1).rank, 2);
 }
 
 void TestDemoContract::refreshMeasuresProgressively()
@@ -429,11 +378,7 @@ void TestDemoContract::modeRoundTrip()
     QString error;
     const ModeInfo answer = ControlEndpoints::setMode(socket(), wanted, Timeout, &error);
     QCOMPARE(error, QString());
-    QCOMPARE(answer.transport, QStringLiteral("tovravpn"));
-    QCOMPARE(answer.policy, QStringLiteral("split"));
-    QCOMPARE(answer.splitProfile.defaultRoute, QStringLiteral("direct"));
     QCOMPARE(answer.splitProfile.proxyRegions, wanted.splitProfile.proxyRegions);
-    QVERIFY(answer.splitProfile.gfwlist);
     QCOMPARE(answer.lastTovravpnPolicy, QStringLiteral("split"));
     QCOMPARE(answer.lastTovravpnSplitProfile, answer.splitProfile);
     const RuntimeInfo status = ControlEndpoints::fetchStatus(socket(), Timeout);
@@ -473,9 +418,6 @@ void TestDemoContract::proxyPreferences()
     QVERIFY(mode.pacPort > 0);
     QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).pacStatus.state,
              QStringLiteral("active"));
-    mode = ControlEndpoints::setLocalNetworkPreference(socket(), QStringLiteral("protected"),
-                                                       Timeout, &error);
-    QCOMPARE(mode.localNetwork, QStringLiteral("protected"));
     mode = ControlEndpoints::setProxyLANPreference(socket(), true, Timeout, &error);
     QVERIFY(mode.proxyLan);
     QCOMPARE(error, QString());
@@ -544,65 +486,11 @@ void TestDemoContract::splitDns()
     QCOMPARE(error, QStringLiteral("\"dns.example\" is not an IP address"));
 }
 
-void TestDemoContract::splitRuleImportCounts_data()
-{
-    QTest::addColumn<QString>("kind");
-    QTest::addColumn<QString>("content");
-    QTest::addColumn<int>("count");
-    QTest::addRow("plain lines") << "direct"
-                                 << "example.com\n10.0.0.0/8\n"
-                                 << 2;
-    QTest::addRow("comments and blanks")
-        << "proxy"
-        << "# mine\n\n  a.example  \n#b.example\n\r\nc.example" << 2;
-    QTest::addRow("only comments") << "block"
-                                   << "# nothing\n\n"
-                                   << 0;
-}
-
-void TestDemoContract::splitRuleImportCounts()
-{
-    QFETCH(QString, kind);
-    QFETCH(QString, content);
-    QFETCH(int, count);
-    QString error;
-    const SplitRuleMutationInfo mutation =
-        ControlEndpoints::importSplitRules(socket(), kind, content, Timeout, &error);
-    QCOMPARE(error, QString());
-    QCOMPARE(mutation.kind, kind);
-    QCOMPARE(mutation.count, count);
-    QCOMPARE(mutation.changed, count > 0);
-    const SplitRulesInfo rules = ControlEndpoints::fetchSplitRules(socket(), kind, Timeout, &error);
-    QCOMPARE(rules.rules.value(kind).size(), count);
-    QCOMPARE(rules.files.keys(), QStringList{kind});
-    QFile file(mutation.file);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    if (count > 0)
-        QCOMPARE(QString::fromUtf8(file.readAll()).trimmed().split(QLatin1Char('\n')),
-                 rules.rules.value(kind));
-}
-
-void TestDemoContract::repairs()
-{
-    QString error;
-    const RepairResultInfo info = ControlEndpoints::repairDiagnostics(socket(), Timeout, &error);
-    QCOMPARE(error, QString());
-    QVERIFY(info.valid);
-    QCOMPARE(info.lines.size(), 3);
-    QVERIFY(info.lines.at(0).startsWith(QLatin1String("kill-switch: repaired")));
-    QVERIFY(info.lines.at(1).startsWith(QLatin1String("proxy: ok")));
-    QVERIFY(info.lines.at(2).contains(QLatin1String("disconnected")));
-    QVERIFY(info.failedLines.isEmpty());
-}
-
 void TestDemoContract::languageResolves_data()
 {
     QTest::addColumn<QString>("tag");
     QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("effective");
-    QTest::addRow("supported as sent") << "pt-BR"
-                                       << "pt-BR"
-                                       << "pt-BR";
     QTest::addRow("locale spelling") << "de_DE.UTF-8"
                                      << "de-DE"
                                      << "de";
@@ -611,9 +499,6 @@ void TestDemoContract::languageResolves_data()
                                                   << "zh-Hans";
     QTest::addRow("traditional Chinese by region") << "zh_TW"
                                                    << "zh-TW"
-                                                   << "zh-Hant";
-    QTest::addRow("traditional Chinese by script") << "zh-Hant"
-                                                   << "zh-Hant"
                                                    << "zh-Hant";
     QTest::addRow("unsupported falls back to English") << "sw"
                                                        << "sw"
@@ -634,7 +519,7 @@ void TestDemoContract::languageResolves()
     QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).effectiveLanguage, effective);
 }
 
-void TestDemoContract::languageAndConfig()
+void TestDemoContract::languageAndApiUrl()
 {
     QString error;
     LanguageConfigInfo language = ControlEndpoints::fetchLanguageConfig(socket(), Timeout, &error);
@@ -653,84 +538,25 @@ void TestDemoContract::languageAndConfig()
     QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).effectiveLanguage,
              QStringLiteral("de"));
 
-    APIURLConfigInfo api = ControlEndpoints::setAPIURL(
-        socket(), QStringLiteral("https://api.example.net"), Timeout, &error);
-    QCOMPARE(api.apiURL, QStringLiteral("https://api.example.net"));
-    QVERIFY(api.validated);
-    QCOMPARE(ControlEndpoints::fetchStatus(socket(), Timeout).apiURL, api.apiURL);
-    api = ControlEndpoints::resetAPIURL(socket(), Timeout, &error);
-    QCOMPARE(ControlEndpoints::fetchAPIURLConfig(socket(), Timeout), api);
     QVERIFY(
         !ControlEndpoints::setAPIURL(socket(), QStringLiteral("ftp://x"), Timeout, &error).valid);
     QCOMPARE(error, QStringLiteral("API URL must be an http or https URL with a host"));
-
-    error.clear();
-    const AutoConnectConfigInfo autoConnect = ControlEndpoints::setAutoConnectPreference(
-        socket(), QStringLiteral("last"), Timeout, &error);
-    QCOMPARE(error, QString());
-    QCOMPARE(autoConnect.autoConnect, QStringLiteral("last"));
-
-    const ConfigPaths paths = ControlEndpoints::fetchConfigPaths(socket(), Timeout, &error);
-    QCOMPARE(paths.socketPath, socket());
-    QVERIFY(QFileInfo(paths.configDir).isDir());
-    QVERIFY(QFileInfo(paths.profilesDir).isDir());
-    QFile log(paths.logDir + QStringLiteral("/tovra-daemon.log"));
-    QVERIFY(log.open(QIODevice::ReadOnly));
-    QVERIFY(log.readAll().contains("GET /v1/config/path"));
 }
 
-void TestDemoContract::updateDownloadReachesReady()
+// The download itself, its file and cancel are driven end to end by TestUpdateFlow; here only
+// what no flow reaches: an offer the daemon no longer holds.
+void TestDemoContract::updateDownloadRefusesOtherRelease()
 {
     QString error;
     const UpdateInfo offer =
         ControlEndpoints::checkUpdate(socket(), QStringLiteral(TOVRA_VERSION), Timeout, &error);
     QCOMPARE(error, QString());
     QVERIFY(offer.updateAvailable);
-    QCOMPARE(offer.versionCode, QStringLiteral("0.3.0"));
-    QVERIFY(!offer.changeLog.isEmpty());
     QVERIFY(QUrl(offer.artifactURL).host() == QStringLiteral(TOVRA_VENDOR_HOST));
-
-    const GUIUpdateDownloadInfo started = ControlEndpoints::startGUIUpdateDownload(
-        socket(), QStringLiteral(TOVRA_VERSION), qint64(offer.versionNum), Timeout, &error);
-    QCOMPARE(error, QString());
-    QCOMPARE(started.state, QStringLiteral("checking"));
-    QTRY_COMPARE_WITH_TIMEOUT(ControlEndpoints::fetchGUIUpdateDownload(socket(), Timeout).state,
-                              QStringLiteral("ready"), 15000);
-    const GUIUpdateDownloadInfo ready = ControlEndpoints::fetchGUIUpdateDownload(socket(), Timeout);
-    QCOMPARE(ready.bytesDownloaded, offer.artifactSize);
-    QCOMPARE(ready.bytesTotal, offer.artifactSize);
-    QFile file(ready.localPath);
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    QVERIFY(hash.addData(&file));
-    QCOMPARE(QString::fromLatin1(hash.result().toHex()), offer.artifactSHA256);
-
     const GUIUpdateDownloadInfo mismatch = ControlEndpoints::startGUIUpdateDownload(
         socket(), QStringLiteral(TOVRA_VERSION), 42, Timeout, &error);
     QCOMPARE(mismatch.state, QStringLiteral("failed"));
     QCOMPARE(mismatch.errorCode, QStringLiteral("release_mismatch"));
-}
-
-void TestDemoContract::updateDownloadCancels()
-{
-    const UpdateInfo offer =
-        ControlEndpoints::checkUpdate(socket(), QStringLiteral("0.1.0"), Timeout);
-    QVERIFY(ControlEndpoints::startGUIUpdateDownload(socket(), QStringLiteral("0.1.0"),
-                                                     qint64(offer.versionNum), Timeout)
-                .valid);
-    QTRY_COMPARE_WITH_TIMEOUT(ControlEndpoints::fetchGUIUpdateDownload(socket(), Timeout).state,
-                              QStringLiteral("downloading"), 5000);
-    QString error;
-    const GUIUpdateDownloadInfo canceling =
-        ControlEndpoints::cancelGUIUpdateDownload(socket(), Timeout, &error);
-    QCOMPARE(error, QString());
-    QCOMPARE(canceling.state, QStringLiteral("canceling"));
-    QTRY_COMPARE_WITH_TIMEOUT(ControlEndpoints::fetchGUIUpdateDownload(socket(), Timeout).state,
-                              QStringLiteral("canceled"), 5000);
-    const GUIUpdateDownloadInfo canceled =
-        ControlEndpoints::fetchGUIUpdateDownload(socket(), Timeout);
-    QVERIFY(canceled.localPath.isEmpty());
-    QCOMPARE(canceled.bytesDownloaded, 0);
 }
 
 QTEST_GUILESS_MAIN(TestDemoContract)

@@ -67,7 +67,6 @@ private Q_SLOTS:
     void truncatedAnswerNeverYieldsRecord_data();
     void truncatedAnswerNeverYieldsRecord();
     void garbageIsNoAnswer();
-    void incompatibleDaemon();
     void faultOnOnePathSparesTheRest();
 };
 
@@ -172,22 +171,6 @@ void TestDemoFaults::garbageIsNoAnswer()
     QVERIFY2(error == QLatin1String("invalid control response") ||
                  error == QLatin1String("QLocalSocket: Remote closed"),
              qPrintable(error));
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::incompatibleDaemon()
-{
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--incompatible")}), qPrintable(daemon.errorString()));
-    QString error;
-    const VersionInfo version = ControlEndpoints::fetchVersion(daemon.socketPath(), 5000, &error);
-    QVERIFY(version.valid);
-    QVERIFY(!version.compatible);
-    QCOMPARE(version.daemonVersion, QStringLiteral("2.8.0-demo"));
-    QCOMPARE(version.controlVersion, QStringLiteral("2"));
-    QCOMPARE(
-        error,
-        QStringLiteral("control version 1 is not supported; this daemon speaks control version 2"));
     QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
 }
 

@@ -145,6 +145,10 @@ void TestTovraAppShell::trayConnectEndsConnected()
                               4000);
     QTRY_COMPARE_WITH_TIMEOUT(shell.tray()->menu().statusLine->text(),
                               QStringLiteral("Tovra: connected"), 4000);
+    const TrayMenu &menu = shell.tray()->menu();
+    QVERIFY(!menu.connect->isEnabled());
+    QVERIFY(menu.disconnect->isEnabled());
+    QTRY_COMPARE(menu.account->text(), QStringLiteral("Account: demo@tovra.invalid"));
 }
 
 QTEST_MAIN(TestTovraAppShell)

@@ -74,11 +74,7 @@ void ScriptedPeer::handleConnection(QLocalSocket *socket)
         m_requests.append(QByteArray());
         slot = m_requests.size() - 1;
     }
-    connect(socket, &QLocalSocket::disconnected, socket, [this, socket] {
-        QMutexLocker lock(&m_mutex);
-        m_clientClosed = true;
-        socket->deleteLater();
-    });
+    connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
     auto answered = std::make_shared<bool>(false);
     auto onData = [this, socket, slot, reply, answered] {
         const QByteArray chunk = socket->readAll();
@@ -156,12 +152,6 @@ int ScriptedPeer::connectionCount() const
 {
     QMutexLocker lock(&m_mutex);
     return m_connections;
-}
-
-bool ScriptedPeer::clientClosed() const
-{
-    QMutexLocker lock(&m_mutex);
-    return m_clientClosed;
 }
 
 QByteArray ScriptedPeer::response(int status, const QByteArray &body,

@@ -56,8 +56,6 @@ public:
     QList<QByteArray> requests() const;
     QByteArray lastRequest() const;
     int connectionCount() const;
-    // True once the peer saw a connection close from the client's side.
-    bool clientClosed() const;
 
     // Builds "HTTP/1.1 <status> X\r\n<headers>Content-Length: n\r\n\r\n<body>".
     static QByteArray response(int status, const QByteArray &body,
@@ -77,5 +75,4 @@ private:
     QList<std::pair<QByteArray, QByteArray>> m_routes;
     QList<QByteArray> m_requests;
     int m_connections = 0;
-    bool m_clientClosed = false;
 };

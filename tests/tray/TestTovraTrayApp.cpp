@@ -5,7 +5,6 @@
 #include "ScriptedPeer.h"
 #include "TempXdgDirs.h"
 #include "TovraTrayApp.h"
-#include "TrayMenuBuilder.h"
 #include "TrayMenuCloseWatcher.h"
 
 #include <QAction>
@@ -80,7 +79,6 @@ private Q_SLOTS:
     void controlUnavailable();
     void openLogs_data();
     void openLogs();
-    void flatLayout();
 
 private:
     void startWith(const QByteArray &reply);
@@ -322,13 +320,9 @@ void TestTovraTrayApp::modeEntryWhileBusySendsNothing_data()
 {
     QTest::addColumn<Entry>("entry");
     QTest::newRow("Auto") << &TrayMenu::autoMode;
-    QTest::newRow("WireGuard") << &TrayMenu::wireGuard;
     QTest::newRow("TovraVPN Global") << &TrayMenu::tunnelGlobal;
-    QTest::newRow("TovraVPN Split") << &TrayMenu::tunnelSplit;
     QTest::newRow("Tovra Proxy Global") << &TrayMenu::proxyGlobal;
-    QTest::newRow("Tovra Proxy Split") << &TrayMenu::proxySplit;
     QTest::newRow("GFWList -> Tunnel") << &TrayMenu::tunnelGfwList;
-    QTest::newRow("Default: Proxy") << &TrayMenu::proxyDefaultProxy;
     QTest::newRow("System Proxy On") << &TrayMenu::systemProxyOn;
     QTest::newRow("Local Network Protected") << &TrayMenu::localProtected;
 }
@@ -501,24 +495,12 @@ void TestTovraTrayApp::splitOptionRequestBytes_data()
         << QByteArray(R"({"policy":"split","split_profile":{"custom_rules":false,)"
                       R"("default_route":"proxy","direct_regions":["CN"],"gfwlist":true,)"
                       R"("lan_routing":"","proxy_regions":[]},"transport":"tovravpn"})");
-    QTest::addRow("tunnel default direct")
-        << true << &TrayMenu::tunnelDefaultDirect << QString()
-        << "Tovra: updating TovraVPN split..."
-        << QByteArray(R"({"policy":"split","split_profile":{"custom_rules":false,)"
-                      R"("default_route":"direct","direct_regions":["CN"],"gfwlist":false,)"
-                      R"("lan_routing":"","proxy_regions":[]},"transport":"tovravpn"})");
     QTest::addRow("tunnel custom rules on")
         << true << &TrayMenu::tunnelCustomRules << QString()
         << "Tovra: updating TovraVPN custom rules..."
         << QByteArray(R"({"policy":"split","split_profile":{"custom_rules":true,)"
                       R"("default_route":"proxy","direct_regions":["CN"],"gfwlist":false,)"
                       R"("lan_routing":"","proxy_regions":[]},"transport":"tovravpn"})");
-    QTest::addRow("proxy default proxy")
-        << false << &TrayMenu::proxyDefaultProxy << QString()
-        << "Tovra: updating Tovra Proxy Split..."
-        << QByteArray(R"({"policy":"split","proxy_split_profile":{"custom_rules":false,)"
-                      R"("default_route":"proxy","direct_regions":[],"gfwlist":false,)"
-                      R"("lan_routing":"","proxy_regions":["US"]},"transport":"proxy"})");
     QTest::addRow("proxy GFWList on")
         << false << &TrayMenu::proxyGfwList << QString() << "Tovra: updating Tovra Proxy GFWList..."
         << QByteArray(R"({"policy":"split","proxy_split_profile":{"custom_rules":false,)"
@@ -529,11 +511,6 @@ void TestTovraTrayApp::splitOptionRequestBytes_data()
         << QByteArray(R"({"policy":"split","split_profile":{"custom_rules":false,)"
                       R"("default_route":"proxy","direct_regions":[],"gfwlist":false,)"
                       R"("lan_routing":"","proxy_regions":[]},"transport":"tovravpn"})");
-    QTest::addRow("proxy region removed")
-        << false << Entry() << u"US"_s << "Tovra: updating Tovra Proxy regions..."
-        << QByteArray(R"({"policy":"split","proxy_split_profile":{"custom_rules":false,)"
-                      R"("default_route":"direct","direct_regions":[],"gfwlist":false,)"
-                      R"("lan_routing":"","proxy_regions":[]},"transport":"proxy"})");
 }
 
 void TestTovraTrayApp::splitOptionRequestBytes()
@@ -636,23 +613,6 @@ void TestTovraTrayApp::openLogs()
     const bool tried = message.isEmpty() || !openerSucceeds;
     QCOMPARE(urls, tried ? QList<QUrl>{QUrl::fromLocalFile(QDir::tempPath())} : QList<QUrl>());
     QCOMPARE(m.daemonLine->text(), message.isEmpty() ? before : message);
-}
-
-void TestTovraTrayApp::flatLayout()
-{
-    TrayMenuBuilder::setUsesSubmenus(false);
-    const TrayMenu flat = TrayMenuBuilder::build();
-    TrayMenuBuilder::setUsesSubmenus(true);
-    const std::unique_ptr<QMenu> owner(flat.menu);
-
-    QVERIFY(!flat.nodeMenu && !flat.modeMenu && !flat.localNetworkMenu);
-    const QList<QAction *> top = flat.menu->actions();
-    for (QAction *action : flat.nodeEntries + QList<QAction *>{flat.autoMode, flat.tunnelGlobal,
-                                                               flat.proxySplit, flat.localDirect})
-        QVERIFY2(top.contains(action), qPrintable(action->text()));
-    QCOMPARE(flat.modeTitle->text(), u"[ Mode ]"_s);
-    QCOMPARE(flat.localNetworkTitle->text(), u"[ LAN Access ]"_s);
-    QVERIFY(flat.tunnelSplitMenu->menuAction()->isVisible());
 }
 
 QTEST_MAIN(TestTovraTrayApp)

@@ -15,7 +15,6 @@
 #include <QThread>
 
 #include <memory>
-#include <optional>
 
 using namespace Qt::StringLiterals;
 
@@ -35,7 +34,6 @@ private Q_SLOTS:
     void modeAnswerSetsCheckMarks();
     void systemProxyAnswer();
     void nodeEntriesFromTheCatalogue();
-    void shellConnectShowsCancelThenConnected();
 
 private:
     std::unique_ptr<TempXdgDirs> m_xdg;
@@ -87,12 +85,8 @@ void TestTrayWithDemoDaemon::modeAnswerSetsCheckMarks_data()
     // The row's name is the mode's title.
     QTest::newRow("WireGuard") << &TrayMenu::wireGuard << "Tovra: switching to WireGuard..."
                                << false << false;
-    QTest::newRow("TovraVPN Global")
-        << &TrayMenu::tunnelGlobal << "Tovra: switching to TovraVPN..." << false << false;
     QTest::newRow("TovraVPN Split")
         << &TrayMenu::tunnelSplit << "Tovra: switching TovraVPN split..." << true << false;
-    QTest::newRow("Tovra Proxy Global")
-        << &TrayMenu::proxyGlobal << "Tovra: switching to Tovra Proxy..." << false << false;
     QTest::newRow("Tovra Proxy Split")
         << &TrayMenu::proxySplit << "Tovra: switching to Tovra Proxy Split..." << false << true;
 }
@@ -162,40 +156,6 @@ void TestTrayWithDemoDaemon::nodeEntriesFromTheCatalogue()
     QCOMPARE(chosen.count(), 1);
     QCOMPARE(chosen.at(0).at(0).toString(), first->data().toString());
     QCOMPARE(chosen.at(0).at(1).toString(), first->text());
-}
-
-void TestTrayWithDemoDaemon::shellConnectShowsCancelThenConnected()
-{
-    const TrayMenu &m = m_tray->menu();
-    // The shell signs in and connects with its own numbers; the tray only watches.
-    // Received on this thread: a spy in the worker's thread could miss a fast answer.
-    std::optional<QString> loginError;
-    QObject context;
-    connect(m_worker, &ControlWorker::loginFinished, &context,
-            [&](quint64, const RuntimeInfo &, const QString &error) { loginError = error; });
-    QMetaObject::invokeMethod(m_worker, "login", Qt::QueuedConnection,
-                              Q_ARG(quint64, 4294967296ULL),
-                              Q_ARG(QString, u"demo@tovra.invalid"_s), Q_ARG(QString, u"demo"_s),
-                              Q_ARG(bool, false), Q_ARG(int, 3000));
-    QTRY_VERIFY(loginError.has_value());
-    QCOMPARE(*loginError, QString());
-
-    const quint64 connectId = 4294967297ULL;
-    m_tray->beginConnect(connectId, u"Tovra: connecting..."_s, true);
-    QCOMPARE(m.connect->text(), u"Cancel"_s);
-    QVERIFY(m.connect->isEnabled());
-    QSignalSpy cancel(m_tray.get(), &TovraTrayApp::cancelConnectRequested);
-    m.connect->trigger();
-    QCOMPARE(cancel.count(), 1);
-
-    QMetaObject::invokeMethod(m_worker, "connectRuntime", Qt::QueuedConnection,
-                              Q_ARG(quint64, connectId), Q_ARG(int, 3000));
-    QTRY_COMPARE(m.statusLine->text(), u"Tovra: connected"_s);
-    QCOMPARE(m.connect->text(), u"Connect"_s);
-    QVERIFY(!m.connect->isEnabled());
-    QVERIFY(m.disconnect->isEnabled());
-    QTRY_COMPARE(m.account->text(), u"Account: demo@tovra.invalid"_s);
-    QVERIFY(m.logout->isEnabled());
 }
 
 QTEST_MAIN(TestTrayWithDemoDaemon)

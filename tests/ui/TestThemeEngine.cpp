@@ -16,8 +16,6 @@ private Q_SLOTS:
     void renderedSheetIsComplete_data();
     void renderedSheetIsComplete();
     void directionTokensPrecedeColours();
-    void paletteRoles_data();
-    void paletteRoles();
     void resolveAppearance_data();
     void resolveAppearance();
     void pendingPrimaryActionKeepsItsColour_data();
@@ -86,34 +84,6 @@ void TestThemeEngine::directionTokensPrecedeColours()
         ThemeEngine::renderStyleSheet(QStringLiteral("a{@segmentDividerBorder@;color:@accent@}"),
                                       dark, Qt::LayoutDirectionAuto),
         QStringLiteral("a{;color:#47B96D}"));
-}
-
-void TestThemeEngine::paletteRoles_data()
-{
-    QTest::addColumn<Appearance>("appearance");
-    QTest::addColumn<QPalette::ColorGroup>("group");
-    QTest::addColumn<QPalette::ColorRole>("role");
-    QTest::addColumn<QString>("expected");
-    using P = QPalette;
-    const Appearance light = Appearance::Light, dark = Appearance::Dark;
-    QTest::addRow("window") << light << P::Active << P::Window << "#f1f3f6";
-    QTest::addRow("highlight") << light << P::Active << P::Highlight << "#037A4B";
-    QTest::addRow("placeholder") << dark << P::Active << P::PlaceholderText << "#a7b0bd";
-    QTest::addRow("disabled text") << light << P::Disabled << P::Text << "#868d9a";
-    QTest::addRow("disabled highlighted text")
-        << dark << P::Disabled << P::HighlightedText << "#6f7886";
-    QTest::addRow("disabled highlight") << light << P::Disabled << P::Highlight << "#c2c9d6";
-    QTest::addRow("disabled base keeps surface") << light << P::Disabled << P::Base << "#ffffff";
-}
-
-void TestThemeEngine::paletteRoles()
-{
-    QFETCH(Appearance, appearance);
-    QFETCH(QPalette::ColorGroup, group);
-    QFETCH(QPalette::ColorRole, role);
-    QFETCH(QString, expected);
-    const QPalette palette = ThemeEngine::buildPalette(ThemeEngine::buildColors(appearance));
-    QCOMPARE(palette.color(group, role), QColor(expected));
 }
 
 void TestThemeEngine::resolveAppearance_data()

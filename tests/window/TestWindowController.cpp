@@ -20,8 +20,8 @@
 
 namespace {
 
-// The window's intents in the window's order (checked by the window's own test), less the
-// four the controller handles itself, plus the update dialog's three.
+// The window's intents in the window's order, less the four the controller handles itself, plus
+// the update dialog's three.
 QList<QByteArray> expectedControllerSignals()
 {
     QList<QByteArray> expected = SignalProbe::ownSignals(MainWindow::staticMetaObject);

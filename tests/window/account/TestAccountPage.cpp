@@ -181,43 +181,6 @@ private Q_SLOTS:
         QCOMPARE(label->isVisible(), !expected.isEmpty());
     }
 
-    void buttons_data()
-    {
-        QTest::addColumn<bool>("inProgress");
-        QTest::addColumn<bool>("opening");
-        QTest::addColumn<QStringList>("texts"); // sign in, sign out, renew
-        QTest::addColumn<QList<bool>>("enabled");
-        QTest::addRow("idle") << false << false
-                              << QStringList{QStringLiteral("Sign In"), QStringLiteral("Sign Out"),
-                                             QStringLiteral("Renew")}
-                              << QList<bool>{true, true, true};
-        QTest::addRow("signing in or out")
-            << true << false
-            << QStringList{QStringLiteral("Signing in..."), QStringLiteral("Signing out..."),
-                           QStringLiteral("Renew")}
-            << QList<bool>{false, false, false};
-        QTest::addRow("renewal opening")
-            << false << true
-            << QStringList{QStringLiteral("Sign In"), QStringLiteral("Sign Out"),
-                           QStringLiteral("Opening\u2026")}
-            << QList<bool>{true, true, false};
-    }
-    void buttons()
-    {
-        QFETCH(bool, inProgress);
-        QFETCH(bool, opening);
-        QFETCH(QStringList, texts);
-        QFETCH(QList<bool>, enabled);
-        Page p;
-        p.page.setAccountOperationInProgress(inProgress);
-        p.page.setRenewalOpening(opening);
-        const char *names[] = {"TovraAccountSignIn", "TovraAccountLogout", "TovraAccountRenew"};
-        for (int i = 0; i < 3; ++i) {
-            QCOMPARE(p.button(names[i])->text(), texts.at(i));
-            QCOMPARE(p.button(names[i])->isEnabled(), enabled.at(i));
-        }
-    }
-
     void errors_data()
     {
         QTest::addColumn<QString>("message");

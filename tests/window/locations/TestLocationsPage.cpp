@@ -78,10 +78,6 @@ void TestLocationsPage::keyboardIntents_data()
     // Enter takes the first match: every word must start a word of the row or its groups.
     QTest::addRow("node by city and number")
         << QStringLiteral("tokyo 02") << QString() << QStringLiteral("1019");
-    QTest::addRow("node by country name")
-        << QStringLiteral("russian") << QString() << QStringLiteral("1021");
-    QTest::addRow("feature word") << QStringLiteral("zurich p2p") << QString()
-                                  << QStringLiteral("1010");
     // On a free plan the first match is locked: Enter connects nowhere.
     QTest::addRow("locked node") << QStringLiteral("berlin") << QStringLiteral("Free") << QString();
     QTest::addRow("nothing matches") << QStringLiteral("atlantis") << QString() << QString();

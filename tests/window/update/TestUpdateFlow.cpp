@@ -309,9 +309,8 @@ void TestUpdateFlow::automaticOfferShownOncePerDayUntilHidden()
     };
     QVERIFY(automaticCheckShows(T));
     QCOMPARE(m_preferences->updateBookkeeping(kGuiVersion).lastNotifiedAt, T);
+    // The day's boundary itself is tabled in TestUpdateNoticePolicy.
     QVERIFY(!automaticCheckShows(T + 3600));
-    QVERIFY(!automaticCheckShows(T + 86399));
-    QVERIFY(automaticCheckShows(T + 86400));
 
     button("TovraUpdateHide")->click();
     QVERIFY(!dialog()->isVisible());

@@ -11,6 +11,8 @@
 #include "ModePage.h"
 #include "NavigationSidebar.h"
 #include "NotificationHost.h"
+#include "PageSignals.h"
+#include "PageStack.h"
 #include "SettingsPage.h"
 #include "ThemeEngine.h"
 #include "TranslationManager.h"
@@ -25,15 +27,21 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QStackedWidget>
 #include <QUrlQuery>
 #include <QVBoxLayout>
+#include <QWindow>
 
 namespace {
 
 const QString kErrorKind = QStringLiteral("error");
 
 } // namespace
+
+template<typename T>
+T *MainWindow::builtPage(int index)
+{
+    return static_cast<T *>(m_stack->page(index));
+}
 
 MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *parent)
     : QMainWindow(parent)
@@ -47,6 +55,11 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
 
     setWindowTitle(tr("Tovra"));
     setMinimumSize(780, 620);
+    // Themed before the pages exist: each widget inherits the palette and is polished once,
+    // with the sheet, instead of being restyled after construction.
+    const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
+    setPalette(ThemeEngine::buildPalette(colors));
+    setStyleSheet(ThemeEngine::renderStyleSheet(colors, layoutDirection()));
 
     auto *closeAction = new QAction(this);
     closeAction->setObjectName(QStringLiteral("TovraCloseWindowAction"));
@@ -74,18 +87,24 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     rootLayout->addWidget(buildContentColumn(root), 1);
     setCentralWidget(root);
 
-    connectPages();
+    PageSignals::forward(m_vpnPage, this);
     applyTitleBarHooks();
 
     m_notifications = new NotificationHost(m_content);
     m_notifications->hide();
 
-    m_modeBusy =
-        new DelayedBusyIndicator([this](bool shown) { m_modePage->setModeBusy(shown); }, this);
+    m_modeBusy = new DelayedBusyIndicator(
+        [this](bool shown) {
+            if (m_modePage)
+                m_modePage->setModeBusy(shown);
+        },
+        this);
     m_settingsBusy = new DelayedBusyIndicator(
         [this](bool shown) {
-            m_settingsPage->setBusy(shown);
-            m_modePage->setSettingsBusy(shown);
+            if (m_settingsPage)
+                m_settingsPage->setBusy(shown);
+            if (m_modePage)
+                m_modePage->setSettingsBusy(shown);
         },
         this);
 
@@ -97,7 +116,7 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
         }
     });
 
-    applyTheme();
+    applyPageColors(colors);
     showPage(VpnPageIndex);
     refreshFromState();
 }
@@ -118,115 +137,68 @@ QWidget *MainWindow::buildContentColumn(QWidget *root)
     m_pageTitle->setObjectName(QStringLiteral("TovraCurrentPageTitle"));
     column->addWidget(m_pageTitle);
 
-    m_stack = new QStackedWidget(m_content);
-    // The order is the meaning of the page index everywhere.
+    m_stack = new PageStack(m_content);
+    // The order is the meaning of the page index everywhere. The first page is built now; the
+    // others when first needed, or once the window has painted (see showEvent).
     m_vpnPage = new VpnPage(m_preferences, m_stack);
-    m_locationsPage = new LocationsPage(m_stack);
-    m_locationsPage->setPreferences(m_preferences);
-    m_modePage = new ModePage(m_stack);
-    m_settingsPage = new SettingsPage(m_preferences, m_stack);
-    m_accountPage = new AccountPage(m_stack);
-    for (QWidget *page :
-         {static_cast<QWidget *>(m_vpnPage), static_cast<QWidget *>(m_locationsPage),
-          static_cast<QWidget *>(m_modePage), static_cast<QWidget *>(m_settingsPage),
-          static_cast<QWidget *>(m_accountPage)}) {
-        m_stack->addWidget(page);
-    }
+    m_stack->addWidget(m_vpnPage);
+    m_stack->addPage([](QWidget *parent) { return new LocationsPage(parent); });
+    m_stack->addPage([](QWidget *parent) { return new ModePage(parent); });
+    m_stack->addPage([preferences = m_preferences](QWidget *parent) {
+        return new SettingsPage(preferences, parent);
+    });
+    m_stack->addPage([](QWidget *parent) { return new AccountPage(parent); });
+    connect(m_stack, &PageStack::pageBuilt, this, &MainWindow::wirePage);
     column->addWidget(m_stack, 1);
     return m_content;
 }
 
-void MainWindow::connectPages()
+void MainWindow::wirePage(int index, QWidget *built)
 {
-    connect(m_vpnPage, &VpnPage::connectRuntimeRequested, this,
-            &MainWindow::connectRuntimeRequested);
-    connect(m_vpnPage, &VpnPage::cancelConnectRequested, this, &MainWindow::cancelConnectRequested);
-    connect(m_vpnPage, &VpnPage::disconnectRuntimeRequested, this,
-            &MainWindow::disconnectRuntimeRequested);
-    connect(m_vpnPage, &VpnPage::connectNodeRequested, this, &MainWindow::connectNodeRequested);
-    connect(m_vpnPage, &VpnPage::recentConnectionsCleared, this,
-            &MainWindow::recentConnectionsCleared);
-    connect(m_vpnPage, &VpnPage::connectSmartRequested, this, &MainWindow::connectSmartRequested);
-    connect(m_vpnPage, &VpnPage::pendingConnectTargetChanged, this,
-            &MainWindow::pendingConnectTargetChanged);
-    connect(m_vpnPage, &VpnPage::setKillSwitchEnabledRequested, this,
-            &MainWindow::setKillSwitchEnabledRequested);
-    connect(m_vpnPage, &VpnPage::switchToAutoAndEnableKillSwitchRequested, this,
-            &MainWindow::switchToAutoAndEnableKillSwitchRequested);
-    connect(m_vpnPage, &VpnPage::chooseModeForKillSwitchRequested, this,
-            &MainWindow::chooseModeForKillSwitchRequested);
-    connect(m_vpnPage, &VpnPage::accountPageRequested, this,
-            [this] { showPage(AccountPageIndex); });
+    const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
+    switch (index) {
+    case LocationsPageIndex:
+        m_locationsPage = static_cast<LocationsPage *>(built);
+        m_locationsPage->setPreferences(m_preferences);
+        m_locationsPage->applyTheme(colors);
+        PageSignals::forward(m_locationsPage, this);
+        break;
+    case ModePageIndex:
+        m_modePage = static_cast<ModePage *>(built);
+        m_modePage->applyTheme(colors);
+        m_modePage->setModeBusy(m_modeBusy->isShown());
+        m_modePage->setSettingsBusy(m_settingsBusy->isShown());
+        m_modePage->setSplitRulesFetchInProgress(m_splitRulesFetch);
+        m_modePage->setSplitRulesImportInProgress(m_splitRulesImport);
+        PageSignals::forward(m_modePage, this);
+        break;
+    case SettingsPageIndex:
+        m_settingsPage = static_cast<SettingsPage *>(built);
+        m_settingsPage->applyTheme(colors);
+        m_settingsPage->setBusy(m_settingsBusy->isShown());
+        PageSignals::forward(m_settingsPage, this);
+        break;
+    case AccountPageIndex:
+        m_accountPage = static_cast<AccountPage *>(built);
+        connectAccountPage(m_accountPage);
+        break;
+    default:
+        return;
+    }
+    ThemeEngine::applySwitchColors(built, colors);
+    ThemeEngine::applyScrollBarColors(built, colors);
+    refreshPages({static_cast<WindowPage *>(built)});
+}
 
-    connect(m_locationsPage, &LocationsPage::refreshLocationsRequested, this,
-            &MainWindow::refreshLocationsRequested);
-    connect(m_locationsPage, &LocationsPage::connectNodeRequested, this,
-            &MainWindow::connectNodeRequested);
-    connect(m_locationsPage, &LocationsPage::connectSmartRequested, this,
-            &MainWindow::connectSmartRequested);
-    connect(m_locationsPage, &LocationsPage::setNodeFavoriteRequested, this,
-            &MainWindow::setNodeFavoriteRequested);
-    connect(m_locationsPage, &LocationsPage::pendingConnectTargetChanged, this,
-            &MainWindow::pendingConnectTargetChanged);
-
-    connect(m_modePage, &ModePage::setModeRequested, this, &MainWindow::setModeRequested);
-    connect(m_modePage, &ModePage::splitRulesRequested, this, &MainWindow::splitRulesRequested);
-    connect(m_modePage, &ModePage::importSplitRulesRequested, this,
-            &MainWindow::importSplitRulesRequested);
-    connect(m_modePage, &ModePage::setLocalNetworkRequested, this,
-            &MainWindow::setLocalNetworkRequested);
-    connect(m_modePage, &ModePage::setSystemProxyRequested, this,
-            &MainWindow::setSystemProxyRequested);
-    connect(m_modePage, &ModePage::settingsPageRequested, this,
-            [this] { showPage(SettingsPageIndex); });
-    connect(m_settingsPage, &SettingsPage::setSystemProxyRequested, this,
-            &MainWindow::setSystemProxyRequested);
-    connect(m_settingsPage, &SettingsPage::setLocalNetworkRequested, this,
-            &MainWindow::setLocalNetworkRequested);
-
-    connect(m_settingsPage, &SettingsPage::openLogsRequested, this, &MainWindow::openLogsRequested);
-    connect(m_settingsPage, &SettingsPage::openExternalURLRequested, this,
-            &MainWindow::openExternalURLRequested);
-    connect(m_settingsPage, &SettingsPage::setKillSwitchEnabledRequested, this,
-            &MainWindow::setKillSwitchEnabledRequested);
-    connect(m_settingsPage, &SettingsPage::setKillSwitchModeRequested, this,
-            &MainWindow::setKillSwitchModeRequested);
-    connect(m_settingsPage, &SettingsPage::switchToAutoAndEnableKillSwitchRequested, this,
-            &MainWindow::switchToAutoAndEnableKillSwitchRequested);
-    connect(m_settingsPage, &SettingsPage::chooseModeForKillSwitchRequested, this,
-            &MainWindow::chooseModeForKillSwitchRequested);
-    connect(m_settingsPage, &SettingsPage::setAPIURLRequested, this,
-            &MainWindow::setAPIURLRequested);
-    connect(m_settingsPage, &SettingsPage::resetAPIURLRequested, this,
-            &MainWindow::resetAPIURLRequested);
-    connect(m_settingsPage, &SettingsPage::setAutoConnectRequested, this,
-            &MainWindow::setAutoConnectRequested);
-    connect(m_settingsPage, &SettingsPage::setLanguageRequested, this,
-            &MainWindow::setLanguageRequested);
-    connect(m_settingsPage, &SettingsPage::checkUpdateRequested, this,
-            &MainWindow::checkUpdateRequested);
-    connect(m_settingsPage, &SettingsPage::setProxyListenersRequested, this,
-            &MainWindow::setProxyListenersRequested);
-    connect(m_settingsPage, &SettingsPage::setSplitDNSLocalRequested, this,
-            &MainWindow::setSplitDNSLocalRequested);
-    connect(m_settingsPage, &SettingsPage::setSplitDNSPolicyRequested, this,
-            &MainWindow::setSplitDNSPolicyRequested);
-    connect(m_settingsPage, &SettingsPage::clearSplitDNSLocalRequested, this,
-            &MainWindow::clearSplitDNSLocalRequested);
-    connect(m_settingsPage, &SettingsPage::resetSplitDNSRequested, this,
-            &MainWindow::resetSplitDNSRequested);
-    connect(m_settingsPage, &SettingsPage::repairDiagnosticsRequested, this,
-            &MainWindow::repairDiagnosticsRequested);
-    connect(m_settingsPage, &SettingsPage::appearanceChangeRequested, this,
-            &MainWindow::setAppearancePreference);
-
-    connect(m_accountPage, &AccountPage::loginRequested, this, &MainWindow::loginRequested);
-    connect(m_accountPage, &AccountPage::logoutRequested, this, &MainWindow::logoutRequested);
-    connect(m_accountPage, &AccountPage::renewRequested, this,
+void MainWindow::connectAccountPage(AccountPage *page)
+{
+    connect(page, &AccountPage::loginRequested, this, &MainWindow::loginRequested);
+    connect(page, &AccountPage::logoutRequested, this, &MainWindow::logoutRequested);
+    connect(page, &AccountPage::renewRequested, this,
             [this] { Q_EMIT purchaseURLRequested(linkLanguage()); });
-    connect(m_accountPage, &AccountPage::signUpRequested, this,
+    connect(page, &AccountPage::signUpRequested, this,
             [this] { Q_EMIT openExternalURLRequested(accountLink(QStringLiteral("/signup"))); });
-    connect(m_accountPage, &AccountPage::forgotPasswordRequested, this, [this] {
+    connect(page, &AccountPage::forgotPasswordRequested, this, [this] {
         Q_EMIT openExternalURLRequested(accountLink(QStringLiteral("/password-reset")));
     });
 }
@@ -267,7 +239,8 @@ void MainWindow::refreshPages(std::initializer_list<WindowPage *> pages)
         return;
     }
     for (WindowPage *page : pages) {
-        page->refresh(*m_state);
+        if (page) // not built yet: it reads the state when it is
+            page->refresh(*m_state);
     }
 }
 
@@ -288,6 +261,7 @@ void MainWindow::showPage(int index)
         return;
     }
     const int previous = m_stack->currentIndex();
+    m_stack->page(index);
     m_stack->setCurrentIndex(index);
 
     if (previous == VpnPageIndex && index != VpnPageIndex) {
@@ -351,18 +325,24 @@ void MainWindow::setSettingsOperationBusy(bool busy)
 void MainWindow::settleSettingsPage()
 {
     // An answered or failed change leaves every Settings control on the daemon's value.
+    if (!m_settingsPage) {
+        return;
+    }
     m_settingsPage->settle();
     refreshPages({m_settingsPage});
 }
 
 void MainWindow::setSettingsNote(const QString &key, const QString &text)
 {
-    m_settingsPage->setNote(key, text);
+    builtPage<SettingsPage>(SettingsPageIndex)->setNote(key, text);
 }
 
 void MainWindow::setRepairResult(const RepairResultInfo &result)
 {
-    m_settingsPage->setRepairResult(result);
+    // A page built later starts from the defaults: a default value needs no page built for it.
+    if (m_settingsPage || result != RepairResultInfo()) {
+        builtPage<SettingsPage>(SettingsPageIndex)->setRepairResult(result);
+    }
 }
 
 void MainWindow::setSplitRulesFetchInProgress(bool inProgress)
@@ -371,7 +351,9 @@ void MainWindow::setSplitRulesFetchInProgress(bool inProgress)
         return;
     }
     m_splitRulesFetch = inProgress;
-    m_modePage->setSplitRulesFetchInProgress(inProgress);
+    if (m_modePage) {
+        m_modePage->setSplitRulesFetchInProgress(inProgress);
+    }
 }
 
 void MainWindow::setSplitRulesImportInProgress(bool inProgress)
@@ -380,7 +362,9 @@ void MainWindow::setSplitRulesImportInProgress(bool inProgress)
         return;
     }
     m_splitRulesImport = inProgress;
-    m_modePage->setSplitRulesImportInProgress(inProgress);
+    if (m_modePage) {
+        m_modePage->setSplitRulesImportInProgress(inProgress);
+    }
 }
 
 void MainWindow::showError(const QString &message, const QString &fallback)
@@ -406,7 +390,7 @@ void MainWindow::showModeOperationError(const QString &message)
     if (text.isEmpty()) {
         text = tr("Mode operation failed");
     }
-    if (!m_modePage->offerInlineError(text)) {
+    if (!m_modePage || !m_modePage->offerInlineError(text)) {
         showNotification(text, kErrorKind, ErrorDurationMs);
     }
     settleSettingsPage();
@@ -421,27 +405,35 @@ void MainWindow::showNotification(const QString &text, const QString &kind, int 
 
 void MainWindow::setAccountOperationInProgress(bool inProgress)
 {
-    m_accountPage->setAccountOperationInProgress(inProgress);
+    if (m_accountPage || inProgress) {
+        builtPage<AccountPage>(AccountPageIndex)->setAccountOperationInProgress(inProgress);
+    }
 }
 
 void MainWindow::setRenewalOpening(bool opening)
 {
-    m_accountPage->setRenewalOpening(opening);
+    if (m_accountPage || opening) {
+        builtPage<AccountPage>(AccountPageIndex)->setRenewalOpening(opening);
+    }
 }
 
 void MainWindow::showAccountError(const QString &message)
 {
-    m_accountPage->showError(message);
+    builtPage<AccountPage>(AccountPageIndex)->showError(message);
 }
 
 void MainWindow::clearAccountMessage()
 {
-    m_accountPage->clearMessage();
+    if (m_accountPage) {
+        m_accountPage->clearMessage();
+    }
 }
 
 void MainWindow::setDaemonUnavailableReason(const QString &reason)
 {
-    m_accountPage->setDaemonUnavailableReason(reason);
+    if (m_accountPage || !reason.isEmpty()) {
+        builtPage<AccountPage>(AccountPageIndex)->setDaemonUnavailableReason(reason);
+    }
     m_vpnPage->setDaemonUnavailableReason(reason);
 }
 
@@ -453,12 +445,12 @@ void MainWindow::setConnectInProgress(bool inProgress, const QString &targetId,
 
 void MainWindow::showSplitRulesResult(const QString &text, const QString &kind)
 {
-    m_modePage->showSplitRulesResult(text, kind);
+    builtPage<ModePage>(ModePageIndex)->showSplitRulesResult(text, kind);
 }
 
 void MainWindow::highlightKillSwitchModes()
 {
-    m_modePage->highlightKillSwitchModes();
+    builtPage<ModePage>(ModePageIndex)->highlightKillSwitchModes();
 }
 
 void MainWindow::placeNotificationHost()
@@ -501,11 +493,20 @@ void MainWindow::applyTheme()
     const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
     ThemeEngine::applyPaletteRecursively(this, ThemeEngine::buildPalette(colors));
     setStyleSheet(ThemeEngine::renderStyleSheet(colors, layoutDirection()));
+    applyPageColors(colors);
+}
+
+void MainWindow::applyPageColors(const ThemeColors &colors)
+{
     m_vpnPage->applyTheme(colors);
     m_sidebar->applyTheme(colors);
-    m_locationsPage->applyTheme(colors);
-    m_modePage->applyTheme(colors);
-    m_settingsPage->applyTheme(colors);
+    // Pages not built yet take the colours when they are.
+    if (m_locationsPage)
+        m_locationsPage->applyTheme(colors);
+    if (m_modePage)
+        m_modePage->applyTheme(colors);
+    if (m_settingsPage)
+        m_settingsPage->applyTheme(colors);
     ThemeEngine::applySwitchColors(this, colors);
     ThemeEngine::applyScrollBarColors(this, colors);
 }
@@ -563,6 +564,20 @@ void MainWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     applyTitleBarHooks();
+    if (!m_stack->allBuilt() && windowHandle()) {
+        windowHandle()->installEventFilter(this);
+    }
+}
+
+bool MainWindow::eventFilter(QObject *watched, QEvent *event)
+{
+    // Once the first page is on screen, the others are built in the turns that follow.
+    if (watched == windowHandle() && event->type() == QEvent::Expose &&
+        windowHandle()->isExposed()) {
+        windowHandle()->removeEventFilter(this);
+        m_stack->buildRemainingPages();
+    }
+    return QMainWindow::eventFilter(watched, event);
 }
 
 void MainWindow::applyTitleBarHooks()

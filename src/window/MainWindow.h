@@ -19,7 +19,7 @@ class ModePage;
 class NavigationSidebar;
 class NotificationHost;
 class QLabel;
-class QStackedWidget;
+class PageStack;
 class SettingsPage;
 class VpnPage;
 class WindowPage;
@@ -136,14 +136,20 @@ protected:
     void showEvent(QShowEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
     void mouseDoubleClickEvent(QMouseEvent *event) override;
+    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     QWidget *buildContentColumn(QWidget *root);
-    void connectPages();
+    void wirePage(int index, QWidget *built);
+    void connectAccountPage(AccountPage *page);
+    // The page, built first if it was not yet.
+    template<typename T>
+    T *builtPage(int index);
     void connectState();
     void refreshPages(std::initializer_list<WindowPage *> pages);
     void settleSettingsPage();
     void applyTheme();
+    void applyPageColors(const ThemeColors &colors);
     void applyTitleBarHooks();
     bool inUnifiedTitleBar(const QMouseEvent *event) const;
     void placeNotificationHost();
@@ -159,7 +165,7 @@ private:
     NavigationSidebar *m_sidebar = nullptr;
     QWidget *m_content = nullptr;
     QLabel *m_pageTitle = nullptr;
-    QStackedWidget *m_stack = nullptr;
+    PageStack *m_stack = nullptr;
     VpnPage *m_vpnPage = nullptr;
     LocationsPage *m_locationsPage = nullptr;
     ModePage *m_modePage = nullptr;

@@ -5,6 +5,7 @@
 #include "ModePage.h"
 #include "NavigationSidebar.h"
 #include "NotificationHost.h"
+#include "PageStack.h"
 #include "QuitWatcher.h"
 #include "SettingsPage.h"
 #include "SignalProbe.h"
@@ -30,6 +31,13 @@ struct Fixture
     GuiPreferences preferences;
     QPointer<MainWindow> window = new MainWindow(&state, &preferences);
 
+    Fixture()
+    {
+        // Every page built, as after the first paint.
+        auto *stack = window->findChild<PageStack *>();
+        for (int index = 0; index < stack->count(); ++index)
+            stack->page(index);
+    }
     ~Fixture() { delete window.data(); }
     template<typename T>
     T *find(const QString &name = QString()) const
@@ -62,6 +70,7 @@ private Q_SLOTS:
     void splitRulesRequest();
     void splitRulesNotRequestedAgainWhileFetching();
     void busyIndicatorsWaitForTheDelay();
+    void pagesBuiltLate();
     void errorFallbacks_data();
     void errorFallbacks();
     void appearance_data();
@@ -183,6 +192,28 @@ void TestMainWindow::busyIndicatorsWaitForTheDelay()
     QVERIFY(!mode->isSettingsBusy());
     f.window->setModeOperationBusy(false);
     QVERIFY(!mode->isModeBusy());
+}
+
+void TestMainWindow::pagesBuiltLate()
+{
+    TempXdgDirs dirs;
+    AppState state;
+    GuiPreferences preferences;
+    MainWindow window(&state, &preferences);
+    // Until the window has painted, only the first page exists; a visit builds one at once.
+    QVERIFY(!window.findChild<ModePage *>());
+    window.showPage(MainWindow::SettingsPageIndex);
+    QVERIFY(window.findChild<SettingsPage *>());
+    QVERIFY(!window.findChild<ModePage *>());
+    window.setSplitRulesImportInProgress(true);
+    window.showPage(MainWindow::VpnPageIndex);
+
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QTRY_VERIFY(window.findChild<ModePage *>());
+    // A page built late takes what the window was told before it existed.
+    QVERIFY(window.findChild<ModePage *>()->isSplitRulesImportInProgress());
+    QCOMPARE(window.findChildren<SettingsPage *>().size(), 1);
 }
 
 void TestMainWindow::errorFallbacks_data()

@@ -4,6 +4,7 @@
 #include "ThemeColors.h"
 
 #include <QComboBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QStyle>
@@ -32,6 +33,16 @@ public:
     using QTabBar::QTabBar;
 
 protected:
+    bool event(QEvent *event) override
+    {
+        const bool handled = QTabBar::event(event);
+        // A bar made under a style sheet may have measured its tabs before the sheet polished
+        // it; setting the elide mode drops the measured widths and lays the tabs out again.
+        if (event->type() == QEvent::Polish)
+            setElideMode(elideMode());
+        return handled;
+    }
+
     QSize tabSizeHint(int index) const override
     {
         QSize size = QTabBar::tabSizeHint(index);

@@ -36,6 +36,8 @@ ModePage::ModePage(QWidget *parent)
     // Room on the trailing side for the scroll bar.
     cards->setContentsMargins(0, 0, 12, 0);
     cards->setSpacing(14);
+    // In place before the cards exist: placing a filled page restyles and measures it all.
+    m_scroll->setWidget(content);
     m_choices = new ModeChoiceCard(content);
     m_split = new SplitOptionsCard(content);
     m_network = new NetworkOptionsCard(content);
@@ -43,7 +45,6 @@ ModePage::ModePage(QWidget *parent)
     cards->addWidget(m_split);
     cards->addWidget(m_network);
     cards->addStretch(1);
-    m_scroll->setWidget(content);
     addContent(m_scroll);
     if (auto *box = qobject_cast<QBoxLayout *>(layout()))
         box->setStretchFactor(m_scroll, kScrollStretch);

@@ -22,12 +22,6 @@ SettingsPage::SettingsPage(GuiPreferences *preferences, QWidget *parent)
     , m_banner(new QLabel(this))
     , m_busyLabel(new QLabel(tr("Applying settings..."), this))
     , m_scroll(new QScrollArea(this))
-    , m_killSwitch(new KillSwitchSection)
-    , m_network(new NetworkSection)
-    , m_connection(new ConnectionSection)
-    , m_app(new AppSection(preferences))
-    , m_updates(new UpdatesSection)
-    , m_diagnostics(new DiagnosticsSection)
 {
     m_banner->setObjectName(QStringLiteral("TovraSettingsBanner"));
     m_banner->setWordWrap(true);
@@ -49,11 +43,18 @@ SettingsPage::SettingsPage(GuiPreferences *preferences, QWidget *parent)
     // Room on the trailing side so the scroll bar never covers a control.
     layout->setContentsMargins(0, 0, 14, 8);
     layout->setSpacing(16);
+    // In place before the cards exist: placing a filled column restyles and measures it all.
+    m_scroll->setWidget(column);
+    m_killSwitch = new KillSwitchSection(column);
+    m_network = new NetworkSection(column);
+    m_connection = new ConnectionSection(column);
+    m_app = new AppSection(preferences, column);
+    m_updates = new UpdatesSection(column);
+    m_diagnostics = new DiagnosticsSection(column);
     m_cards = {m_killSwitch, m_network, m_connection, m_app, m_updates, m_diagnostics};
     for (SettingsCard *card : std::as_const(m_cards))
         layout->addWidget(card);
     layout->addStretch(1);
-    m_scroll->setWidget(column);
     addContent(m_scroll);
     // The scroll area takes the page's height instead of the closing stretch below it.
     auto *body = static_cast<QVBoxLayout *>(this->layout());

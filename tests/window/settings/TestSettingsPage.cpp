@@ -12,6 +12,7 @@
 #include "LanguagePickerDialog.h"
 #include "MainWindow.h"
 #include "NetworkSection.h"
+#include "PageStack.h"
 #include "SettingsNotes.h"
 #include "SettingsPage.h"
 #include "TempXdgDirs.h"
@@ -56,7 +57,8 @@ struct Fixture
     AppState state;
     GuiPreferences preferences;
     MainWindow window{&state, &preferences};
-    SettingsPage *page = window.findChild<SettingsPage *>();
+    SettingsPage *page = static_cast<SettingsPage *>(
+        window.findChild<PageStack *>()->page(MainWindow::SettingsPageIndex));
 
     bool start(const QStringList &daemonArguments = {})
     {

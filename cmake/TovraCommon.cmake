@@ -27,3 +27,10 @@ if(TOVRA_FUZZ)
     target_compile_options(tovra_common INTERFACE ${_fuzz})
     target_link_options(tovra_common INTERFACE -fsanitize=address,undefined)
 endif()
+
+if(NOT TOVRA_SANITIZE AND NOT TOVRA_FUZZ)
+    # Optimised builds, the package among them, check buffer bounds of the C library's string
+    # and memory calls at run time. It needs optimisation; the sanitizers check these themselves.
+    target_compile_options(tovra_common INTERFACE
+        "$<$<NOT:$<CONFIG:Debug>>:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2>")
+endif()

@@ -8,6 +8,7 @@
 #include "GuiPreferences.h"
 #include "LanguageFlow.h"
 #include "RequestLedger.h"
+#include "RoutingFlow.h"
 #include "SettingsFlow.h"
 #include "ShellNotifier.h"
 #include "ShellText.h"
@@ -46,6 +47,7 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     m_connection = new ConnectionFlow(
         m_context, m_update, [this] { return busy(); }, this);
     m_catalog = new CatalogFlow(m_context, this);
+    m_routing = new RoutingFlow(m_context, this);
     m_settings = new SettingsFlow(m_context, this);
     m_account = new AccountFlow(m_context, this);
     m_language = new LanguageFlow(m_context, this);
@@ -146,7 +148,7 @@ void TovraAppShell::requestVersion()
 bool TovraAppShell::busy() const
 {
     return m_connection->connectInProgress() || m_connection->disconnectInProgress() ||
-           m_settings->busy() || m_account->busy();
+           m_routing->busy() || m_account->busy();
 }
 
 void TovraAppShell::handleRuntimeChanged(const RuntimeInfo &runtime)
@@ -210,12 +212,12 @@ void TovraAppShell::disconnectRuntimeFromTray()
 
 void TovraAppShell::setModePreference(ModeInfo mode)
 {
-    m_settings->setMode(mode);
+    m_routing->setMode(mode);
 }
 
 void TovraAppShell::setLocalNetworkPreference(QString mode)
 {
-    m_settings->setLocalNetwork(mode);
+    m_routing->setLocalNetwork(mode);
 }
 
 void TovraAppShell::refreshLocations()
@@ -245,12 +247,12 @@ void TovraAppShell::setLocationFavorite(QString nodeID, bool favorite)
 
 void TovraAppShell::refreshModeSplitRules()
 {
-    m_settings->refreshSplitRules();
+    m_routing->refreshSplitRules();
 }
 
 void TovraAppShell::importModeSplitRules(QString kind, QString content)
 {
-    m_settings->importSplitRules(kind, content);
+    m_routing->importSplitRules(kind, content);
 }
 
 void TovraAppShell::openLogs()
@@ -307,27 +309,27 @@ void TovraAppShell::pollGUIUpdateDownload()
 
 void TovraAppShell::setSettingsKillSwitchEnabled(bool enabled)
 {
-    m_settings->setKillSwitchEnabled(enabled);
+    m_routing->setKillSwitchEnabled(enabled);
 }
 
 void TovraAppShell::setSettingsKillSwitchMode(QString mode)
 {
-    m_settings->setKillSwitchMode(mode);
+    m_routing->setKillSwitchMode(mode);
 }
 
 void TovraAppShell::switchToAutoAndEnableKillSwitch()
 {
-    m_settings->switchToAutoAndEnableKillSwitch();
+    m_routing->switchToAutoAndEnableKillSwitch();
 }
 
 void TovraAppShell::chooseModeForKillSwitch()
 {
-    m_settings->chooseModeForKillSwitch();
+    m_routing->chooseModeForKillSwitch();
 }
 
 void TovraAppShell::cancelPendingKillSwitchEnable()
 {
-    m_settings->cancelPendingKillSwitchEnable();
+    m_routing->cancelPendingKillSwitchEnable();
 }
 
 void TovraAppShell::setSettingsProxyListeners(QString socksAddress, QString httpAddress)
@@ -362,7 +364,7 @@ void TovraAppShell::repairSettingsDiagnostics()
 
 void TovraAppShell::setSettingsSystemProxyPreference(QString mode)
 {
-    m_settings->setSystemProxy(mode);
+    m_routing->setSystemProxy(mode);
 }
 
 void TovraAppShell::loginAccount(QString username, QString password, bool rememberMe)
@@ -432,7 +434,7 @@ void TovraAppShell::handleWindowDisconnectFinished(quint64 requestId, RuntimeInf
 
 void TovraAppShell::handleWindowModeFinished(quint64 requestId, ModeInfo info, QString errorMessage)
 {
-    m_settings->handleMode(requestId, info, errorMessage);
+    m_routing->handleMode(requestId, info, errorMessage);
 }
 
 void TovraAppShell::handleWindowVersionFinished(quint64 requestId, VersionInfo info,
@@ -514,14 +516,14 @@ void TovraAppShell::handleWindowSplitDNSFinished(quint64 requestId, SplitDNSInfo
 void TovraAppShell::handleWindowSplitRulesFinished(quint64 requestId, SplitRulesInfo info,
                                                    QString errorMessage)
 {
-    m_settings->handleSplitRules(requestId, info, errorMessage);
+    m_routing->handleSplitRules(requestId, info, errorMessage);
 }
 
 void TovraAppShell::handleWindowSplitRuleImportFinished(quint64 requestId,
                                                         SplitRuleMutationInfo info,
                                                         QString errorMessage)
 {
-    m_settings->handleSplitRuleImport(requestId, info, errorMessage);
+    m_routing->handleSplitRuleImport(requestId, info, errorMessage);
 }
 
 void TovraAppShell::handleWindowRepairFinished(quint64 requestId, RepairResultInfo info,
@@ -539,7 +541,8 @@ void TovraAppShell::handleWindowConfigPathsFinished(quint64 requestId, ConfigPat
 void TovraAppShell::handleWindowKillSwitchFinished(quint64 requestId, KillSwitchInfo info,
                                                    QString errorMessage)
 {
-    m_settings->handleKillSwitch(requestId, info, errorMessage);
+    if (!m_settings->handleKillSwitchLoad(requestId, info, errorMessage))
+        m_routing->handleKillSwitch(requestId, info, errorMessage);
 }
 
 void TovraAppShell::handleWindowLoginFinished(quint64 requestId, RuntimeInfo info,

@@ -16,6 +16,7 @@ class ConnectionFlow;
 class GuiPreferences;
 class LanguageFlow;
 class RequestLedger;
+class RoutingFlow;
 class SettingsFlow;
 class ShellNotifier;
 class ShellWorkers;
@@ -59,6 +60,7 @@ public:
     RequestLedger *ledger() const { return m_context.ledger; }
     CatalogFlow *catalogFlow() const { return m_catalog; }
     ConnectionFlow *connectionFlow() const { return m_connection; }
+    RoutingFlow *routingFlow() const { return m_routing; }
     LanguageFlow *languageFlow() const { return m_language; }
     UpdateFlow *updateFlow() const { return m_update; }
     SettingsFlow *settingsFlow() const { return m_settings; }
@@ -160,6 +162,7 @@ private:
     bool m_ownsPreferences = false;
     ConnectionFlow *m_connection = nullptr;
     CatalogFlow *m_catalog = nullptr;
+    RoutingFlow *m_routing = nullptr;
     SettingsFlow *m_settings = nullptr;
     AccountFlow *m_account = nullptr;
     LanguageFlow *m_language = nullptr;

@@ -20,6 +20,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>تسجيل الدخول</translation>
     </message>
     <message>
@@ -40,14 +41,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>إنشاء حساب</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>هل نسيت كلمة المرور؟</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>جارٍ تسجيل الدخول...</translation>
     </message>
 </context>
@@ -55,10 +59,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>تجديد</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>تسجيل الخروج</translation>
     </message>
     <message>
@@ -83,10 +89,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>جارٍ تسجيل الخروج...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>جارٍ الفتح…</translation>
     </message>
 </context>
@@ -98,6 +106,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>تغيير…</translation>
     </message>
     <message>
@@ -204,6 +213,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء</translation>
     </message>
 </context>
@@ -219,10 +229,12 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>حفظ</translation>
     </message>
     <message>
         <source>Reset to default</source>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
         <translation>استعادة الافتراضي</translation>
     </message>
     <message>
@@ -1307,10 +1319,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>إصلاح</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>فتح السجلات</translation>
     </message>
     <message>
@@ -1327,6 +1341,7 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>نسخ</translation>
     </message>
     <message>
@@ -1421,6 +1436,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>التبديل إلى التلقائي والتفعيل</translation>
     </message>
     <message>
@@ -1429,6 +1445,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>اختيار الوضع…</translation>
     </message>
     <message>
@@ -1437,6 +1454,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء</translation>
     </message>
     <message>
@@ -1449,6 +1467,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>فتح الإعدادات</translation>
     </message>
     <message>
@@ -1567,6 +1586,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>استخدام اللغة</translation>
     </message>
 </context>
@@ -1735,6 +1755,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>تحديث (%1 ث)</translation>
     </message>
     <message>
@@ -1964,6 +1985,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Apply listeners</source>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
         <translation>تطبيق المستمعين</translation>
     </message>
     <message>
@@ -1976,14 +1998,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>حفظ الخوادم</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>مسح الخوادم</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>إعادة ضبط DNS المقسَّم</translation>
     </message>
     <message>
@@ -2266,6 +2291,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>اختيار…</translation>
     </message>
     <message>
@@ -2282,6 +2308,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>تحرير القواعد…</translation>
     </message>
     <message>
@@ -2635,6 +2662,7 @@ Try a country, a city or a code such as “de”.</source>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>حفظ</translation>
     </message>
     <message>
@@ -2651,6 +2679,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء</translation>
     </message>
     <message>
@@ -2686,6 +2715,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>استيراد</translation>
     </message>
     <message>
@@ -2710,6 +2740,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>إغلاق</translation>
     </message>
     <message>
@@ -3335,14 +3366,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>إخفاء هذا التحديث</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>ليس الآن</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>الخروج من Tovra</translation>
     </message>
     <message>
@@ -3351,6 +3385,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>فتح رابط التنزيل</translation>
     </message>
     <message>
@@ -3409,6 +3444,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>التنزيل في الخلفية</translation>
     </message>
     <message>
@@ -3421,6 +3457,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>جارٍ الإلغاء...</translation>
     </message>
     <message>
@@ -3429,14 +3466,17 @@ Available version: %2</source>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء التنزيل</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>جارٍ فتح المثبّت...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>إعادة التنزيل</translation>
     </message>
     <message>
@@ -3445,6 +3485,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>تنزيل التحديث</translation>
     </message>
     <message>
@@ -3460,6 +3501,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>التحقق من وجود تحديثات</translation>
     </message>
     <message>
@@ -3490,22 +3532,27 @@ Available version: %2</source>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>اتصال</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>تسجيل الدخول</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>إلغاء</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>قطع الاتصال</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>جارٍ قطع الاتصال…</translation>
     </message>
     <message>
@@ -3577,6 +3624,7 @@ Available version: %2</source>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>مسح</translation>
     </message>
     <message>

@@ -20,6 +20,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>Iniciar sesión</translation>
     </message>
     <message>
@@ -40,14 +41,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>Crear cuenta</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>¿Has olvidado la contraseña?</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>Iniciando sesión...</translation>
     </message>
 </context>
@@ -55,10 +59,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>Renovar</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>Cerrar sesión</translation>
     </message>
     <message>
@@ -83,10 +89,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>Cerrando sesión...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>Abriendo…</translation>
     </message>
 </context>
@@ -98,6 +106,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>Cambiar…</translation>
     </message>
     <message>
@@ -204,6 +213,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
 </context>
@@ -219,11 +229,13 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>Guardar</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation>Restablecer valor predeterminado</translation>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1307,10 +1319,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>Reparar</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>Abrir registros</translation>
     </message>
     <message>
@@ -1327,6 +1341,7 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>Copiar</translation>
     </message>
     <message>
@@ -1421,6 +1436,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>Cambiar a Automático y activar</translation>
     </message>
     <message>
@@ -1429,6 +1445,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>Elegir modo…</translation>
     </message>
     <message>
@@ -1437,6 +1454,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -1449,6 +1467,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>Abrir Configuración</translation>
     </message>
     <message>
@@ -1567,6 +1586,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>Usar idioma</translation>
     </message>
 </context>
@@ -1735,6 +1755,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>Actualizar (%1 s)</translation>
     </message>
     <message>
@@ -1964,7 +1985,8 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation>Aplicar direcciones de escucha</translation>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
+        <translation>Aplicar direcciones</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
@@ -1976,14 +1998,17 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>Guardar servidores</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>Borrar servidores</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>Restablecer el DNS dividido</translation>
     </message>
     <message>
@@ -2266,6 +2291,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>Elegir…</translation>
     </message>
     <message>
@@ -2282,6 +2308,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>Editar reglas…</translation>
     </message>
     <message>
@@ -2631,6 +2658,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>Guardar</translation>
     </message>
     <message>
@@ -2647,6 +2675,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -2682,6 +2711,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>Importar</translation>
     </message>
     <message>
@@ -2706,6 +2736,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>Cerrar</translation>
     </message>
     <message>
@@ -3331,14 +3362,17 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>Ocultar esta actualización</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>Ahora no</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Salir de Tovra</translation>
     </message>
     <message>
@@ -3347,6 +3381,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>Abrir enlace de descarga</translation>
     </message>
     <message>
@@ -3405,6 +3440,7 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>Descargar en segundo plano</translation>
     </message>
     <message>
@@ -3417,6 +3453,7 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>Cancelando...</translation>
     </message>
     <message>
@@ -3425,14 +3462,17 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar descarga</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>Abriendo el instalador...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>Reintentar descarga</translation>
     </message>
     <message>
@@ -3441,6 +3481,7 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>Descargar actualización</translation>
     </message>
     <message>
@@ -3456,6 +3497,7 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>Buscar actualizaciones</translation>
     </message>
     <message>
@@ -3486,22 +3528,27 @@ Versión disponible: %2</translation>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>Conectar</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>Iniciar sesión</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>Desconectar</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>Desconectando…</translation>
     </message>
     <message>
@@ -3573,6 +3620,7 @@ Versión disponible: %2</translation>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>Borrar</translation>
     </message>
     <message>

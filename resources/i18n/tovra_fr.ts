@@ -20,6 +20,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>Se connecter</translation>
     </message>
     <message>
@@ -40,14 +41,17 @@
     </message>
     <message>
         <source>Sign Up</source>
-        <translation>Créer un compte</translation>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
+        <translation>S’inscrire</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>Mot de passe oublié&#xa0;?</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>Connexion au compte...</translation>
     </message>
 </context>
@@ -55,10 +59,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>Renouveler</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>Se déconnecter</translation>
     </message>
     <message>
@@ -83,10 +89,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>Déconnexion du compte...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>Ouverture…</translation>
     </message>
 </context>
@@ -98,6 +106,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>Modifier…</translation>
     </message>
     <message>
@@ -204,6 +213,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler</translation>
     </message>
 </context>
@@ -219,11 +229,13 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation>Rétablir la valeur par défaut</translation>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Off</source>
@@ -1307,11 +1319,13 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>Réparer</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation>Ouvrir les journaux</translation>
+        <extracomment>Button that opens the log folder</extracomment>
+        <translation>Voir les journaux</translation>
     </message>
     <message>
         <source>Repair connection</source>
@@ -1327,6 +1341,7 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>Copier</translation>
     </message>
     <message>
@@ -1421,6 +1436,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>Passer en Auto et activer</translation>
     </message>
     <message>
@@ -1429,6 +1445,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>Choisir un mode…</translation>
     </message>
     <message>
@@ -1437,6 +1454,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
@@ -1449,6 +1467,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>Ouvrir les Paramètres</translation>
     </message>
     <message>
@@ -1567,6 +1586,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>Utiliser cette langue</translation>
     </message>
 </context>
@@ -1735,6 +1755,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>Actualiser (%1 s)</translation>
     </message>
     <message>
@@ -1964,7 +1985,8 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation>Appliquer les adresses d’écoute</translation>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
+        <translation>Appliquer les adresses</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
@@ -1976,15 +1998,18 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>Enregistrer les serveurs</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>Effacer les serveurs</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
-        <translation>Réinitialiser le DNS fractionné</translation>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
+        <translation>Rétablir le DNS fractionné</translation>
     </message>
     <message>
         <source>Off</source>
@@ -2266,6 +2291,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>Choisir…</translation>
     </message>
     <message>
@@ -2282,6 +2308,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>Modifier les règles…</translation>
     </message>
     <message>
@@ -2631,6 +2658,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>Enregistrer</translation>
     </message>
     <message>
@@ -2647,6 +2675,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
@@ -2682,6 +2711,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>Importer</translation>
     </message>
     <message>
@@ -2706,6 +2736,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
@@ -3331,14 +3362,17 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>Masquer cette mise à jour</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>Plus tard</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Quitter Tovra</translation>
     </message>
     <message>
@@ -3347,6 +3381,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>Ouvrir le lien</translation>
     </message>
     <message>
@@ -3405,6 +3440,7 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>Télécharger en arrière-plan</translation>
     </message>
     <message>
@@ -3417,6 +3453,7 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>Annulation...</translation>
     </message>
     <message>
@@ -3425,14 +3462,17 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler le téléchargement</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation>Ouverture du programme d’installation...</translation>
+        <extracomment>Button while the downloaded installer opens</extracomment>
+        <translation>Lancement de l’installation...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>Réessayer</translation>
     </message>
     <message>
@@ -3441,6 +3481,7 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>Télécharger la mise à jour</translation>
     </message>
     <message>
@@ -3456,6 +3497,7 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>Rechercher des mises à jour</translation>
     </message>
     <message>
@@ -3486,22 +3528,27 @@ Version disponible&#xa0;: %2</translation>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>Connecter</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>Se connecter</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>Déconnecter</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>Déconnexion…</translation>
     </message>
     <message>
@@ -3573,6 +3620,7 @@ Version disponible&#xa0;: %2</translation>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>Effacer</translation>
     </message>
     <message>

@@ -20,6 +20,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>サインイン</translation>
     </message>
     <message>
@@ -40,14 +41,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>新規登録</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>パスワードをお忘れですか？</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>サインインしています...</translation>
     </message>
 </context>
@@ -55,10 +59,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>契約を更新</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>サインアウト</translation>
     </message>
     <message>
@@ -83,10 +89,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>サインアウトしています...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>開いています…</translation>
     </message>
 </context>
@@ -98,6 +106,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>変更…</translation>
     </message>
     <message>
@@ -204,6 +213,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>キャンセル</translation>
     </message>
 </context>
@@ -219,10 +229,12 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>保存</translation>
     </message>
     <message>
         <source>Reset to default</source>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
         <translation>既定値に戻す</translation>
     </message>
     <message>
@@ -1307,10 +1319,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>修復</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>ログを開く</translation>
     </message>
     <message>
@@ -1327,6 +1341,7 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>コピー</translation>
     </message>
     <message>
@@ -1421,6 +1436,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>自動に切り替えて有効化</translation>
     </message>
     <message>
@@ -1429,6 +1445,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>モードを選択…</translation>
     </message>
     <message>
@@ -1437,6 +1454,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
@@ -1449,6 +1467,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>設定を開く</translation>
     </message>
     <message>
@@ -1567,6 +1586,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>この言語を使用</translation>
     </message>
 </context>
@@ -1735,6 +1755,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>更新 (%1 秒)</translation>
     </message>
     <message>
@@ -1964,6 +1985,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Apply listeners</source>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
         <translation>リスナーを適用</translation>
     </message>
     <message>
@@ -1976,14 +1998,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>サーバーを保存</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>サーバーをクリア</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>スプリット DNS をリセット</translation>
     </message>
     <message>
@@ -2266,6 +2291,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>選択…</translation>
     </message>
     <message>
@@ -2282,6 +2308,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>ルールを編集…</translation>
     </message>
     <message>
@@ -2630,6 +2657,7 @@ Try a country, a city or a code such as “de”.</source>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>保存</translation>
     </message>
     <message>
@@ -2646,6 +2674,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
@@ -2681,6 +2710,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>インポート</translation>
     </message>
     <message>
@@ -2705,6 +2735,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>閉じる</translation>
     </message>
     <message>
@@ -3330,14 +3361,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>このアップデートを表示しない</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>後で</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Tovra を終了</translation>
     </message>
     <message>
@@ -3346,6 +3380,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>ダウンロードリンクを開く</translation>
     </message>
     <message>
@@ -3404,6 +3439,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>バックグラウンドでダウンロード</translation>
     </message>
     <message>
@@ -3416,6 +3452,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>キャンセルしています...</translation>
     </message>
     <message>
@@ -3424,14 +3461,17 @@ Available version: %2</source>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>ダウンロードをキャンセル</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>インストーラーを開いています...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>ダウンロードを再試行</translation>
     </message>
     <message>
@@ -3440,6 +3480,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>アップデートをダウンロード</translation>
     </message>
     <message>
@@ -3455,6 +3496,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>アップデートを確認</translation>
     </message>
     <message>
@@ -3485,22 +3527,27 @@ Available version: %2</source>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>接続</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>サインイン</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>切断</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>切断しています…</translation>
     </message>
     <message>
@@ -3572,6 +3619,7 @@ Available version: %2</source>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>クリア</translation>
     </message>
     <message>

@@ -20,6 +20,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>Entrar</translation>
     </message>
     <message>
@@ -40,14 +41,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>Criar conta</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>Esqueceu a senha?</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>Entrando...</translation>
     </message>
 </context>
@@ -55,10 +59,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>Renovar</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>Sair da conta</translation>
     </message>
     <message>
@@ -83,10 +89,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>Saindo da conta...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>Abrindo…</translation>
     </message>
 </context>
@@ -98,6 +106,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>Alterar…</translation>
     </message>
     <message>
@@ -204,6 +213,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
 </context>
@@ -219,10 +229,12 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>Salvar</translation>
     </message>
     <message>
         <source>Reset to default</source>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
         <translation>Restaurar padrão</translation>
     </message>
     <message>
@@ -1307,10 +1319,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>Reparar</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>Abrir registros</translation>
     </message>
     <message>
@@ -1327,6 +1341,7 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>Copiar</translation>
     </message>
     <message>
@@ -1421,6 +1436,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>Mudar para Automático e ativar</translation>
     </message>
     <message>
@@ -1429,6 +1445,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>Escolher modo…</translation>
     </message>
     <message>
@@ -1437,6 +1454,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -1449,6 +1467,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>Abrir Configurações</translation>
     </message>
     <message>
@@ -1567,6 +1586,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>Usar idioma</translation>
     </message>
 </context>
@@ -1735,6 +1755,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>Atualizar (%1 s)</translation>
     </message>
     <message>
@@ -1964,6 +1985,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Apply listeners</source>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
         <translation>Aplicar endereços de escuta</translation>
     </message>
     <message>
@@ -1976,14 +1998,17 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>Salvar servidores</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>Limpar servidores</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>Redefinir DNS dividido</translation>
     </message>
     <message>
@@ -2266,6 +2291,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>Escolher…</translation>
     </message>
     <message>
@@ -2282,6 +2308,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>Editar regras…</translation>
     </message>
     <message>
@@ -2631,6 +2658,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>Salvar</translation>
     </message>
     <message>
@@ -2647,6 +2675,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -2682,6 +2711,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>Importar</translation>
     </message>
     <message>
@@ -2706,6 +2736,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>Fechar</translation>
     </message>
     <message>
@@ -3331,14 +3362,17 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>Ocultar esta atualização</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>Agora não</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Sair do Tovra</translation>
     </message>
     <message>
@@ -3347,6 +3381,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>Abrir link de download</translation>
     </message>
     <message>
@@ -3405,6 +3440,7 @@ Versão disponível: %2</translation>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>Baixar em segundo plano</translation>
     </message>
     <message>
@@ -3417,6 +3453,7 @@ Versão disponível: %2</translation>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>Cancelando...</translation>
     </message>
     <message>
@@ -3425,14 +3462,17 @@ Versão disponível: %2</translation>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar download</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>Abrindo o instalador...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>Tentar baixar novamente</translation>
     </message>
     <message>
@@ -3441,6 +3481,7 @@ Versão disponível: %2</translation>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>Baixar atualização</translation>
     </message>
     <message>
@@ -3456,6 +3497,7 @@ Versão disponível: %2</translation>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>Verificar atualizações</translation>
     </message>
     <message>
@@ -3486,22 +3528,27 @@ Versão disponível: %2</translation>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>Conectar</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>Entrar</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>Desconectar</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>Desconectando…</translation>
     </message>
     <message>
@@ -3573,6 +3620,7 @@ Versão disponível: %2</translation>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>Limpar</translation>
     </message>
     <message>

@@ -24,6 +24,7 @@ AccountSignInCard::AccountSignInCard(QWidget *parent)
     , m_password(new QLineEdit(this))
     , m_remember(new QCheckBox(tr("Remember this account"), this))
     , m_unavailable(new QLabel(this))
+    //: Button that signs in to the Tovra account
     , m_signIn(new QPushButton(tr("Sign In"), this))
 {
     setObjectName(QStringLiteral("TovraStatusCard"));
@@ -53,8 +54,10 @@ AccountSignInCard::AccountSignInCard(QWidget *parent)
     m_unavailable->setWordWrap(true);
     m_unavailable->hide();
 
+    //: Button that opens the page to create a Tovra account
     auto *signUp = new QPushButton(tr("Sign Up"), this);
     signUp->setObjectName(QStringLiteral("TovraAccountSignUp"));
+    //: Button (shown as a link) that opens the password reset page
     auto *forgot = new QPushButton(tr("Forgot password?"), this);
     forgot->setObjectName(QStringLiteral("TovraAccountForgotPassword"));
     m_signIn->setObjectName(QStringLiteral("TovraAccountSignIn"));
@@ -122,6 +125,7 @@ void AccountSignInCard::focusFirstEmptyField()
 
 void AccountSignInCard::setSignInState(bool inProgress, const QString &unavailableReason)
 {
+    //: Button while the sign-in runs
     m_signIn->setText(inProgress ? tr("Signing in...") : tr("Sign In"));
     m_signIn->setEnabled(!inProgress && unavailableReason.isEmpty());
     m_unavailable->setText(unavailableReason);

@@ -19,7 +19,9 @@ void alignToLayout(QLabel *label)
 AccountSummaryCard::AccountSummaryCard(QWidget *parent)
     : QFrame(parent)
     , m_summary(new QLabel(this))
+    //: Button that opens the page to renew the plan
     , m_renew(new QPushButton(tr("Renew"), this))
+    //: Button that signs out of the Tovra account
     , m_logout(new QPushButton(tr("Sign Out"), this))
 {
     setObjectName(QStringLiteral("TovraStatusCard"));
@@ -79,8 +81,10 @@ void AccountSummaryCard::setUser(const UserInfo &user)
 
 void AccountSummaryCard::setButtonStates(bool operationInProgress, bool renewalOpening)
 {
+    //: Button while the sign-out runs
     m_logout->setText(operationInProgress ? tr("Signing out...") : tr("Sign Out"));
     m_logout->setEnabled(!operationInProgress);
+    //: Button while the renewal page opens
     m_renew->setText(renewalOpening ? tr("Opening\u2026") : tr("Renew"));
     m_renew->setEnabled(!operationInProgress && !renewalOpening);
 }

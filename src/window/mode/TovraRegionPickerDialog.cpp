@@ -37,6 +37,7 @@ TovraRegionPickerDialog::TovraRegionPickerDialog(QWidget *parent)
     , m_list(new QListView(this))
     , m_empty(new QLabel(this))
     , m_count(new QLabel(this))
+    //: Button
     , m_save(new QPushButton(tr("Save"), this))
 {
     setObjectName(QStringLiteral("TovraRegionPickerDialog"));
@@ -79,6 +80,7 @@ TovraRegionPickerDialog::TovraRegionPickerDialog(QWidget *parent)
     m_empty->hide();
     m_count->setProperty("tovraRole", QStringLiteral("muted"));
 
+    //: Button
     auto *cancel = new QPushButton(tr("Cancel"), this);
     m_save->setObjectName(QStringLiteral("TovraRegionPickerSave"));
     m_save->setDefault(true);

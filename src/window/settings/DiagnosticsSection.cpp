@@ -36,8 +36,10 @@ const PathField kPaths[] = {
 
 DiagnosticsSection::DiagnosticsSection(QWidget *parent)
     : SettingsCard(tr("Diagnostics"), parent)
+    //: Button that resets the kill switch, local proxy and tunnel
     , m_repair(new QPushButton(tr("Repair"), this))
     , m_repairLines(new QLabel(this))
+    //: Button that opens the log folder
     , m_openLogs(new QPushButton(tr("Open logs"), this))
     , m_daemonVersion(new QLabel(this))
     , m_controlVersion(new QLabel(this))
@@ -75,6 +77,7 @@ DiagnosticsSection::DiagnosticsSection(QWidget *parent)
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         value->setWordWrap(true);
         value->setAccessibleName(name);
+        //: Button that copies the path next to it
         auto *copy = new QPushButton(tr("Copy"), paths);
         copy->setProperty("tovraLink", true);
         copy->setAccessibleName(tr("Copy %1 path").arg(name));

@@ -84,6 +84,7 @@ LanguagePickerDialog::LanguagePickerDialog(const QList<LanguageEntry> &languages
     m_list->setModel(m_filter);
     m_list->setUniformItemSizes(true);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    //: Button that switches to the chosen language
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Use language"));
     // Plain text buttons, like every other dialog of the app.
     for (QAbstractButton *button : m_buttons->buttons())

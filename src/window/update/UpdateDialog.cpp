@@ -86,13 +86,17 @@ void UpdateDialog::build()
     m_detail->setProperty("tovraRole", QStringLiteral("muted"));
 
     m_hideUpdate = makeButton("TovraUpdateHide", this);
+    //: Button (shown as a link) that stops offering this update
     setButton(m_hideUpdate, tr("Hide this update"), QString());
     m_notNow = makeButton("TovraUpdateNotNow", this);
+    //: Button that closes the dialog and keeps the update for later
     setButton(m_notNow, tr("Not Now"), QString());
     m_exit = makeButton("TovraUpdateExit", this);
+    //: Button that quits Tovra when the update is required
     setButton(m_exit, tr("Exit Tovra"), tr("Exit Tovra without updating"));
     m_background = makeButton("TovraUpdateBackground", this);
     m_openLink = makeButton("TovraUpdateOpenLink", this);
+    //: Button that opens the installer download page in the browser
     setButton(m_openLink, tr("Open Download Link"), tr("Open the Tovra update download link"));
     m_cancel = makeButton("TovraUpdateCancel", this);
     m_download = makeButton("TovraUpdateDownload", this);
@@ -329,6 +333,7 @@ void UpdateDialog::applyButtons()
     m_notNow->setVisible(!m_forced && !active);
     m_exit->setVisible(m_forced);
     m_background->setVisible((offer && !m_forced) || active);
+    //: Button that hides the dialog while the installer downloads
     setButton(m_background, tr("Download in Background"),
               offer ? tr("Download the latest installer without interrupting your current "
                          "session.")
@@ -337,8 +342,10 @@ void UpdateDialog::applyButtons()
     m_cancel->setVisible(active);
     m_cancel->setEnabled(m_phase != Phase::Canceling);
     if (m_phase == Phase::Canceling)
+        //: Button while the download is being cancelled
         setButton(m_cancel, tr("Canceling..."), tr("Cancel the update download"));
     else
+        //: Button
         setButton(m_cancel, tr("Cancel Download"), tr("Cancel the update download"));
 
     const bool retry =
@@ -346,10 +353,13 @@ void UpdateDialog::applyButtons()
     m_download->setVisible(offer || retry || m_phase == Phase::Ready);
     m_download->setEnabled(m_phase != Phase::Ready);
     if (m_phase == Phase::Ready)
+        //: Button while the downloaded installer opens
         setButton(m_download, tr("Opening Installer..."), QString());
     else if (retry)
+        //: Button
         setButton(m_download, tr("Retry Download"), tr("Retry the update download"));
     else
+        //: Button that downloads and opens the installer
         setButton(m_download, tr("Download Update"), tr("Download and install the Tovra update"));
 
     // Enter presses the step forward that is on offer.

@@ -107,21 +107,27 @@ void VpnPage::updatePrimaryAction()
     const QString disconnect = QStringLiteral("disconnect");
     switch (m_summary.phase) {
     case Phase::Unavailable:
+        //: Button that connects the VPN
         m_status->setPrimaryAction(tr("Connect"), connect, false, false);
         break;
     case Phase::SignedOut:
+        //: Button that opens the account page to sign in
         m_status->setPrimaryAction(tr("Sign In"), connect, false, true);
         break;
     case Phase::Connecting:
+        //: Button that stops a connection attempt
         m_status->setPrimaryAction(tr("Cancel"), disconnect, false, true);
         break;
     case Phase::Connected:
+        //: Button that disconnects the VPN
         m_status->setPrimaryAction(tr("Disconnect"), disconnect, false, true);
         break;
     case Phase::Disconnecting:
+        //: Button while the VPN disconnects
         m_status->setPrimaryAction(tr("Disconnecting\u2026"), disconnect, true, false);
         break;
     case Phase::Disconnected:
+        //: Button that connects the VPN
         m_status->setPrimaryAction(tr("Connect"), connect, false, true);
         break;
     }

@@ -13,6 +13,7 @@
 VpnRecentLocations::VpnRecentLocations(QWidget *parent)
     : QFrame(parent)
     , m_list(new QVBoxLayout)
+    //: Button that empties the list of recent locations
     , m_clear(new QPushButton(tr("Clear"), this))
     , m_empty(new QLabel(tr("Locations you connect to appear here."), this))
 {

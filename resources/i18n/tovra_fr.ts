@@ -194,6 +194,7 @@
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
         <translation>connecté</translation>
     </message>
     <message>
@@ -239,6 +240,7 @@
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Auto connect choice: connect to nothing when the service starts</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
@@ -1275,42 +1277,52 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
+        <extracomment>Label of a folder path: where the service keeps its configuration</extracomment>
         <translation>Configuration</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation>Exécution</translation>
+        <extracomment>Label of a folder path: where the service keeps its running files (socket, PID file); not a duration</extracomment>
+        <translation>Dossier d’exécution</translation>
     </message>
     <message>
         <source>Logs</source>
+        <extracomment>Label of a folder path: the service&apos;s log folder</extracomment>
         <translation>Journaux</translation>
     </message>
     <message>
         <source>State file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Fichier d’état</translation>
     </message>
     <message>
         <source>Credentials key</source>
+        <extracomment>Label of a file path: the key file for the stored account credentials</extracomment>
         <translation>Clé des identifiants</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Label of a file path: the service&apos;s history file</extracomment>
         <translation>Historique</translation>
     </message>
     <message>
         <source>Profiles</source>
+        <extracomment>Label of a folder path: the service&apos;s profiles folder</extracomment>
         <translation>Profils</translation>
     </message>
     <message>
         <source>Control socket</source>
+        <extracomment>Label of a file path: the socket this app talks to the service through</extracomment>
         <translation>Socket de contrôle</translation>
     </message>
     <message>
         <source>PID file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Fichier PID</translation>
     </message>
     <message>
         <source>Control address</source>
+        <extracomment>Label of an address the service listens on for control requests</extracomment>
         <translation>Adresse de contrôle</translation>
     </message>
     <message>
@@ -1346,6 +1358,7 @@
     </message>
     <message>
         <source>Copy %1 path</source>
+        <extracomment>%1 is one of the path labels above, such as &quot;Runtime&quot;</extracomment>
         <translation>Copier le chemin&#xa0;: %1</translation>
     </message>
     <message>
@@ -1420,10 +1433,12 @@
     </message>
     <message>
         <source>On</source>
+        <extracomment>State of the kill switch: turned on</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>State of the kill switch: turned off</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
@@ -1922,6 +1937,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network option: devices nearby are reached outside the tunnel</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
@@ -1930,6 +1946,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network option: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protégé</translation>
     </message>
     <message>
@@ -1938,6 +1955,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy option: the desktop proxy settings are left alone</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
@@ -1946,6 +1964,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy option: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
@@ -1954,6 +1973,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy option, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Verrouillé</translation>
     </message>
     <message>
@@ -2013,10 +2033,12 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy choice: the desktop proxy settings are left alone</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy choice: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
@@ -2033,10 +2055,12 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network choice: devices nearby are reached outside the tunnel</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network choice: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protégé</translation>
     </message>
     <message>
@@ -2283,6 +2307,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Default route choice: traffic goes straight to the internet, outside the tunnel or proxy</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
@@ -2745,6 +2770,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Name of the rule list whose sites and addresses go straight to the internet</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
@@ -2968,14 +2994,17 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings are left alone</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy menu option and value, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Verrouillé</translation>
     </message>
     <message>
@@ -2988,10 +3017,12 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network menu option and value: devices nearby are reached outside the tunnel. Also the route in &quot;Regions use %1: %2&quot;</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network menu option and value: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protégé</translation>
     </message>
     <message>
@@ -3240,6 +3271,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Tunnel state after &quot;Tovra: &quot;: the VPN is connected (not connecting)</extracomment>
         <translation>connecté</translation>
     </message>
     <message>

@@ -378,6 +378,8 @@ QString CatalogTreeModel::accessibleText(const Item *item) const
         if (item->favorite)
             parts << tr("favourite");
         if (item->connected)
+            //: Said of a location in the list: it is the one the VPN is connected to now (not
+            //: connecting)
             parts << tr("connected");
     }
     if (item->locked)

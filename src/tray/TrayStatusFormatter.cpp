@@ -28,6 +28,7 @@ bool TrayStatusFormatter::isConnecting(const RuntimeInfo &runtime)
 QString TrayStatusFormatter::stateWord(const RuntimeInfo &runtime)
 {
     if (isConnected(runtime))
+        //: Tunnel state after "Tovra: ": the VPN is connected (not connecting)
         return TrayMenuText::tr("connected");
     QString word = normalized(runtime.tunnelState);
     if (word.isEmpty())

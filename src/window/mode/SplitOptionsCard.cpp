@@ -75,6 +75,7 @@ QWidget *SplitOptionsCard::buildOptions()
 
     m_route = new ModeSegmentedBar(tr("Default route"), options);
     m_route->addSegment(kThrough, QString());
+    //: Default route choice: traffic goes straight to the internet, outside the tunnel or proxy
     m_route->addSegment(kDirect, tr("Direct"), tr("Everything not chosen below goes direct"));
     m_routeDetail = mutedLabel(options);
     connect(m_route, &ModeSegmentedBar::valueRequested, this, [this](const QString &route) {

@@ -119,6 +119,7 @@ void TovraSplitRulesEditorDialog::setThemeColors(const ThemeColors &colors)
 QString TovraSplitRulesEditorDialog::kindLabel(const QString &kind)
 {
     if (kind == u"direct")
+        //: Name of the rule list whose sites and addresses go straight to the internet
         return tr("Direct");
     if (kind == u"proxy")
         return tr("Proxy");

@@ -22,6 +22,7 @@ ConnectionSection::ConnectionSection(QWidget *parent)
     , m_resetAPIURL(new QPushButton(tr("Reset to default"), this))
     , m_validation(new QLabel(this))
 {
+    //: Auto connect choice: connect to nothing when the service starts
     m_autoConnect->addChoice(QStringLiteral("off"), tr("Off"));
     m_autoConnect->addChoice(QStringLiteral("last"), tr("Last location"));
     m_autoConnect->addChoice(QStringLiteral("smart"), tr("Fastest location"));

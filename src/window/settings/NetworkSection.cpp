@@ -63,7 +63,9 @@ NetworkSection::NetworkSection(QWidget *parent)
     , m_resetDNS(new QPushButton(tr("Reset split DNS"), this))
     , m_dnsEffective(new QLabel(this))
 {
+    //: System proxy choice: the desktop proxy settings are left alone
     m_systemProxy->addChoice(QStringLiteral("off"), tr("Off"));
+    //: System proxy choice: the desktop proxy settings point at Tovra
     m_systemProxy->addChoice(QStringLiteral("on"), tr("On"));
     m_systemProxy->addChoice(QStringLiteral("lock"), tr("On and locked"));
     addRow(tr("System proxy"),
@@ -73,7 +75,9 @@ NetworkSection::NetworkSection(QWidget *parent)
     connect(m_systemProxy, &SettingsChoice::choiceRequested, this,
             &NetworkSection::setSystemProxyRequested);
 
+    //: Local network choice: devices nearby are reached outside the tunnel
     m_localNetwork->addChoice(QStringLiteral("direct"), tr("Direct"));
+    //: Local network choice: local traffic goes through the tunnel like the rest
     m_localNetwork->addChoice(QStringLiteral("protected"), tr("Protected"));
     addRow(tr("Local network"),
            tr("Direct reaches devices nearby outside the tunnel; protected sends everything "

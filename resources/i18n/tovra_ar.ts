@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>تعذّر إكمال إجراء الحساب</translation>
     </message>
 </context>
 <context>
@@ -1805,15 +1806,18 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>فشلت العملية</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>تعذّر إكمال الإجراء</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>فشلت عملية الإعدادات</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>تعذّر تغيير الإعدادات</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>فشلت عملية الوضع</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>تعذّر تغيير الوضع</translation>
     </message>
 </context>
 <context>
@@ -2882,7 +2886,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>فشلت العملية</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>تعذّر إكمال الإجراء</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3243,11 +3248,13 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>تعذّر إكمال إجراء الحساب</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>فشلت عملية الوضع</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>تعذّر تغيير الوضع</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3271,7 +3278,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>فشلت عملية مفتاح الإيقاف</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>تعذّر تغيير مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3707,7 +3715,8 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>تعذّر إكمال إجراء الحساب</translation>
     </message>
 </context>
 </TS>

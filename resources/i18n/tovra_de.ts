@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Kontovorgang fehlgeschlagen</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Kontoaktion konnte nicht ausgeführt werden</translation>
     </message>
 </context>
 <context>
@@ -1805,14 +1806,17 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Vorgang fehlgeschlagen</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>Aktion konnte nicht ausgeführt werden</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
         <translation>Einstellungen konnten nicht geändert werden</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
         <translation>Modus konnte nicht geändert werden</translation>
     </message>
 </context>
@@ -2878,7 +2882,8 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>operation failed</source>
-        <translation>Vorgang fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>Aktion konnte nicht ausgeführt werden</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3239,11 +3244,13 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>Kontovorgang fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>Kontoaktion konnte nicht ausgeführt werden</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>Moduswechsel fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>Modus konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3267,7 +3274,8 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>Kill-Switch-Vorgang fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>Kill Switch konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3703,7 +3711,8 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Kontovorgang fehlgeschlagen</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Kontoaktion konnte nicht ausgeführt werden</translation>
     </message>
 </context>
 </TS>

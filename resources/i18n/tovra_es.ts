@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Error en la operación de la cuenta</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>No se pudo completar la acción de la cuenta</translation>
     </message>
 </context>
 <context>
@@ -1805,15 +1806,18 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Error en la operación</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>No se pudo completar la acción</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>Error en la operación de configuración</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>No se pudo cambiar la configuración</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>Error en la operación de modo</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>No se pudo cambiar el modo</translation>
     </message>
 </context>
 <context>
@@ -2878,7 +2882,8 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>error en la operación</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>no se pudo completar la acción</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3239,11 +3244,13 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>error en la operación de la cuenta</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>no se pudo completar la acción de la cuenta</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>error en la operación de modo</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>no se pudo cambiar el modo</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3267,7 +3274,8 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>error en la operación del Kill Switch</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>no se pudo cambiar el Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3703,7 +3711,8 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Error en la operación de la cuenta</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>No se pudo completar la acción de la cuenta</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>عملیات حساب ناموفق بود</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>انجام کار مربوط به حساب ممکن نشد</translation>
     </message>
 </context>
 <context>
@@ -1805,15 +1806,18 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>عملیات ناموفق بود</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>انجام این کار ممکن نشد</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>عملیات تنظیمات ناموفق بود</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>تغییر تنظیمات ممکن نشد</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>عملیات حالت ناموفق بود</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>تغییر حالت ممکن نشد</translation>
     </message>
 </context>
 <context>
@@ -2869,7 +2873,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>عملیات ناموفق بود</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>انجام این کار ممکن نشد</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3238,11 +3243,13 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>عملیات حساب ناموفق بود</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>انجام کار مربوط به حساب ممکن نشد</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>عملیات حالت ناموفق بود</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>تغییر حالت ممکن نشد</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3266,7 +3273,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>عملیات قطع اضطراری ناموفق بود</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>تغییر قطع اضطراری ممکن نشد</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3686,7 +3694,8 @@ Available version: %2</source>
     <name>WindowController</name>
     <message>
         <source>Account operation failed</source>
-        <translation>عملیات حساب ناموفق بود</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>انجام کار مربوط به حساب ممکن نشد</translation>
     </message>
     <message>
         <source>Could not open link</source>

@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Échec de l’opération sur le compte</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Impossible d’effectuer l’action sur le compte</translation>
     </message>
 </context>
 <context>
@@ -1805,15 +1806,18 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Échec de l’opération</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>Impossible d’effectuer l’action</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>Échec de la modification des paramètres</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>Impossible de modifier les paramètres</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>Échec du changement de mode</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>Impossible de changer de mode</translation>
     </message>
 </context>
 <context>
@@ -2878,7 +2882,8 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>échec de l’opération</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>impossible d’effectuer l’action</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3239,11 +3244,13 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>échec de l’opération sur le compte</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>impossible d’effectuer l’action sur le compte</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>échec du changement de mode</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>impossible de changer de mode</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3267,7 +3274,8 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>échec de l’opération sur le Kill Switch</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>impossible de modifier le Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3703,7 +3711,8 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Échec de l’opération sur le compte</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Impossible d’effectuer l’action sur le compte</translation>
     </message>
 </context>
 </TS>

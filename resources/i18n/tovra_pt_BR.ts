@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Falha na operação da conta</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Não foi possível concluir a ação da conta</translation>
     </message>
 </context>
 <context>
@@ -1805,15 +1806,18 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Falha na operação</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>Não foi possível concluir a ação</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>Falha na operação de configurações</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>Não foi possível alterar as configurações</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>Falha na operação de modo</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>Não foi possível mudar o modo</translation>
     </message>
 </context>
 <context>
@@ -2878,7 +2882,8 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>falha na operação</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>não foi possível concluir a ação</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3239,11 +3244,13 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>falha na operação da conta</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>não foi possível concluir a ação da conta</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>falha na operação de modo</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>não foi possível mudar o modo</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3267,7 +3274,8 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>falha na operação do Kill Switch</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>não foi possível alterar o Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3703,7 +3711,8 @@ Versão disponível: %2</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Falha na operação da conta</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Não foi possível concluir a ação da conta</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Не удалось выполнить операцию с аккаунтом</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Не удалось выполнить действие с аккаунтом</translation>
     </message>
 </context>
 <context>
@@ -1805,14 +1806,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Операция не выполнена</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>Не удалось выполнить действие</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
         <translation>Не удалось изменить настройки</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
         <translation>Не удалось сменить режим</translation>
     </message>
 </context>
@@ -2879,7 +2883,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>операция не выполнена</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>не удалось выполнить действие</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3240,10 +3245,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>операция с аккаунтом не выполнена</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>не удалось выполнить действие с аккаунтом</translation>
     </message>
     <message>
         <source>mode operation failed</source>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
         <translation>не удалось сменить режим</translation>
     </message>
     <message>
@@ -3268,7 +3275,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>операция с Kill Switch не выполнена</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>не удалось изменить Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3704,7 +3712,8 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Не удалось выполнить операцию с аккаунтом</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Не удалось выполнить действие с аккаунтом</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Hesap işlemi başarısız oldu</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Hesap işlemi tamamlanamadı</translation>
     </message>
 </context>
 <context>
@@ -1805,15 +1806,18 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>İşlem başarısız oldu</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>İşlem tamamlanamadı</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>Ayarlar işlemi başarısız oldu</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>Ayarlar değiştirilemedi</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>Mod işlemi başarısız oldu</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>Mod değiştirilemedi</translation>
     </message>
 </context>
 <context>
@@ -2869,7 +2873,8 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>işlem başarısız oldu</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>işlem tamamlanamadı</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3238,11 +3243,13 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>hesap işlemi başarısız oldu</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>hesap işlemi tamamlanamadı</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>mod işlemi başarısız oldu</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>mod değiştirilemedi</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3266,7 +3273,8 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>Kill Switch işlemi başarısız oldu</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>Kill Switch değiştirilemedi</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3686,7 +3694,8 @@ Yeni sürüm: %2</translation>
     <name>WindowController</name>
     <message>
         <source>Account operation failed</source>
-        <translation>Hesap işlemi başarısız oldu</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Hesap işlemi tamamlanamadı</translation>
     </message>
     <message>
         <source>Could not open link</source>

@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>账户操作失败</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>无法完成账户操作</translation>
     </message>
 </context>
 <context>
@@ -1805,15 +1806,18 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>操作失败</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>无法完成操作</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>设置操作失败</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>无法更改设置</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>模式操作失败</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>无法更改模式</translation>
     </message>
 </context>
 <context>
@@ -2877,7 +2881,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>操作失败</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>无法完成操作</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -3238,11 +3243,13 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>账户操作失败</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>无法完成账户操作</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>模式操作失败</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>无法更改模式</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3266,7 +3273,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>断网保护操作失败</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>无法更改断网保护</translation>
     </message>
     <message>
         <source>connected</source>
@@ -3702,7 +3710,8 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>账户操作失败</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>无法完成账户操作</translation>
     </message>
 </context>
 </TS>

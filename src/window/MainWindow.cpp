@@ -212,11 +212,15 @@ void MainWindow::showError(const QString &message, const QString &fallback)
 
 void MainWindow::showOperationError(const QString &message)
 {
+    //: Shown when a request to the Tovra service failed without a reason. Word it as a user would
+    //: understand it: "Could not complete the action"
     showError(message, tr("Operation failed"));
 }
 
 void MainWindow::showSettingsOperationError(const QString &message)
 {
+    //: Shown when changing a setting failed without a reason. Word it as a user would understand
+    //: it: "Could not change the settings"
     showError(message, tr("Settings operation failed"));
     m_pages->settleSettingsPage();
 }
@@ -225,6 +229,8 @@ void MainWindow::showModeOperationError(const QString &message)
 {
     QString text = message.trimmed();
     if (text.isEmpty()) {
+        //: Shown when changing the mode failed without a reason. Word it as a user would understand
+        //: it: "Could not change the mode"
         text = tr("Mode operation failed");
     }
     if (!m_pages->mode() || !m_pages->mode()->offerInlineError(text)) {

@@ -282,6 +282,8 @@ void WindowController::setRenewalOpening(bool opening)
 void WindowController::showAccountError(const QString &message)
 {
     m_replay.accountError =
+        //: Shown when signing in or out failed without a reason. Word it as a user would understand
+        //: it: "Could not complete the account action"
         message.trimmed().isEmpty() ? tr("Account operation failed") : message.trimmed();
     if (m_window)
         m_window->showAccountError(m_replay.accountError);

@@ -109,6 +109,8 @@ void AccountPage::setDaemonUnavailableReason(const QString &reason)
 void AccountPage::showError(const QString &message)
 {
     const QString text = message.trimmed();
+    //: Shown when signing in or out failed without a reason. Word it as a user would understand it:
+    //: "Could not complete the account action"
     m_message->setText(text.isEmpty() ? tr("Account operation failed") : text);
     m_message->show();
     // A failed sign-in keeps the account name for the next try, never the password.

@@ -2858,7 +2858,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation>Tovra: جارٍ تحديث تقسيم TovraVPN...</translation>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: جارٍ تحديث TovraVPN مقسَّم...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
@@ -3088,7 +3089,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: جارٍ تبديل تقسيم TovraVPN...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: جارٍ التبديل إلى TovraVPN مقسَّم...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>

@@ -2854,6 +2854,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: TovraVPN Split wird aktualisiert...</translation>
     </message>
     <message>
@@ -3084,7 +3085,8 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: TovraVPN Split wird umgeschaltet...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: Wechsel zu TovraVPN Split...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>

@@ -2845,7 +2845,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation>Tovra: در حال به‌روزرسانی تفکیک TovraVPN...</translation>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: در حال به‌روزرسانی TovraVPN تفکیکی...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
@@ -3079,7 +3080,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: در حال تغییر تفکیک TovraVPN...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: در حال رفتن به TovraVPN تفکیکی...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>

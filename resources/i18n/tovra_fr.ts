@@ -2854,6 +2854,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra&#xa0;: mise à jour de TovraVPN Split...</translation>
     </message>
     <message>
@@ -3084,7 +3085,8 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra&#xa0;: changement de TovraVPN Split...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra : passage à TovraVPN Split...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>

@@ -2853,6 +2853,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: TovraVPN スプリットを変更しています...</translation>
     </message>
     <message>
@@ -3083,7 +3084,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: TovraVPN スプリットを切り替えています...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: TovraVPN スプリットに切り替えています...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>

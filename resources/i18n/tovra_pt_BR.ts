@@ -2854,6 +2854,7 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: atualizando o TovraVPN dividido...</translation>
     </message>
     <message>
@@ -3084,7 +3085,8 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: alterando o TovraVPN dividido...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: mudando para TovraVPN dividido...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>

@@ -2855,6 +2855,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: обновление раздельного режима TovraVPN...</translation>
     </message>
     <message>
@@ -3085,6 +3086,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: переход в режим TovraVPN (раздельный)...</translation>
     </message>
     <message>

@@ -2845,6 +2845,7 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: TovraVPN bölünmüş modu güncelleniyor...</translation>
     </message>
     <message>
@@ -3079,6 +3080,7 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: TovraVPN (Bölünmüş) moduna geçiliyor...</translation>
     </message>
     <message>

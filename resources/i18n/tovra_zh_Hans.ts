@@ -2853,6 +2853,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: 正在更新 TovraVPN 分流...</translation>
     </message>
     <message>
@@ -3083,7 +3084,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: 正在切换 TovraVPN 分流...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: 正在切换到 TovraVPN 分流...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>

@@ -111,6 +111,8 @@ void TovraTrayApp::setTovraSplitDefaultRoute(const QString &route)
     // The tunnel family names its own route with the proxy family's word.
     const QString word = route == u"direct" ? route : QStringLiteral("proxy");
     sendModeChange(splitModeWithDefaultRoute(currentMode(), SplitFamily::Tunnel, word),
+                   //: Changing the default route of the TovraVPN Split mode; name the mode as the
+                   //: Mode page does
                    TrayMenuText::tr("Tovra: updating TovraVPN split..."), ModeChange::SplitOption);
 }
 

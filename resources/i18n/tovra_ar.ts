@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation>تشغيل Tovra في شريط المهام عند تسجيل الدخول إلى سطح المكتب.</translation>
+        <translation>تشغيل Tovra في منطقة الإشعارات عند تسجيل الدخول إلى سطح المكتب.</translation>
     </message>
     <message>
         <source>Show window at launch</source>
@@ -124,7 +124,7 @@
     </message>
     <message>
         <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
-        <translation>فتح هذه النافذة عند بدء Tovra؛ وإلا تظهر أيقونة شريط المهام فقط.</translation>
+        <translation>فتح هذه النافذة عند بدء Tovra؛ وإلا تظهر أيقونته في منطقة الإشعارات فقط.</translation>
     </message>
     <message>
         <source>Same as desktop</source>
@@ -1507,7 +1507,7 @@
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation>يحظر حركة المرور خارج النفق أثناء اتصال Tovra أو أثناء الاتصال.</translation>
+        <translation>يحظر حركة المرور خارج النفق ما دام Tovra متصلًا أو قيد الاتصال.</translation>
     </message>
     <message>
         <source>Always</source>
@@ -1836,7 +1836,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>The tunnel by default; chosen regions and sites go direct.</source>
-        <translation>النفق افتراضيًا؛ والمناطق والمواقع المختارة تمر مباشرة.</translation>
+        <translation>النفق افتراضيًا؛ والمناطق والمواقع الإلكترونية المختارة تمر مباشرة.</translation>
     </message>
     <message>
         <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
@@ -1844,7 +1844,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
-        <translation>الوكيل المحلي، مع مرور المناطق والمواقع المختارة مباشرة.</translation>
+        <translation>الوكيل المحلي، مع مرور المناطق والمواقع الإلكترونية المختارة مباشرة.</translation>
     </message>
     <message>
         <source>Applying…</source>
@@ -1899,7 +1899,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation>اختر كيفية توجيه حركة المرور والمواقع التي تتجاوز النفق.</translation>
+        <translation>اختر كيفية توجيه حركة المرور والمواقع الإلكترونية التي تتجاوز النفق.</translation>
     </message>
 </context>
 <context>
@@ -2410,11 +2410,11 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Sites on the GFWList always go through the tunnel.</source>
-        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر النفق.</translation>
+        <translation>المواقع الإلكترونية المدرجة في GFWList تمر دائمًا عبر النفق.</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the proxy.</source>
-        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر الوكيل.</translation>
+        <translation>المواقع الإلكترونية المدرجة في GFWList تمر دائمًا عبر الوكيل.</translation>
     </message>
     <message>
         <source>Your own domain and address lists.</source>
@@ -2791,15 +2791,15 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Sites and addresses that always go direct</source>
-        <translation>المواقع والعناوين التي تمر مباشرة دائمًا</translation>
+        <translation>المواقع الإلكترونية والعناوين التي تمر مباشرة دائمًا</translation>
     </message>
     <message>
         <source>Sites and addresses that always go through Tovra</source>
-        <translation>المواقع والعناوين التي تمر عبر Tovra دائمًا</translation>
+        <translation>المواقع الإلكترونية والعناوين التي تمر عبر Tovra دائمًا</translation>
     </message>
     <message>
         <source>Sites and addresses that are blocked</source>
-        <translation>المواقع والعناوين المحظورة</translation>
+        <translation>المواقع الإلكترونية والعناوين المحظورة</translation>
     </message>
     <message>
         <source>Loading rules…</source>

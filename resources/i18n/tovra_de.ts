@@ -1346,7 +1346,7 @@
     </message>
     <message>
         <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
-        <translation>Setzt Kill Switch, lokalen Proxy und Tunnel zurück, wenn der Datenverkehr hängt.</translation>
+        <translation>Setzt den Kill Switch, den lokalen Proxy und den Tunnel zurück, wenn der Datenverkehr hängt.</translation>
     </message>
     <message>
         <source>The Tovra service&apos;s log folder, for support.</source>
@@ -1444,11 +1444,11 @@
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation>Kill Switch benötigt einen VPN-Modus</translation>
+        <translation>Der Kill Switch benötigt einen VPN-Modus</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation>Kill Switch funktioniert nicht mit Tovra Proxy. Wechseln Sie zu Auto (empfohlen), TovraVPN oder WireGuard, um ihn einzuschalten.</translation>
+        <translation>Der Kill Switch funktioniert nicht mit Tovra Proxy. Wechseln Sie zu Auto (empfohlen), TovraVPN oder WireGuard, um ihn einzuschalten.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
@@ -1457,7 +1457,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation>Zu Auto wechseln und Kill Switch einschalten</translation>
+        <translation>Zu Auto wechseln und den Kill Switch einschalten</translation>
     </message>
     <message>
         <source>Choose mode…</source>
@@ -1466,7 +1466,7 @@
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation>Modus für Kill Switch wählen</translation>
+        <translation>Modus für den Kill Switch wählen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1475,11 +1475,11 @@
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation>Tovra Proxy erfordert, dass Kill Switch aus ist</translation>
+        <translation>Tovra Proxy erfordert, dass der Kill Switch aus ist</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation>Kill Switch blockiert Tovra Proxy. Schalten Sie zuerst Kill Switch in den Einstellungen aus und wechseln Sie dann den Modus.</translation>
+        <translation>Der Kill Switch blockiert Tovra Proxy. Schalten Sie zuerst den Kill Switch in den Einstellungen aus und wechseln Sie dann den Modus.</translation>
     </message>
     <message>
         <source>Open Settings</source>
@@ -1488,7 +1488,7 @@
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation>Einstellungen öffnen, um Kill Switch auszuschalten</translation>
+        <translation>Einstellungen öffnen, um den Kill Switch auszuschalten</translation>
     </message>
 </context>
 <context>
@@ -1515,7 +1515,7 @@
     </message>
     <message>
         <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
-        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange Kill Switch eingeschaltet ist, auch ohne Verbindung.</translation>
+        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange der Kill Switch eingeschaltet ist, auch ohne Verbindung.</translation>
     </message>
     <message>
         <source>Lockdown</source>
@@ -1523,7 +1523,7 @@
     </message>
     <message>
         <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
-        <translation>Vom Tovra-Dienst festgelegt: Datenverkehr außerhalb des Tunnels bleibt blockiert und Kill Switch lässt sich hier nicht ausschalten.</translation>
+        <translation>Vom Tovra-Dienst festgelegt: Datenverkehr außerhalb des Tunnels bleibt blockiert und der Kill Switch lässt sich hier nicht ausschalten.</translation>
     </message>
     <message>
         <source>Mode</source>
@@ -1531,7 +1531,7 @@
     </message>
     <message>
         <source>When Kill Switch blocks traffic.</source>
-        <translation>Wann Kill Switch Datenverkehr blockiert.</translation>
+        <translation>Wann der Kill Switch Datenverkehr blockiert.</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1551,11 +1551,11 @@
     </message>
     <message>
         <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
-        <translation>%1. Der Tovra-Dienst hält Kill Switch eingeschaltet; er lässt sich hier nicht ausschalten.</translation>
+        <translation>%1. Der Tovra-Dienst hält den Kill Switch eingeschaltet; er lässt sich hier nicht ausschalten.</translation>
     </message>
     <message>
         <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
-        <translation>Tovra Proxy ist aktiv: Kill Switch benötigt einen VPN-Modus.</translation>
+        <translation>Tovra Proxy ist aktiv: Der Kill Switch benötigt einen VPN-Modus.</translation>
     </message>
     <message>
         <source>Reachable</source>
@@ -1852,7 +1852,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
-        <translation>Kill Switch benötigt einen VPN-Modus: Wählen Sie Auto, WireGuard oder TovraVPN, um ihn einzuschalten.</translation>
+        <translation>Der Kill Switch benötigt einen VPN-Modus: Wählen Sie Auto, WireGuard oder TovraVPN, um ihn einzuschalten.</translation>
     </message>
     <message>
         <source>Choose a mode</source>
@@ -2509,7 +2509,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation>Wählen Sie einen VPN-Modus, um Kill Switch einzuschalten</translation>
+        <translation>Wählen Sie einen VPN-Modus, um den Kill Switch einzuschalten</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
@@ -3651,7 +3651,7 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>
-        <translation>Kill Switch blockiert den Datenverkehr, bis Sie sich verbinden.</translation>
+        <translation>Der Kill Switch blockiert den Datenverkehr, bis Sie sich verbinden.</translation>
     </message>
     <message>
         <source>Your traffic is not protected.</source>

@@ -116,7 +116,7 @@
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation>デスクトップにサインインしたときに Tovra をトレイで起動します。</translation>
+        <translation>デスクトップにログインしたときに Tovra をトレイで起動します。</translation>
     </message>
     <message>
         <source>Show window at launch</source>
@@ -196,7 +196,7 @@
     <message>
         <source>connected</source>
         <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
-        <translation>接続中</translation>
+        <translation>接続済み</translation>
     </message>
     <message>
         <source>not in your plan</source>
@@ -328,7 +328,7 @@
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation>Tovra サービスへのアクセスが拒否されました。このユーザーを tovracli グループに追加してから、サインアウトして再度サインインしてください。</translation>
+        <translation>Tovra サービスへのアクセスが拒否されました。このユーザーを tovracli グループに追加してから、デスクトップからログアウトして再度ログインしてください。</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
@@ -1507,7 +1507,7 @@
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation>Tovra の接続中および接続処理中に、トンネル外の通信をブロックします。</translation>
+        <translation>Tovra が接続済みまたは接続中のとき、トンネル外の通信をブロックします。</translation>
     </message>
     <message>
         <source>Always</source>

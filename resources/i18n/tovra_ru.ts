@@ -227,7 +227,7 @@
     </message>
     <message>
         <source>API URL</source>
-        <translation>Адрес API</translation>
+        <translation>URL API</translation>
     </message>
     <message>
         <source>Save</source>
@@ -262,11 +262,11 @@
     </message>
     <message>
         <source>Save API URL</source>
-        <translation>Сохранить адрес API</translation>
+        <translation>Сохранить URL API</translation>
     </message>
     <message>
         <source>Reset API URL to default</source>
-        <translation>Сбросить адрес API на стандартный</translation>
+        <translation>Сбросить URL API на стандартный</translation>
     </message>
     <message>
         <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
@@ -2280,15 +2280,15 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Enter an API URL, or reset it to the default.</source>
-        <translation>Введите адрес API или сбросьте его на стандартный.</translation>
+        <translation>Введите URL API или сбросьте его на стандартный.</translation>
     </message>
     <message>
         <source>The API URL must start with http:// or https://.</source>
-        <translation>Адрес API должен начинаться с http:// или https://.</translation>
+        <translation>URL API должен начинаться с http:// или https://.</translation>
     </message>
     <message>
         <source>The API URL needs a host, for example https://api.example.com.</source>
-        <translation>В адресе API нужен хост, например https://api.example.com.</translation>
+        <translation>В URL API нужен хост, например https://api.example.com.</translation>
     </message>
     <message>
         <source>Enter at least one DNS server, or clear the list.</source>
@@ -2541,19 +2541,19 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation>Не удалось изменить адрес API</translation>
+        <translation>Не удалось изменить URL API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation>Адрес API сброшен на стандартный</translation>
+        <translation>URL API сброшен на стандартный</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation>Адрес API проверен и сохранён</translation>
+        <translation>URL API проверен и сохранён</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation>Адрес API сохранён, но не проверен</translation>
+        <translation>URL API сохранён, но не проверен</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
@@ -2661,7 +2661,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Could not load API URL</source>
-        <translation>Не удалось загрузить адрес API</translation>
+        <translation>Не удалось загрузить URL API</translation>
     </message>
     <message>
         <source>Could not load split DNS</source>
@@ -3179,7 +3179,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Current: %1 (stale)</source>
-        <translation>Текущая: %1 (устарело)</translation>
+        <translation>Текущая: %1 (данные устарели)</translation>
     </message>
     <message>
         <source>Group</source>

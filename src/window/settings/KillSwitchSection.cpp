@@ -1,5 +1,6 @@
 #include "KillSwitchSection.h"
 
+#include "AccessibleControl.h"
 #include "AppState.h"
 #include "KillSwitchConfirm.h"
 #include "KillSwitchState.h"
@@ -63,7 +64,9 @@ KillSwitchSection::KillSwitchSection(QWidget *parent)
 QRadioButton *KillSwitchSection::addModeOption(QWidget *box, const QString &mode,
                                                const QString &label, const QString &description)
 {
-    auto *option = new QRadioButton(label, box);
+    auto *option = new QRadioButton(box);
+    AccessibleControl::attach(option, QAccessible::RadioButton);
+    option->setText(label);
     option->setObjectName(QStringLiteral("TovraSettingsKillSwitchMode_") + mode);
     option->setProperty("tovraKillSwitchMode", mode);
     option->setAccessibleName(tr("Kill Switch mode: %1").arg(label));

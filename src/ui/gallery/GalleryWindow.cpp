@@ -3,11 +3,13 @@
 #include "ChevronLabel.h"
 #include "ConfirmDialog.h"
 #include "ElidedLabel.h"
+#include "FieldClearButton.h"
 #include "FlowLayout.h"
 #include "GalleryModel.h"
 #include "IconTinter.h"
 #include "LocationItemDelegate.h"
 #include "NotificationHost.h"
+#include "RequestButton.h"
 #include "ThemeEngine.h"
 #include "ThemedScrollBar.h"
 #include "ToggleSwitch.h"
@@ -168,7 +170,7 @@ QWidget *GalleryWindow::buildControls()
     auto *search = new QLineEdit;
     search->setObjectName(QStringLiteral("TovraLocationsSearch"));
     search->setPlaceholderText(QStringLiteral("Search locations"));
-    search->setClearButtonEnabled(true);
+    FieldClearButton::enable(search, FieldClearButton::Kind::Search);
     // Tinted with the rest of the theme in applyTheme().
     m_searchAction = search->addAction(QIcon(), QLineEdit::LeadingPosition);
     layout->addWidget(search, 1);
@@ -267,8 +269,10 @@ QWidget *GalleryWindow::buildActionCard()
     const char *names[] = {"Global", "Split", "Direct"};
     const char *positions[] = {"start", "", "end"};
     for (int i = 0; i < 3; ++i) {
-        auto *button = new QPushButton(QString::fromLatin1(names[i]));
-        button->setCheckable(true);
+        // Asks like the real segments; the gallery, as owner, accepts at once.
+        auto *button = new RequestButton(QAccessible::RadioButton);
+        button->setText(QString::fromLatin1(names[i]));
+        connect(button, &QPushButton::clicked, button, [button] { button->setChecked(true); });
         if (positions[i][0] != '\0') {
             button->setProperty("tovraSegment", QString::fromLatin1(positions[i]));
         }

@@ -78,10 +78,11 @@ QRadioButton *KillSwitchSection::addModeOption(QWidget *box, const QString &mode
     // The description sits under the option's text, past the indicator, on either side.
     auto *described = new QHBoxLayout;
     described->setContentsMargins(0, 0, 0, 0);
-    described->addSpacing(26);
+    described->addSpacing(30);
     described->addWidget(text, 1);
     auto *layout = static_cast<QVBoxLayout *>(box->layout());
-    layout->addWidget(option);
+    // As wide as its text, so that its focus ring hugs it.
+    layout->addWidget(option, 0, Qt::AlignLeading);
     layout->addLayout(described);
     connect(option, &QRadioButton::clicked, this, [this, mode] { modeClicked(mode); });
     return option;

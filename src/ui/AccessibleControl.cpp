@@ -92,15 +92,14 @@ void AccessibleControl::attach(QAbstractButton *button, QAccessible::Role role)
     installFactory();
     button->setProperty(kControlProperty, true);
     button->setProperty(kRoleProperty, int(role));
-    // Qt's buttons change state silently; every change, whoever made it, is told from here.
-    QObject::connect(button, &QAbstractButton::toggled, button, [button, role] {
+    if (role != QAccessible::PageTab)
+        return; // Qt tells of a change of the checked state itself
+    // A page tab reads its checked state as "selected", which Qt does not tell of.
+    QObject::connect(button, &QAbstractButton::toggled, button, [button] {
         if (!QAccessible::isActive())
             return;
         QAccessible::State changed;
-        if (role == QAccessible::PageTab)
-            changed.selected = true;
-        else
-            changed.checked = true;
+        changed.selected = true;
         QAccessibleStateChangeEvent event(button, changed);
         QAccessible::updateAccessibility(&event);
     });

@@ -18,9 +18,8 @@ public:
     QStringList actionNames() const override;
     void doAction(const QString &actionName) override;
 
-    // Gives the button this role and this face, and tells assistive technology of every change
-    // of its state. Call it first in the button's set-up: the first accessible event settles
-    // the face for good.
+    // Gives the button this role and this face. Call it first in the button's set-up: the first
+    // accessible event settles the face for good.
     static void attach(QAbstractButton *button, QAccessible::Role role);
     // Only a role, for a container (a page tab list, a group of options).
     static void setRole(QWidget *widget, QAccessible::Role role);

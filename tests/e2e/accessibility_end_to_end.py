@@ -51,10 +51,13 @@ def on_event(event):
         return
     if event.type.startswith("object:state-changed:showing") and not event.detail1:
         return
+    if event.type.startswith("object:state-changed:") and not event.type.endswith("showing"):
+        name += f" = {event.detail1}"
     events.append((event.type, role, name))
 
 
-for kind in ("object:state-changed:checked", "object:state-changed:focused",
+for kind in ("object:state-changed:checked", "object:state-changed:selected",
+             "object:state-changed:focused",
              "object:state-changed:showing", "object:property-change:accessible-name",
              "object:announcement"):
     pyatspi.Registry.registerEventListener(on_event, kind)
@@ -299,7 +302,8 @@ pump(lambda: spoken("demo failure injected for /v1/connect"), 10,
 # What a screen reader heard: state changes of controls and what was announced.
 print("AT-SPI events heard (checked states, announcements):")
 for kind, role, name in events:
-    if kind.endswith(":checked") or role == "notification" or kind == "object:announcement":
+    if kind.endswith((":checked", ":selected")) or role == "notification" \
+            or kind == "object:announcement":
         print(f"  {kind} [{role}] {name!r}")
 if failures:
     sys.exit(f"{len(failures)} failed")

@@ -270,6 +270,11 @@ pump(lambda: checked(pyatspi.ROLE_CHECK_BOX, "Kill Switch"), 8, "Kill Switch to 
 act(find(window(), pyatspi.ROLE_RADIO_BUTTON, "Kill Switch mode: Always"), "Toggle")
 expect_request("POST /v1/kill-switch/mode -> 200", "the Always option")
 pump(lambda: checked(pyatspi.ROLE_RADIO_BUTTON, "Kill Switch mode: Always"), 8, "Always")
+# Buttons are named by what they do, not by their row.
+act(find(window(), pyatspi.ROLE_PUSH_BUTTON, "Repair connection"), "Press")
+expect_request("POST /v1/vpn/repair", "Repair connection")
+if find(window(), pyatspi.ROLE_PUSH_BUTTON, "Open logs") is None:
+    fail("no button named \"Open logs\"")
 act(find(window(), pyatspi.ROLE_PUSH_BUTTON, "Check for updates"), "Press")
 expect_request("/v1/gui/update/check", "Check for updates")
 

@@ -10,6 +10,7 @@
 #include "LocationItemDelegate.h"
 #include "NotificationHost.h"
 #include "RequestButton.h"
+#include "RequestRadioButton.h"
 #include "ThemeEngine.h"
 #include "ThemedScrollBar.h"
 #include "ToggleSwitch.h"
@@ -215,6 +216,18 @@ QWidget *GalleryWindow::buildSwitchCard()
     auto *check = new QCheckBox(QStringLiteral("Remember this account"));
     check->setChecked(true);
     body->addWidget(check);
+    // Options that only ask, as the kill switch modes do; the gallery accepts at once.
+    QList<RequestRadioButton *> options;
+    for (const char *text : {"Auto", "Always"})
+        options.append(new RequestRadioButton(QString::fromLatin1(text)));
+    for (RequestRadioButton *option : options) {
+        connect(option, &QRadioButton::clicked, option, [option, options] {
+            for (RequestRadioButton *other : options)
+                other->setChecked(other == option);
+        });
+        body->addWidget(option, 0, Qt::AlignLeading);
+    }
+    options.first()->setChecked(true);
     body->addStretch(1);
     return frame;
 }

@@ -1392,6 +1392,17 @@
     </message>
 </context>
 <context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>مسح النص</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -2246,6 +2257,14 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Waiting for the Tovra service...</source>
         <translation>في انتظار خدمة Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3660,6 +3679,14 @@ Available version: %2</source>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>حركة المرور غير محمية.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>متصل بـ %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>فشل الاتصال: %1</translation>
     </message>
 </context>
 <context>

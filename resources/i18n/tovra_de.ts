@@ -1392,6 +1392,17 @@
     </message>
 </context>
 <context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Text leeren</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -2246,6 +2257,14 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     <message>
         <source>Waiting for the Tovra service...</source>
         <translation>Warten auf den Tovra-Dienst...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3656,6 +3675,14 @@ Verfügbare Version: %2</translation>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>Ihr Datenverkehr ist nicht geschützt.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Verbunden mit %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Verbindung fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>

@@ -1392,6 +1392,17 @@
     </message>
 </context>
 <context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Borrar el texto</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -2246,6 +2257,14 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <message>
         <source>Waiting for the Tovra service...</source>
         <translation>Esperando al servicio de Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3656,6 +3675,14 @@ Versión disponible: %2</translation>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>Tu tráfico no está protegido.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Conectado a %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Error de conexión: %1</translation>
     </message>
 </context>
 <context>

@@ -1392,6 +1392,17 @@
     </message>
 </context>
 <context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Effacer le texte</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -2246,6 +2257,14 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     <message>
         <source>Waiting for the Tovra service...</source>
         <translation>En attente du service Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1 : %2</translation>
     </message>
 </context>
 <context>
@@ -3656,6 +3675,14 @@ Version disponible&#xa0;: %2</translation>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>Votre trafic n’est pas protégé.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Connecté à %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Échec de la connexion : %1</translation>
     </message>
 </context>
 <context>

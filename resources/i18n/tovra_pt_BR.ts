@@ -1392,6 +1392,17 @@
     </message>
 </context>
 <context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Limpar pesquisa</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Limpar texto</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -2246,6 +2257,14 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     <message>
         <source>Waiting for the Tovra service...</source>
         <translation>Aguardando o serviço Tovra...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3656,6 +3675,14 @@ Versão disponível: %2</translation>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>Seu tráfego não está protegido.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Conectado a %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Falha na conexão: %1</translation>
     </message>
 </context>
 <context>

@@ -1392,6 +1392,17 @@
     </message>
 </context>
 <context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Aramayı temizle</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Metni temizle</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -2246,6 +2257,14 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     <message>
         <source>Waiting for the Tovra service...</source>
         <translation>Tovra hizmeti bekleniyor...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
     </message>
 </context>
 <context>
@@ -3655,6 +3674,14 @@ Yeni sürüm: %2</translation>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>Trafiğiniz korunmuyor.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Bağlandı: %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Bağlantı başarısız oldu: %1</translation>
     </message>
 </context>
 <context>

@@ -1392,6 +1392,17 @@
     </message>
 </context>
 <context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>清除搜索</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>清除文本</translation>
+    </message>
+</context>
+<context>
     <name>GuiAutostart</name>
     <message>
         <source>Login startup is not supported on this platform.</source>
@@ -2246,6 +2257,14 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Waiting for the Tovra service...</source>
         <translation>正在等待 Tovra 服务...</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1：%2</translation>
     </message>
 </context>
 <context>
@@ -3655,6 +3674,14 @@ Available version: %2</source>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>您的流量未受保护。</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>已连接到 %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>连接失败：%1</translation>
     </message>
 </context>
 <context>

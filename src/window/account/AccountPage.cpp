@@ -1,5 +1,6 @@
 #include "AccountPage.h"
 
+#include "AccessibleAnnouncer.h"
 #include "AccountSignInCard.h"
 #include "AccountSummaryCard.h"
 #include "AppState.h"
@@ -21,6 +22,7 @@ AccountPage::AccountPage(QWidget *parent)
     , m_message(new QLabel(this))
     , m_signInCard(new AccountSignInCard(this))
     , m_summaryCard(new AccountSummaryCard(this))
+    , m_announcer(new AccessibleAnnouncer(this))
 {
     m_message->setObjectName(QStringLiteral("TovraAccountMessage"));
     m_message->setWordWrap(true);
@@ -113,6 +115,7 @@ void AccountPage::showError(const QString &message)
     //: "Could not complete the account action"
     m_message->setText(text.isEmpty() ? tr("Account operation failed") : text);
     m_message->show();
+    m_announcer->announce(m_message->text(), AccessibleAnnouncer::Politeness::Assertive);
     // A failed sign-in keeps the account name for the next try, never the password.
     m_signInCard->clearPassword();
 }

@@ -5,6 +5,7 @@
 
 class AccountSignInCard;
 class AccountSummaryCard;
+class AccessibleAnnouncer;
 class QLabel;
 
 // Page 4: signing in to the service account and out again. It holds no account state: the
@@ -46,6 +47,7 @@ private:
     QLabel *m_message;
     AccountSignInCard *m_signInCard;
     AccountSummaryCard *m_summaryCard;
+    AccessibleAnnouncer *m_announcer;
     bool m_operationInProgress = false;
     bool m_renewalOpening = false;
     QString m_unavailableReason;

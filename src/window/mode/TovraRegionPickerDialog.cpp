@@ -3,6 +3,7 @@
 #include "BidiText.h"
 #include "CatalogFilterModel.h"
 #include "Countries.h"
+#include "FieldClearButton.h"
 #include "LocationRoles.h"
 #include "RegionCheckDelegate.h"
 #include "ThemeEngine.h"
@@ -53,7 +54,7 @@ TovraRegionPickerDialog::TovraRegionPickerDialog(QWidget *parent)
     m_search->setObjectName(QStringLiteral("TovraRegionPickerSearch"));
     m_search->setPlaceholderText(tr("Search countries"));
     m_search->setAccessibleName(tr("Search countries"));
-    m_search->setClearButtonEnabled(true);
+    FieldClearButton::enable(m_search, FieldClearButton::Kind::Search);
     m_search->installEventFilter(this);
 
     // Listed by the name the user reads, in the user's language.

@@ -1,5 +1,6 @@
 #include "LanguagePickerDialog.h"
 
+#include "FieldClearButton.h"
 #include "LanguageFilterModel.h"
 #include "TovraDialogTitleBarThemer.h"
 #include "TranslationManager.h"
@@ -78,7 +79,7 @@ LanguagePickerDialog::LanguagePickerDialog(const QList<LanguageEntry> &languages
     m_search->setObjectName(QStringLiteral("TovraLanguagePickerSearch"));
     m_search->setPlaceholderText(tr("Search languages"));
     m_search->setAccessibleName(tr("Search languages"));
-    m_search->setClearButtonEnabled(true);
+    FieldClearButton::enable(m_search, FieldClearButton::Kind::Search);
     m_list->setObjectName(QStringLiteral("TovraLanguagePickerList"));
     m_list->setAccessibleName(tr("Languages"));
     m_list->setModel(m_filter);

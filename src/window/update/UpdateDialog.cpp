@@ -1,5 +1,6 @@
 #include "UpdateDialog.h"
 
+#include "AccessibleAnnouncer.h"
 #include "BidiText.h"
 #include "TovraDialogTitleBarThemer.h"
 
@@ -291,10 +292,20 @@ void UpdateDialog::setPhase(Phase phase)
         setStatus(tr("Download complete. Opening the installer..."), kProgressRange, true);
         break;
     }
+    // The end of a download is news for someone not looking at the dialog.
+    if (phase == Phase::Ready || phase == Phase::Canceled)
+        announcer()->announce(m_status->text());
     applyButtons();
     // The button that had focus may be gone in the new phase.
     if (isVisible())
         focusStepForward();
+}
+
+AccessibleAnnouncer *UpdateDialog::announcer()
+{
+    if (!m_announcer)
+        m_announcer = new AccessibleAnnouncer(this);
+    return m_announcer;
 }
 
 void UpdateDialog::setStatus(const QString &text, int progressPermille, bool progressVisible)
@@ -320,6 +331,8 @@ void UpdateDialog::setMessage(const QString &text, const QString &role, const QS
         m_message->style()->unpolish(m_message);
         m_message->style()->polish(m_message);
     }
+    if (role == QLatin1String("error"))
+        announcer()->announce(text, AccessibleAnnouncer::Politeness::Assertive);
     const bool showDetail = !detail.trimmed().isEmpty() && detail.trimmed() != text;
     m_detail->setText(showDetail ? detail.trimmed() : QString());
     m_detail->setVisible(showDetail);

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class AccessibleAnnouncer;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -63,6 +64,7 @@ protected:
     void showEvent(QShowEvent *event) override;
 
 private:
+    AccessibleAnnouncer *announcer();
     void build();
     void setPhase(Phase phase);
     void setStatus(const QString &text, int progressPermille, bool progressVisible);
@@ -83,6 +85,7 @@ private:
     QLabel *m_status = nullptr;
     QProgressBar *m_progress = nullptr;
     QLabel *m_message = nullptr;
+    AccessibleAnnouncer *m_announcer = nullptr;
     QLabel *m_detail = nullptr;
     QPushButton *m_hideUpdate = nullptr;
     QPushButton *m_notNow = nullptr;

@@ -1,5 +1,6 @@
 #include "VpnPage.h"
 
+#include "AccessibleAnnouncer.h"
 #include "AppState.h"
 #include "CatalogTreeModel.h"
 #include "GuiPreferences.h"
@@ -14,6 +15,7 @@
 
 #include <QAction>
 #include <QPushButton>
+#include <QTimer>
 
 using Phase = VpnStatusSummary::Phase;
 
@@ -24,8 +26,14 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     , m_status(new VpnStatusCard(this))
     , m_search(new QuickEntryField(m_recent, this, this))
     , m_recentCard(new VpnRecentLocations(this))
+    // Inside the status card: the region whose changes it speaks.
+    , m_announcer(new AccessibleAnnouncer(m_status))
+    , m_announceDelay(new QTimer(this))
     , m_confirm(confirmKillSwitchNeedsVpnMode)
 {
+    m_announceDelay->setSingleShot(true);
+    m_announceDelay->setInterval(300);
+    connect(m_announceDelay, &QTimer::timeout, this, &VpnPage::speakPendingLine);
     m_search->setCatalogModel(m_catalog);
     addContent(m_status);
     addContent(m_search);
@@ -96,9 +104,36 @@ void VpnPage::redraw()
         VpnStatusSummary::build(m_runtime, m_nodes, m_killSwitch, m_unavailableReason, m_pending);
     m_status->setSummary(m_summary);
     guiTextLog("window.status", m_summary.title + QStringLiteral(" | ") + m_summary.detail);
+    // Until the first refresh the page shows no state of the daemon's: nothing to speak of.
+    const ConnectionAnnouncements::Line line = m_announcements.next(m_summary, m_runtime.lastError);
+    if (!m_refreshed && !line.text.isEmpty()) {
+        m_spokenText = line.text; // what the window opens on is read with the window
+    } else if (!line.text.isEmpty()) {
+        // A connect passes through a moment of "disconnected" between the shell's answer and
+        // the new status: only the state that holds is spoken.
+        m_pendingLine = line;
+        m_announceDelay->start();
+    }
     updatePrimaryAction();
     updateKillSwitch();
     m_recentCard->setConnectEnabled(m_summary.phase != Phase::Unavailable);
+}
+
+bool VpnPage::hasPendingAnnouncement() const
+{
+    return m_announceDelay->isActive();
+}
+
+void VpnPage::speakPendingLine()
+{
+    // Back where it was before the moment passed: nothing new to say.
+    if (m_pendingLine.text == m_spokenText)
+        return;
+    m_spokenText = m_pendingLine.text;
+    m_announcer->announce(m_pendingLine.text, m_pendingLine.assertive
+                                                  ? AccessibleAnnouncer::Politeness::Assertive
+                                                  : AccessibleAnnouncer::Politeness::Polite);
+    guiTextLog("window.announce", m_pendingLine.text);
 }
 
 void VpnPage::updatePrimaryAction()

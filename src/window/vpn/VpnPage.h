@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ConnectionAnnouncements.h"
 #include "KillSwitchInfo.h"
 #include "NodeGroupsInfo.h"
 #include "NodesInfo.h"
@@ -9,6 +10,8 @@
 
 #include <functional>
 
+class AccessibleAnnouncer;
+class QTimer;
 class CatalogTreeModel;
 class GuiPreferences;
 class QuickEntryField;
@@ -41,6 +44,9 @@ public:
 
     const VpnStatusSummary &summary() const { return m_summary; }
     VpnStatusCard *statusCard() const { return m_status; }
+    AccessibleAnnouncer *announcer() const { return m_announcer; }
+    // A change of state waits a moment before it is spoken, in case it is gone at once.
+    bool hasPendingAnnouncement() const;
     QuickEntryField *quickEntry() const { return m_search; }
     VpnRecentLocations *recentLocations() const { return m_recentCard; }
 
@@ -67,6 +73,7 @@ private:
     void connectTo(const QString &target, const QString &label, bool group);
     void handleKillSwitchToggle(bool enabled);
     void clearRecentLocations();
+    void speakPendingLine();
 
     RecentActivityStore *m_recent = nullptr;
     CatalogTreeModel *m_catalog;
@@ -81,6 +88,11 @@ private:
     QString m_unavailableReason;
     VpnStatusSummary::PendingConnect m_pending;
     VpnStatusSummary m_summary;
+    ConnectionAnnouncements m_announcements;
+    AccessibleAnnouncer *m_announcer;
+    QTimer *m_announceDelay;
+    ConnectionAnnouncements::Line m_pendingLine;
+    QString m_spokenText;
     QString m_recordedId;
     bool m_refreshed = false;
     std::function<int(QWidget *)> m_confirm;

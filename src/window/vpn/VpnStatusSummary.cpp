@@ -138,6 +138,7 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
         const QString target = pending.active && !pending.label.trimmed().isEmpty()
                                    ? pending.label.trimmed()
                                    : summary.locationText;
+        summary.connectingTo = target;
         summary.detail = target.isEmpty()
                              ? VpnPageText::tr("Setting up the tunnel.")
                              : VpnPageText::tr("Connecting to %1").arg(isolated(target));

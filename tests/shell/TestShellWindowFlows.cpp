@@ -3,6 +3,7 @@
 #include "ConnectionFlow.h"
 #include "ControlEndpoints.h"
 #include "DemoDaemon.h"
+#include "LocationRoles.h"
 #include "MainWindow.h"
 #include "NotificationHost.h"
 #include "TempXdgDirs.h"
@@ -10,12 +11,14 @@
 #include "TovraTrayApp.h"
 #include "WindowController.h"
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTreeView>
 
 namespace {
 
@@ -107,6 +110,38 @@ private Q_SLOTS:
         } else {
             QCOMPARE(user->text(), QStringLiteral("demo@tovra.invalid"));
         }
+    }
+
+    // Signed out with the catalogue on screen, then signed in on the Free plan: the plan's
+    // locks reach the Locations page, and a locked row connects nowhere.
+    void freeSignInLocksPremiumLocations()
+    {
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start({}, false), qPrintable(run.daemon.errorString()));
+        run.controller()->showLocations();
+        QTRY_VERIFY(run.shell->state()->nodes().valid && run.shell->state()->nodeGroups().valid);
+        auto *tree = run.find<QTreeView>(QStringLiteral("TovraLocationsTree"));
+        QAbstractItemModelTester tester(tree->model(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        run.shell->loginAccount(QStringLiteral("free@tovra.invalid"), QStringLiteral("demo"),
+                                false);
+        QTRY_VERIFY(run.shell->state()->user().valid);
+
+        const QModelIndexList premium =
+            tree->model()->match(tree->model()->index(0, 0), LocationTierRole,
+                                 QStringLiteral("SVIP"), 1, Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(premium.size(), 1);
+        QVERIFY(premium.first().data(LocationLockedRole).toBool());
+
+        QSignalSpy connects(run.controller(), &WindowController::connectNodeRequested);
+        tree->scrollTo(premium.first());
+        tree->setCurrentIndex(premium.first());
+        QTest::keyClick(tree, Qt::Key_Return);
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {},
+                           tree->visualRect(premium.first()).center());
+        QCOMPARE(connects.size(), 0);
+        QVERIFY(!run.shell->connectionFlow()->connectInProgress());
     }
 
     // The window is marked while a connect runs; a refused connect renames nothing.

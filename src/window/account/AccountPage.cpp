@@ -57,6 +57,11 @@ void AccountPage::signIn()
     Q_EMIT loginRequested(username, m_signInCard->password(), m_signInCard->rememberMe());
 }
 
+WindowPage::Records AccountPage::reads() const
+{
+    return Record::Runtime | Record::User;
+}
+
 void AccountPage::refresh(const AppState &state)
 {
     refresh(state.runtime().authState, state.user());

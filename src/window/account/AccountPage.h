@@ -17,6 +17,7 @@ public:
     explicit AccountPage(QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void refresh(const QString &sessionState, const UserInfo &user);
 
     void setAccountOperationInProgress(bool inProgress);

@@ -65,6 +65,11 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     redraw();
 }
 
+WindowPage::Records VpnPage::reads() const
+{
+    return Record::Runtime | Record::User | Record::Nodes | Record::NodeGroups | Record::KillSwitch;
+}
+
 void VpnPage::refresh(const AppState &state)
 {
     m_runtime = state.runtime();

@@ -28,6 +28,7 @@ public:
     explicit VpnPage(GuiPreferences *preferences, QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void applyTheme(const ThemeColors &colors) override;
 
     // Stops a pending search and hides the quick-entry popup; called when the page is left.

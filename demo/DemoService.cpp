@@ -54,6 +54,8 @@ DemoService::DemoService(const DemoOptions &options, const QString &rootDir, QOb
     , m_split(m_config.configDir())
     , m_update(m_config.downloadDir(), options.vendorHost, options.forceUpgrade)
 {
+    if (!options.rememberedAccount.isEmpty())
+        m_account.restore(options.rememberedAccount);
     addStatusRoutes();
     addCatalogRoutes();
     addTunnelRoutes();

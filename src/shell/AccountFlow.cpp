@@ -1,5 +1,6 @@
 #include "AccountFlow.h"
 
+#include "AccountSession.h"
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "RequestLedger.h"
@@ -7,7 +8,6 @@
 #include "ShellText.h"
 #include "ShellWorkers.h"
 #include "TovraTrayApp.h"
-#include "TrayStatusFormatter.h"
 #include "WindowController.h"
 
 #include <QUrl>
@@ -126,8 +126,8 @@ void AccountFlow::followRuntime(const RuntimeInfo &runtime)
     if (!runtime.valid || runtime.authState == m_lastAuthState)
         return;
     m_lastAuthState = runtime.authState;
-    // The tray's rule, so that the menu and the account record never disagree.
-    if (TrayStatusFormatter::isSignedIn(runtime))
+    // A remembered ("cached") session is signed in too: its account is wanted as much.
+    if (AccountSession::isSignedIn(runtime.authState))
         fetchUser(false);
     else
         m_context.state->clearUser();

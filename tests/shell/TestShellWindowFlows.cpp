@@ -2,13 +2,16 @@
 #include "AppState.h"
 #include "ConnectionFlow.h"
 #include "ControlEndpoints.h"
+#include "ControlWorker.h"
 #include "DemoDaemon.h"
 #include "LocationRoles.h"
 #include "MainWindow.h"
 #include "NotificationHost.h"
+#include "ShellWorkers.h"
 #include "TempXdgDirs.h"
 #include "TovraAppShell.h"
 #include "TovraTrayApp.h"
+#include "TrayStatusPoller.h"
 #include "WindowController.h"
 
 #include <QAbstractItemModelTester>
@@ -110,6 +113,32 @@ private Q_SLOTS:
         } else {
             QCOMPARE(user->text(), QStringLiteral("demo@tovra.invalid"));
         }
+    }
+
+    // A session the daemon restored from memory is a signed-in one: its account is looked up,
+    // and kept, for the page and the tray alike.
+    void rememberedSessionShowsTheAccount()
+    {
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start({QStringLiteral("--remembered"), QStringLiteral("free@tovra.invalid")},
+                           false),
+                 qPrintable(run.daemon.errorString()));
+        QCOMPARE(run.shell->state()->runtime().authState, QStringLiteral("cached"));
+        run.controller()->showAccount();
+        auto *summary = run.find<QLabel>(QStringLiteral("TovraAccountSummary"));
+        const QString free = QStringLiteral("User ID: 81020988\nPlan: Free\n"
+                                            "Max simultaneous devices: 1");
+        QTRY_COMPARE(summary->text(), free);
+        // The tray's next look at the status leaves the record where it is. (A poll already on
+        // its way makes the tray skip this one; the next is due within the interval.)
+        QSignalSpy answered(run.shell->workers()->control(), &ControlWorker::statusFinished);
+        run.shell->tray()->refreshStatus();
+        QTRY_VERIFY_WITH_TIMEOUT(!answered.isEmpty(), TrayStatusPoller::kIntervalMs + 2000);
+        QCoreApplication::processEvents();
+        QVERIFY(run.shell->state()->user().valid);
+        QCOMPARE(summary->text(), free);
+        QCOMPARE(run.shell->tray()->menu().account->text(), QStringLiteral("Account: cached"));
     }
 
     // Signed out with the catalogue on screen, then signed in on the Free plan: the plan's

@@ -1,20 +1,11 @@
 #include "AccountPage.h"
 
+#include "AccountSession.h"
 #include "AccountSignInCard.h"
 #include "AccountSummaryCard.h"
 #include "AppState.h"
 
 #include <QLabel>
-
-namespace {
-
-bool countsAsSignedIn(const QString &sessionState)
-{
-    // A remembered session is as good as a fresh one here.
-    return sessionState == QLatin1String("logged_in") || sessionState == QLatin1String("cached");
-}
-
-} // namespace
 
 AccountPage::AccountPage(QWidget *parent)
     : WindowPage(QStringLiteral("TovraAccountPage"), QString(), QString(), parent)
@@ -69,7 +60,7 @@ void AccountPage::refresh(const AppState &state)
 
 void AccountPage::refresh(const QString &sessionState, const UserInfo &user)
 {
-    const bool signedIn = countsAsSignedIn(sessionState);
+    const bool signedIn = AccountSession::isSignedIn(sessionState);
     m_signInCard->setVisible(!signedIn);
     m_summaryCard->setVisible(signedIn);
     if (signedIn) {

@@ -125,9 +125,14 @@ void AccountFlow::followRuntime(const RuntimeInfo &runtime)
 {
     if (!runtime.valid || runtime.authState == m_lastAuthState)
         return;
+    const bool wasSignedIn = AccountSession::isSignedIn(m_lastAuthState);
     m_lastAuthState = runtime.authState;
-    // A remembered ("cached") session is signed in too: its account is wanted as much.
-    if (AccountSession::isSignedIn(runtime.authState))
+    const bool signedIn = AccountSession::isSignedIn(runtime.authState);
+    // A message about signing in (or out) ends with the state it was about, however that
+    // ended: here, from another client or the command line.
+    if (signedIn != wasSignedIn)
+        m_context.window->clearAccountMessage();
+    if (signedIn)
         fetchUser(false);
     else
         m_context.state->clearUser();

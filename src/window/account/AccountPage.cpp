@@ -41,7 +41,8 @@ void AccountPage::signIn()
         return;
     const QString username = m_signInCard->username();
     if (username.trimmed().isEmpty() || m_signInCard->password().isEmpty()) {
-        showError(tr("Enter account and password."));
+        // Nothing was sent: what was typed stays for the missing half to be added.
+        showMessage(tr("Enter account and password."));
         return;
     }
     clearMessage();
@@ -105,10 +106,15 @@ void AccountPage::setDaemonUnavailableReason(const QString &reason)
 void AccountPage::showError(const QString &message)
 {
     const QString text = message.trimmed();
-    m_message->setText(text.isEmpty() ? tr("Account operation failed") : text);
-    m_message->show();
+    showMessage(text.isEmpty() ? tr("Account operation failed") : text);
     // A failed sign-in keeps the account name for the next try, never the password.
     m_signInCard->clearPassword();
+}
+
+void AccountPage::showMessage(const QString &text)
+{
+    m_message->setText(text);
+    m_message->show();
 }
 
 void AccountPage::clearMessage()

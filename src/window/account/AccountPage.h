@@ -42,6 +42,7 @@ protected:
 
 private:
     void signIn();
+    void showMessage(const QString &text);
     void updateButtons();
 
     QLabel *m_message;

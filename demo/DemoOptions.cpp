@@ -126,9 +126,12 @@ bool DemoOptions::parse(const QCoreApplication &app, DemoOptions *options)
         QStringLiteral("remembered"),
         QStringLiteral("Start with ACCOUNT's remembered session, reported as \"cached\"."),
         QStringLiteral("ACCOUNT"));
+    const QCommandLineOption flakyDownload(
+        QStringLiteral("flaky-download"),
+        QStringLiteral("Break the update download once halfway; it is retried (\"retrying\")."));
     parser.addOptions({socket, dataDir, vendorHost, latency, connectMs, fail, truncate, hang,
                        garbage, chunked, incompatible, noKillSwitchMode, lockdown, forceUpgrade,
-                       remembered, catalogSize});
+                       flakyDownload, remembered, catalogSize});
     parser.process(app);
 
     QTextStream err(stderr);
@@ -179,6 +182,7 @@ bool DemoOptions::parse(const QCoreApplication &app, DemoOptions *options)
     options->noKillSwitchMode = parser.isSet(noKillSwitchMode);
     options->lockdown = parser.isSet(lockdown);
     options->forceUpgrade = parser.isSet(forceUpgrade);
+    options->flakyDownload = parser.isSet(flakyDownload);
     options->rememberedAccount = parser.value(remembered).trimmed();
     if (parser.isSet(remembered) && !AccountStore::knows(options->rememberedAccount)) {
         err << "tovra-demo-daemon: --remembered needs one of the demo accounts" << Qt::endl;

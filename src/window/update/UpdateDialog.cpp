@@ -21,7 +21,8 @@ constexpr int kProgressRange = 1000;
 bool isActive(UpdateDialog::Phase phase)
 {
     return phase == UpdateDialog::Phase::Preparing || phase == UpdateDialog::Phase::Downloading ||
-           phase == UpdateDialog::Phase::Verifying || phase == UpdateDialog::Phase::Canceling;
+           phase == UpdateDialog::Phase::Retrying || phase == UpdateDialog::Phase::Verifying ||
+           phase == UpdateDialog::Phase::Canceling;
 }
 
 QLabel *makeLabel(const char *objectName, QWidget *parent)
@@ -206,8 +207,12 @@ void UpdateDialog::showCanceling()
 void UpdateDialog::setDownload(const GUIUpdateDownloadInfo &info)
 {
     const QString &state = info.state;
-    if (state == QLatin1String("checking")) {
+    if (state == QLatin1String("queued") || state == QLatin1String("checking")) {
         setPhase(Phase::Preparing);
+    } else if (state == QLatin1String("retrying")) {
+        setPhase(Phase::Retrying);
+        // What went wrong, in the daemon's words, under the progress.
+        setMessage(QString(), QString(), info.errorMessage);
     } else if (state == QLatin1String("downloading")) {
         m_phase = Phase::Downloading;
         setMessage(QString(), QString());
@@ -273,6 +278,9 @@ void UpdateDialog::setPhase(Phase phase)
         break;
     case Phase::Downloading:
         setStatus(tr("Downloading update..."), -1, true);
+        break;
+    case Phase::Retrying:
+        setStatus(tr("Retrying the download..."), -1, true);
         break;
     case Phase::Verifying:
         setStatus(tr("Verifying the download..."), kProgressRange, true);

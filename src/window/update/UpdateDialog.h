@@ -21,6 +21,8 @@ public:
         Offer,
         Preparing,
         Downloading,
+        // The daemon starts the download over after a network error.
+        Retrying,
         Verifying,
         Canceling,
         Canceled,

@@ -15,6 +15,7 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
@@ -38,6 +39,7 @@ class TestUpdateFlow : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void offerDownloadsAndOpensTheVerifiedInstaller_data();
     void offerDownloadsAndOpensTheVerifiedInstaller();
     void cancelMidDownload();
     void cancelArrivingAfterCompletionOpensNothing();
@@ -107,9 +109,20 @@ bool TestUpdateFlow::waitForCheck() const
     return QTest::qWaitFor([this] { return !m_shell->updateFlow()->checkInFlight(); }, 10000);
 }
 
+void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller_data()
+{
+    QTest::addColumn<QStringList>("daemonArguments");
+    QTest::addRow("queued first") << QStringList();
+    QTest::addRow("retried halfway") << QStringList{QStringLiteral("--flaky-download")};
+}
+
 void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller()
 {
-    QVERIFY(startShell());
+    QFETCH(QStringList, daemonArguments);
+    QVERIFY(startShell(daemonArguments));
+    QStringList states;
+    connect(m_shell->updateFlow(), &UpdateFlow::downloadChanged, this,
+            [&states](const GUIUpdateDownloadInfo &info) { states << info.state; });
     m_shell->checkSettingsUpdate();
     QTRY_VERIFY(dialog()->isVisible());
     QCOMPARE(dialog()->phase(), UpdateDialog::Phase::Offer);
@@ -121,6 +134,12 @@ void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller()
     QVERIFY(dialog()->statusText().startsWith(QLatin1String("Downloading ")));
     QCOMPARE(m_shell->updateFlow()->downloadFlow()->pollIntervalMs(),
              UpdateDownloadFlow::kFastPollMs);
+    QCOMPARE(states.constFirst(), QStringLiteral("queued")); // the answer to the start
+    if (!daemonArguments.isEmpty()) {
+        QTRY_COMPARE(dialog()->statusText(), QStringLiteral("Retrying the download..."));
+        QCOMPARE(dialog()->findChild<QLabel *>(QStringLiteral("TovraUpdateDetail"))->text(),
+                 QStringLiteral("connection reset by peer"));
+    }
 
     QTRY_COMPARE_WITH_TIMEOUT(m_opened.size(), 1, kDownloadWaitMs);
     const QString path = m_opened.constFirst().toLocalFile();

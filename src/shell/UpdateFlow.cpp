@@ -234,9 +234,9 @@ void UpdateFlow::startDownload()
         // Wait for the check to land, then go on with the offer it brings.
         m_downloadAfterCheck = true;
         dialog->showPreparing();
-        dialog->showNotice(ShellText::tr("Finishing the latest update check before starting the "
-                                         "download..."),
-                           QStringLiteral("info"));
+        m_download->tell(ShellText::tr("Finishing the latest update check before starting the "
+                                       "download..."),
+                         QStringLiteral("info"));
         return;
     }
     if (m_recheckBeforeDownload) {

@@ -124,10 +124,12 @@ void UpdateDialog::build()
 
     connect(m_download, &QPushButton::clicked, this, &UpdateDialog::downloadRequested);
     connect(m_background, &QPushButton::clicked, this, [this] {
-        // Offered: start and step aside. Under way: only step aside.
-        if (m_phase == Phase::Offer)
-            Q_EMIT downloadRequested();
+        // Offered: step aside and start. Under way: only step aside. Aside first, so that what
+        // the start has to say goes where the user now is, not into a dialog about to hide.
+        const bool start = m_phase == Phase::Offer;
         hide();
+        if (start)
+            Q_EMIT downloadRequested();
     });
     connect(m_cancel, &QPushButton::clicked, this, &UpdateDialog::cancelDownloadRequested);
     connect(m_openLink, &QPushButton::clicked, this, &UpdateDialog::openDownloadLinkRequested);

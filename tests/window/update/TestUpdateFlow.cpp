@@ -41,6 +41,7 @@ private Q_SLOTS:
     void init();
     void offerDownloadsAndOpensTheVerifiedInstaller_data();
     void offerDownloadsAndOpensTheVerifiedInstaller();
+    void backgroundDuringCheckTellsTheWindow();
     void cancelMidDownload();
     void cancelArrivingAfterCompletionOpensNothing();
     void staleOfferFailsThenRetryChecksAgain();
@@ -158,6 +159,21 @@ void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller()
     m_shell->startGUIUpdateDownload();
     QCOMPARE(m_opened.size(), 2);
     QCOMPARE(m_opened.constLast(), m_opened.constFirst());
+}
+
+// Pressed while a check runs, the dialog steps aside: the word that the download waits for the
+// check is said in the window.
+void TestUpdateFlow::backgroundDuringCheckTellsTheWindow()
+{
+    QVERIFY(startShell());
+    m_shell->checkSettingsUpdate();
+    QTRY_VERIFY(dialog()->isVisible());
+    m_shell->updateFlow()->check(false);
+    button("TovraUpdateBackground")->click();
+    QVERIFY(!dialog()->isVisible());
+    QCOMPARE(m_shell->notifier()->lastText(),
+             QStringLiteral("Finishing the latest update check before starting the download..."));
+    QTRY_COMPARE_WITH_TIMEOUT(m_opened.size(), 1, kDownloadWaitMs);
 }
 
 void TestUpdateFlow::cancelMidDownload()

@@ -207,8 +207,12 @@ bool UpdateFlow::blocksConnect()
     m_context.window->showOrRaise();
     if (!updateComplete()) {
         check(false);
+        // Without its own version the GUI cannot ask for the update: no check is on its way.
         m_context.notifier->warning(
-            ShellText::tr("A required Tovra update is being checked before connecting."), 5000);
+            checkInFlight()
+                ? ShellText::tr("A required Tovra update is being checked before connecting.")
+                : ShellText::tr("A required Tovra update must be installed before connecting."),
+            5000);
     } else {
         presentOffer(true);
     }

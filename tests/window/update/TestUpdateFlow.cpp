@@ -17,6 +17,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -50,6 +51,7 @@ private Q_SLOTS:
     void daemonGoneMidDownloadStopsPollingThenRecovers();
     void automaticOfferShownOncePerDayUntilHidden();
     void requiredUpdateBlocksConnect();
+    void requiredUpdateWithoutOwnVersion();
 
 private:
     bool startShell(const QStringList &daemonArguments = {});
@@ -392,6 +394,22 @@ void TestUpdateFlow::requiredUpdateBlocksConnect()
              QStringLiteral("A required Tovra update is being checked before connecting."));
     QTRY_VERIFY(dialog()->isVisible());
     QVERIFY(dialog()->forced());
+}
+
+// A GUI that does not know its own version cannot ask for the required update.
+void TestUpdateFlow::requiredUpdateWithoutOwnVersion()
+{
+    QCoreApplication::setApplicationVersion(QString());
+    const auto restore = qScopeGuard([] { QCoreApplication::setApplicationVersion(kGuiVersion); });
+    GuiUpdateBookkeeping required;
+    required.forceUpgrade = true;
+    m_preferences->setUpdateBookkeeping(QString(), required);
+    QVERIFY(startShell());
+    m_shell->connectSmart(QStringLiteral("de"));
+    QVERIFY(!m_shell->connectionFlow()->connectInProgress());
+    QVERIFY(!m_shell->updateFlow()->checkInFlight());
+    QCOMPARE(m_shell->notifier()->lastText(),
+             QStringLiteral("A required Tovra update must be installed before connecting."));
 }
 
 QTEST_MAIN(TestUpdateFlow)

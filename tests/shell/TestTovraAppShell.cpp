@@ -43,6 +43,8 @@ void TestTovraAppShell::compatibleDaemon()
     QCOMPARE(shell.ledger()->latest(RequestLedger::Kind::Version), Q_UINT64_C(4294967296));
     QCOMPARE(shell.compatibilityState(), TovraAppShell::CompatibilityChecking);
     QVERIFY(!shell.tray()->isControlAvailable());
+    // The check is no outage: the window (Sign In above all) does not wait for it.
+    QCOMPARE(shell.windowController()->replayState().daemonUnavailableReason, QString());
     QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
     QVERIFY(shell.tray()->isControlAvailable());
     // Without a tray the window is the way in: shown at start, and closing it quits.
@@ -64,9 +66,10 @@ void TestTovraAppShell::incompatibleDaemonKeepsTrayDisabled()
     QVERIFY(!shell.tray()->isControlAvailable());
     QVERIFY(shell.tray()->isBusy());
     QCOMPARE(shell.notifier()->lastKind(), QStringLiteral("error"));
-    QCOMPARE(
-        shell.notifier()->lastText(),
-        QStringLiteral("Tovra GUI and daemon are incompatible. Update Tovra before continuing."));
+    const QString incompatible =
+        QStringLiteral("Tovra GUI and daemon are incompatible. Update Tovra before continuing.");
+    QCOMPARE(shell.notifier()->lastText(), incompatible);
+    QCOMPARE(shell.windowController()->replayState().daemonUnavailableReason, incompatible);
     QVERIFY(!shell.state()->version().compatible);
     QVERIFY(!shell.state()->version().daemonVersion.isEmpty());
 

@@ -2,7 +2,9 @@
 #include "ConnectionFlow.h"
 #include "ControlEndpoints.h"
 #include "DemoDaemon.h"
+#include "GuiPreferences.h"
 #include "MainWindow.h"
+#include "RecentActivityStore.h"
 #include "RequestLedger.h"
 #include "ShellNotifier.h"
 #include "TempXdgDirs.h"
@@ -135,8 +137,11 @@ void TestTovraAppShell::trayConnectEndsConnected()
                             QStringLiteral("demo"), false, 3000, &error);
     QCOMPARE(error, QString());
 
-    TovraAppShell shell(nullptr, daemon.socketPath());
-    shell.setSystemTrayAvailable(false);
+    // Living in the tray, with no window made yet.
+    GuiPreferences preferences;
+    preferences.setShowOnLaunch(false);
+    TovraAppShell shell(nullptr, daemon.socketPath(), &preferences);
+    shell.setSystemTrayAvailable(true);
     shell.start();
     QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
     QTRY_VERIFY(shell.tray()->menu().connect->isEnabled());
@@ -152,6 +157,11 @@ void TestTovraAppShell::trayConnectEndsConnected()
     QVERIFY(!menu.connect->isEnabled());
     QVERIFY(menu.disconnect->isEnabled());
     QTRY_COMPARE(menu.account->text(), QStringLiteral("Account: demo@tovra.invalid"));
+    // The window will list it among the recent locations, once.
+    QVERIFY(!shell.windowController()->window());
+    const QList<RecentLocation> recent = RecentActivityStore(&preferences).recentLocations();
+    QCOMPARE(recent.size(), 1);
+    QVERIFY(shell.state()->runtime().connectedNode.contains(recent.first().id));
 }
 
 QTEST_MAIN(TestTovraAppShell)

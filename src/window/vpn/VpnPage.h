@@ -63,7 +63,6 @@ private:
     void redraw();
     void updatePrimaryAction();
     void updateKillSwitch();
-    void recordConnection();
     void triggerPrimaryAction();
     void connectTo(const QString &target, const QString &label, bool group);
     void handleKillSwitchToggle(bool enabled);
@@ -82,7 +81,5 @@ private:
     QString m_unavailableReason;
     VpnStatusSummary::PendingConnect m_pending;
     VpnStatusSummary m_summary;
-    QString m_recordedId;
-    bool m_refreshed = false;
     std::function<int(QWidget *)> m_confirm;
 };

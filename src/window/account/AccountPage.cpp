@@ -17,8 +17,6 @@ AccountPage::AccountPage(QWidget *parent)
     m_message->setWordWrap(true);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_message->hide();
-    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     m_summaryCard->hide();
     addContent(m_message);
     addContent(m_signInCard);
@@ -121,8 +119,6 @@ void AccountPage::clearMessage()
 {
     m_message->clear();
     m_message->hide();
-    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 void AccountPage::updateButtons()

@@ -10,6 +10,8 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QTextBrowser>
+#include <QTextDocument>
+#include <QTextOption>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -147,6 +149,20 @@ void UpdateDialog::showEvent(QShowEvent *event)
     focusStepForward();
 }
 
+void UpdateDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        alignNotes();
+}
+
+void UpdateDialog::alignNotes()
+{
+    QTextOption option = m_notes->document()->defaultTextOption();
+    option.setAlignment(Qt::AlignAbsolute | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+    m_notes->document()->setDefaultTextOption(option);
+}
+
 void UpdateDialog::focusStepForward()
 {
     // Keyboard users land on the step forward, not in the release notes.
@@ -188,6 +204,7 @@ void UpdateDialog::setOffer(const UpdateInfo &info, const QString &currentVersio
     }
     m_notes->setPlainText(entries.isEmpty() ? tr("Release notes are unavailable.")
                                             : entries.join(QLatin1Char('\n')));
+    alignNotes();
     applyButtons();
 }
 

@@ -2705,6 +2705,10 @@ Try a country, a city or a code such as “de”.</source>
         <source>Tovra %1 is available</source>
         <translation>يتوفر Tovra %1</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>يجب تثبيت تحديث إلزامي لـ Tovra قبل الاتصال.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3552,6 +3556,10 @@ Available version: %2</source>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>تنزيل تحديث Tovra وتثبيته</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>جارٍ إعادة محاولة التنزيل...</translation>
     </message>
 </context>
 <context>

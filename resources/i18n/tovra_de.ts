@@ -2701,6 +2701,10 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 ist verfügbar</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Vor dem Verbinden muss ein erforderliches Tovra-Update installiert werden.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3548,6 +3552,10 @@ Verfügbare Version: %2</translation>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Tovra-Update herunterladen und installieren</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Download wird erneut versucht...</translation>
     </message>
 </context>
 <context>

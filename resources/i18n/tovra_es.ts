@@ -2701,6 +2701,10 @@ Prueba con un país, una ciudad o un código como «de».</translation>
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 está disponible</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Hay que instalar una actualización obligatoria de Tovra antes de conectar.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3548,6 +3552,10 @@ Versión disponible: %2</translation>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Descargar e instalar la actualización de Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Reintentando la descarga...</translation>
     </message>
 </context>
 <context>

@@ -2700,6 +2700,10 @@ Try a country, a city or a code such as “de”.</source>
         <source>Finishing the latest update check before starting the download...</source>
         <translation>در حال تکمیل آخرین بررسی به‌روزرسانی پیش از شروع بارگیری...</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>پیش از اتصال باید یک به‌روزرسانی الزامی Tovra نصب شود.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3547,6 +3551,10 @@ Available version: %2</source>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>بارگیری و نصب به‌روزرسانی Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>در حال تلاش دوباره برای بارگیری...</translation>
     </message>
 </context>
 <context>

@@ -2701,6 +2701,10 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 est disponible</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Une mise à jour obligatoire de Tovra doit être installée avant la connexion.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3548,6 +3552,10 @@ Version disponible&#xa0;: %2</translation>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Télécharger et installer la mise à jour de Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Nouvelle tentative de téléchargement...</translation>
     </message>
 </context>
 <context>

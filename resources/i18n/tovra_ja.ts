@@ -2700,6 +2700,10 @@ Try a country, a city or a code such as “de”.</source>
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 が利用可能です</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>接続する前に、必須の Tovra アップデートをインストールする必要があります。</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3547,6 +3551,10 @@ Available version: %2</source>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Tovra のアップデートをダウンロードしてインストールします</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>ダウンロードを再試行しています...</translation>
     </message>
 </context>
 <context>

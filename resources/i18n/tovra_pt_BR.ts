@@ -2701,6 +2701,10 @@ Tente um país, uma cidade ou um código como “de”.</translation>
         <source>Tovra %1 is available</source>
         <translation>O Tovra %1 está disponível</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Uma atualização obrigatória do Tovra precisa ser instalada antes de conectar.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3548,6 +3552,10 @@ Versão disponível: %2</translation>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Baixar e instalar a atualização do Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Tentando baixar novamente...</translation>
     </message>
 </context>
 <context>

@@ -2702,6 +2702,10 @@ Try a country, a city or a code such as “de”.</source>
         <source>Tovra %1 is available</source>
         <translation>Доступна Tovra %1</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Перед подключением нужно установить обязательное обновление Tovra.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3549,6 +3553,10 @@ Available version: %2</source>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Скачать и установить обновление Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Повторная попытка скачивания...</translation>
     </message>
 </context>
 <context>

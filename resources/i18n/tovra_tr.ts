@@ -2700,6 +2700,10 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
         <source>Finishing the latest update check before starting the download...</source>
         <translation>İndirme başlamadan önce son güncelleme denetimi tamamlanıyor...</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Bağlanmadan önce zorunlu bir Tovra güncellemesi yüklenmelidir.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3547,6 +3551,10 @@ Yeni sürüm: %2</translation>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Tovra güncellemesini indir ve yükle</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>İndirme yeniden deneniyor...</translation>
     </message>
 </context>
 <context>

@@ -2700,6 +2700,10 @@ Try a country, a city or a code such as “de”.</source>
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 已发布</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>连接前必须安装必需的 Tovra 更新。</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3547,6 +3551,10 @@ Available version: %2</source>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>下载并安装 Tovra 更新</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>正在重试下载...</translation>
     </message>
 </context>
 <context>

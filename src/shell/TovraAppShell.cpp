@@ -8,6 +8,7 @@
 #include "ControlWorker.h"
 #include "GuiPreferences.h"
 #include "LanguageFlow.h"
+#include "RecentLocationRecorder.h"
 #include "RequestLedger.h"
 #include "RoutingFlow.h"
 #include "SettingsFlow.h"
@@ -51,6 +52,7 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     m_account = new AccountFlow(m_context, this);
     m_language = new LanguageFlow(m_context, this);
     m_compatibility = new CompatibilityFlow(m_context, this);
+    new RecentLocationRecorder(m_context.state, m_context.preferences, this);
 
     ShellWiring::connectWorkers(this, m_context);
     ShellWiring::connectTray(this, m_context);

@@ -1,5 +1,6 @@
 #include "TrayStatusFormatter.h"
 
+#include "AccountSession.h"
 #include "BidiText.h"
 #include "KillSwitchState.h"
 #include "TrayMenuText.h"
@@ -72,7 +73,7 @@ QString TrayStatusFormatter::daemonLine(const RuntimeInfo &runtime)
 
 bool TrayStatusFormatter::isSignedIn(const RuntimeInfo &runtime)
 {
-    return normalized(runtime.authState) == u"logged_in";
+    return AccountSession::isSignedIn(runtime.authState);
 }
 
 QString TrayStatusFormatter::accountLine(const RuntimeInfo &runtime, const UserInfo &user,

@@ -5,6 +5,7 @@
 #include "GuiMemLog.h"
 #include "GuiPreferences.h"
 #include "GuiTextLog.h"
+#include "LayoutAlignedLabels.h"
 #include "LocationsPage.h"
 #include "ModePage.h"
 #include "NavigationSidebar.h"
@@ -44,6 +45,8 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
 
     setWindowTitle(tr("Tovra"));
     setMinimumSize(780, 620);
+    // Every label starts where the layout starts, whatever its text's own direction.
+    LayoutAlignedLabels::install();
     // Themed before the pages exist: each widget inherits the palette and is polished once,
     // with the sheet, instead of being restyled after construction.
     const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());

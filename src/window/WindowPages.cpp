@@ -115,24 +115,33 @@ void WindowPages::connectState()
     if (!m_state) {
         return;
     }
-    AppState *state = m_state;
-    const auto catalogue = [this] { refreshPages({m_locations, m_vpn}); };
-    const auto settings = [this] { refreshPages({m_settings}); };
-    connect(state, &AppState::runtimeChanged, this, &WindowPages::refreshAll);
-    connect(state, &AppState::userChanged, this, [this] { refreshPages({m_vpn, m_account}); });
-    connect(state, &AppState::nodesChanged, this, catalogue);
-    connect(state, &AppState::nodeGroupsChanged, this, catalogue);
-    connect(state, &AppState::nodesRefreshCooldownChanged, this, catalogue);
-    connect(state, &AppState::killSwitchChanged, this, [this] {
-        refreshPages({m_mode, m_vpn, m_settings});
-    });
-    connect(state, &AppState::splitRulesChanged, this, [this] { refreshPages({m_mode}); });
-    connect(state, &AppState::configPathsChanged, this, settings);
-    connect(state, &AppState::versionChanged, this, settings);
-    connect(state, &AppState::apiURLConfigChanged, this, settings);
-    connect(state, &AppState::languageConfigChanged, this, settings);
-    connect(state, &AppState::updateChanged, this, settings);
-    connect(state, &AppState::splitDNSChanged, this, settings);
+    // Each change reaches exactly the pages whose refresh reads the record: a record a page
+    // reads but does not hear of leaves it drawing from an older store.
+    using R = WindowPage::Record;
+    const auto follow = [this](auto changed, R record) {
+        connect(m_state, changed, this, [this, record] { refreshReaders(record); });
+    };
+    follow(&AppState::runtimeChanged, R::Runtime);
+    follow(&AppState::userChanged, R::User);
+    follow(&AppState::nodesChanged, R::Nodes);
+    follow(&AppState::nodeGroupsChanged, R::NodeGroups);
+    follow(&AppState::nodesRefreshCooldownChanged, R::RefreshCooldown);
+    follow(&AppState::killSwitchChanged, R::KillSwitch);
+    follow(&AppState::splitRulesChanged, R::SplitRules);
+    follow(&AppState::configPathsChanged, R::ConfigPaths);
+    follow(&AppState::versionChanged, R::Version);
+    follow(&AppState::apiURLConfigChanged, R::APIURLConfig);
+    follow(&AppState::languageConfigChanged, R::LanguageConfig);
+    follow(&AppState::updateChanged, R::Update);
+    follow(&AppState::splitDNSChanged, R::SplitDNS);
+}
+
+void WindowPages::refreshReaders(WindowPage::Record record)
+{
+    for (WindowPage *page : builtPages()) {
+        if (page->reads().testFlag(record))
+            page->refresh(*m_state);
+    }
 }
 
 void WindowPages::disconnectState()
@@ -153,9 +162,26 @@ void WindowPages::refreshPages(std::initializer_list<WindowPage *> pages)
     }
 }
 
+QList<WindowPage *> WindowPages::builtPages() const
+{
+    // The catalogue and mode first: the VPN page's summary reads from them.
+    QList<WindowPage *> pages;
+    for (WindowPage *page :
+         {static_cast<WindowPage *>(m_locations), static_cast<WindowPage *>(m_mode),
+          static_cast<WindowPage *>(m_vpn), static_cast<WindowPage *>(m_settings),
+          static_cast<WindowPage *>(m_account)}) {
+        if (page)
+            pages.append(page);
+    }
+    return pages;
+}
+
 void WindowPages::refreshAll()
 {
-    refreshPages({m_locations, m_mode, m_vpn, m_settings, m_account});
+    if (!m_state)
+        return;
+    for (WindowPage *page : builtPages())
+        page->refresh(*m_state);
 }
 
 void WindowPages::applyTheme(const ThemeColors &colors)

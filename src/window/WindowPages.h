@@ -2,7 +2,9 @@
 
 #include "RepairResultInfo.h"
 #include "ThemeColors.h"
+#include "WindowPage.h"
 
+#include <QList>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -20,7 +22,6 @@ class ModePage;
 class PageStack;
 class SettingsPage;
 class VpnPage;
-class WindowPage;
 class QWidget;
 
 // The main window's five pages. The VPN page is built at once, the others on first need; a
@@ -74,7 +75,10 @@ private:
     template<typename T>
     T *builtPage(int index);
     void connectState();
+    void refreshReaders(WindowPage::Record record);
     void refreshPages(std::initializer_list<WindowPage *> pages);
+    // The pages built so far, in the order they redraw.
+    QList<WindowPage *> builtPages() const;
     QString linkLanguage() const;
     QUrl accountLink(const QString &path) const;
 

@@ -18,6 +18,7 @@ public:
     explicit AccountPage(QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void refresh(const QString &sessionState, const UserInfo &user);
 
     void setAccountOperationInProgress(bool inProgress);
@@ -42,6 +43,7 @@ protected:
 
 private:
     void signIn();
+    void showMessage(const QString &text);
     void updateButtons();
 
     QLabel *m_message;

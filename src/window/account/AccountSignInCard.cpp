@@ -7,17 +7,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace {
-
-// Text follows the layout's direction even when its words are in a left-to-right script.
-void alignToLayout(QLabel *label)
-{
-    label->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                        (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
-}
-
-} // namespace
-
 AccountSignInCard::AccountSignInCard(QWidget *parent)
     : QFrame(parent)
     , m_username(new QLineEdit(this))
@@ -82,8 +71,6 @@ AccountSignInCard::AccountSignInCard(QWidget *parent)
     layout->addWidget(m_unavailable);
     layout->addLayout(buttons);
 
-    for (QLabel *label : {title, intro, m_unavailable})
-        alignToLayout(label);
     connect(m_username, &QLineEdit::returnPressed, this, &AccountSignInCard::signInRequested);
     connect(m_password, &QLineEdit::returnPressed, this, &AccountSignInCard::signInRequested);
     connect(m_signIn, &QPushButton::clicked, this, &AccountSignInCard::signInRequested);

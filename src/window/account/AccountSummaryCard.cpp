@@ -5,17 +5,6 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace {
-
-// Text follows the layout's direction even when its words are in a left-to-right script.
-void alignToLayout(QLabel *label)
-{
-    label->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                        (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
-}
-
-} // namespace
-
 AccountSummaryCard::AccountSummaryCard(QWidget *parent)
     : QFrame(parent)
     , m_summary(new QLabel(this))
@@ -50,8 +39,6 @@ AccountSummaryCard::AccountSummaryCard(QWidget *parent)
     layout->addWidget(m_summary);
     layout->addLayout(buttons);
 
-    alignToLayout(title);
-    alignToLayout(m_summary);
     connect(m_renew, &QPushButton::clicked, this, &AccountSummaryCard::renewRequested);
     connect(m_logout, &QPushButton::clicked, this, &AccountSummaryCard::logoutRequested);
 }

@@ -216,6 +216,12 @@ QStringList LocationsPage::tiersFor(const UserInfo &user)
     return tiers;
 }
 
+WindowPage::Records LocationsPage::reads() const
+{
+    return Record::Runtime | Record::User | Record::Nodes | Record::NodeGroups |
+           Record::RefreshCooldown;
+}
+
 void LocationsPage::refresh(const AppState &state)
 {
     m_serviceKnown = state.runtime().valid;

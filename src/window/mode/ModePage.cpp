@@ -71,6 +71,11 @@ ModePage::ModePage(QWidget *parent)
     updateEnabled();
 }
 
+WindowPage::Records ModePage::reads() const
+{
+    return Record::Runtime | Record::KillSwitch | Record::SplitRules;
+}
+
 void ModePage::refresh(const AppState &state)
 {
     const ModeInfo &mode = state.runtime().mode;

@@ -109,6 +109,12 @@ void SettingsPage::connectSections()
     connect(m_diagnostics, &DiagnosticsSection::openLogsRequested, this, &P::openLogsRequested);
 }
 
+WindowPage::Records SettingsPage::reads() const
+{
+    return Record::Runtime | Record::KillSwitch | Record::ConfigPaths | Record::Version |
+           Record::APIURLConfig | Record::LanguageConfig | Record::SplitDNS;
+}
+
 void SettingsPage::refresh(const AppState &state)
 {
     m_state = &state;

@@ -11,6 +11,8 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QTextBrowser>
+#include <QTextDocument>
+#include <QTextOption>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -22,7 +24,8 @@ constexpr int kProgressRange = 1000;
 bool isActive(UpdateDialog::Phase phase)
 {
     return phase == UpdateDialog::Phase::Preparing || phase == UpdateDialog::Phase::Downloading ||
-           phase == UpdateDialog::Phase::Verifying || phase == UpdateDialog::Phase::Canceling;
+           phase == UpdateDialog::Phase::Retrying || phase == UpdateDialog::Phase::Verifying ||
+           phase == UpdateDialog::Phase::Canceling;
 }
 
 QLabel *makeLabel(const char *objectName, QWidget *parent)
@@ -128,10 +131,12 @@ void UpdateDialog::build()
 
     connect(m_download, &QPushButton::clicked, this, &UpdateDialog::downloadRequested);
     connect(m_background, &QPushButton::clicked, this, [this] {
-        // Offered: start and step aside. Under way: only step aside.
-        if (m_phase == Phase::Offer)
-            Q_EMIT downloadRequested();
+        // Offered: step aside and start. Under way: only step aside. Aside first, so that what
+        // the start has to say goes where the user now is, not into a dialog about to hide.
+        const bool start = m_phase == Phase::Offer;
         hide();
+        if (start)
+            Q_EMIT downloadRequested();
     });
     connect(m_cancel, &QPushButton::clicked, this, &UpdateDialog::cancelDownloadRequested);
     connect(m_openLink, &QPushButton::clicked, this, &UpdateDialog::openDownloadLinkRequested);
@@ -147,6 +152,20 @@ void UpdateDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     focusStepForward();
+}
+
+void UpdateDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        alignNotes();
+}
+
+void UpdateDialog::alignNotes()
+{
+    QTextOption option = m_notes->document()->defaultTextOption();
+    option.setAlignment(Qt::AlignAbsolute | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+    m_notes->document()->setDefaultTextOption(option);
 }
 
 void UpdateDialog::focusStepForward()
@@ -190,6 +209,7 @@ void UpdateDialog::setOffer(const UpdateInfo &info, const QString &currentVersio
     }
     m_notes->setPlainText(entries.isEmpty() ? tr("Release notes are unavailable.")
                                             : entries.join(QLatin1Char('\n')));
+    alignNotes();
     applyButtons();
 }
 
@@ -211,8 +231,12 @@ void UpdateDialog::showCanceling()
 void UpdateDialog::setDownload(const GUIUpdateDownloadInfo &info)
 {
     const QString &state = info.state;
-    if (state == QLatin1String("checking")) {
+    if (state == QLatin1String("queued") || state == QLatin1String("checking")) {
         setPhase(Phase::Preparing);
+    } else if (state == QLatin1String("retrying")) {
+        setPhase(Phase::Retrying);
+        // What went wrong, in the daemon's words, under the progress.
+        setMessage(QString(), QString(), info.errorMessage);
     } else if (state == QLatin1String("downloading")) {
         m_phase = Phase::Downloading;
         setMessage(QString(), QString());
@@ -278,6 +302,9 @@ void UpdateDialog::setPhase(Phase phase)
         break;
     case Phase::Downloading:
         setStatus(tr("Downloading update..."), -1, true);
+        break;
+    case Phase::Retrying:
+        setStatus(tr("Retrying the download..."), -1, true);
         break;
     case Phase::Verifying:
         setStatus(tr("Verifying the download..."), kProgressRange, true);

@@ -22,6 +22,8 @@ public:
         Offer,
         Preparing,
         Downloading,
+        // The daemon starts the download over after a network error.
+        Retrying,
         Verifying,
         Canceling,
         Canceled,
@@ -62,6 +64,7 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
     AccessibleAnnouncer *announcer();
@@ -71,6 +74,8 @@ private:
     void setMessage(const QString &text, const QString &role, const QString &detail = QString());
     void applyButtons();
     void focusStepForward();
+    // The release notes start where the layout starts, whatever language they are in.
+    void alignNotes();
     static void setButton(QPushButton *button, const QString &text, const QString &toolTip);
 
     Phase m_phase = Phase::Offer;

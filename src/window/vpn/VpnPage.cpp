@@ -73,6 +73,11 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     redraw();
 }
 
+WindowPage::Records VpnPage::reads() const
+{
+    return Record::Runtime | Record::User | Record::Nodes | Record::NodeGroups | Record::KillSwitch;
+}
+
 void VpnPage::refresh(const AppState &state)
 {
     m_runtime = state.runtime();
@@ -88,7 +93,6 @@ void VpnPage::refresh(const AppState &state)
         m_catalog->setCatalog(m_groups, m_nodes);
     }
     redraw();
-    recordConnection();
     m_refreshed = true;
 }
 
@@ -206,24 +210,6 @@ void VpnPage::connectTo(const QString &target, const QString &label, bool group)
         Q_EMIT connectSmartRequested(target);
     else
         Q_EMIT connectNodeRequested(target, label);
-}
-
-void VpnPage::recordConnection()
-{
-    if (!m_recent)
-        return;
-    if (m_summary.phase != Phase::Connected || m_summary.locationId.isEmpty()) {
-        if (m_summary.phase == Phase::Disconnected)
-            m_recordedId.clear();
-        return;
-    }
-    if (m_summary.locationId == m_recordedId)
-        return;
-    m_recordedId = m_summary.locationId;
-    // A new window finding a connection the user already cleared away does not bring it back.
-    if (!m_refreshed && m_recent->locationsCleared())
-        return;
-    m_recent->addLocation({m_summary.locationId, m_summary.locationText, m_summary.flagCode});
 }
 
 void VpnPage::clearRecentLocations()

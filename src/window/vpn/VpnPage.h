@@ -31,6 +31,7 @@ public:
     explicit VpnPage(GuiPreferences *preferences, QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void applyTheme(const ThemeColors &colors) override;
 
     // Stops a pending search and hides the quick-entry popup; called when the page is left.
@@ -68,7 +69,6 @@ private:
     void redraw();
     void updatePrimaryAction();
     void updateKillSwitch();
-    void recordConnection();
     void triggerPrimaryAction();
     void connectTo(const QString &target, const QString &label, bool group);
     void handleKillSwitchToggle(bool enabled);
@@ -93,7 +93,6 @@ private:
     QTimer *m_announceDelay;
     ConnectionAnnouncements::Line m_pendingLine;
     QString m_spokenText;
-    QString m_recordedId;
     bool m_refreshed = false;
     std::function<int(QWidget *)> m_confirm;
 };

@@ -303,15 +303,14 @@ private Q_SLOTS:
         QVERIFY(!f.page.isQuickEntryPopupOpen());
     }
 
-    // A connection joins the recent list once; Clear empties it and says so.
+    // A location the shell records shows at once; Clear empties the list and says so.
     void recentLocations()
     {
         Fixture f;
-        f.state.setNodes(catalogueNodes());
-        const QByteArray tokyo = R"("tunnel_state": "connected",
-            "connected_node": {"id": 1100, "region": "JP", "name": "Tokyo 01"})";
-        f.apply(status(tokyo));
-        f.apply(status(tokyo + R"(, "daemon_version": "poll")"));
+        f.apply(status(QByteArray()));
+        RecentActivityStore(&f.preferences)
+            .addLocation({QStringLiteral("1100"), QStringLiteral("Japan \u00b7 Tokyo 01"),
+                          QStringLiteral("jp")});
         VpnRecentLocations *card = f.page.recentLocations();
         QCOMPARE(card->rows().size(), 1);
         QCOMPARE(card->rows().first()->text(), QStringLiteral("Japan \u00b7 Tokyo 01"));

@@ -190,8 +190,10 @@ QWidget *LocationsPage::buildContent()
 void LocationsPage::setPreferences(GuiPreferences *preferences)
 {
     m_preferences = preferences;
-    if (m_preferences)
-        m_toolbar->setSort(LocationsToolbar::sortFromKey(m_preferences->locationsSort()));
+    if (!m_preferences)
+        return;
+    m_toolbar->setSort(LocationsToolbar::sortFromKey(m_preferences->locationsSort()));
+    m_toolbar->setTab(m_preferences->locationsTab());
 }
 
 QStringList LocationsPage::tiersFor(const UserInfo &user)
@@ -250,6 +252,8 @@ void LocationsPage::pageShown()
 
 void LocationsPage::tabChanged(const QString &tab)
 {
+    if (m_preferences && m_preferences->locationsTab() != tab)
+        m_preferences->setLocationsTab(tab);
     // A search covers every tab; the tab applies again once the search is cleared.
     if (!m_filter->isSearching())
         m_model->setTab(tab);

@@ -25,7 +25,7 @@ class LocationsPage : public WindowPage
 public:
     explicit LocationsPage(QWidget *parent = nullptr);
 
-    // Where the sort choice is remembered; without it the choice lasts as long as the page.
+    // Where the tab and sort choices are remembered; without it they last as long as the page.
     void setPreferences(GuiPreferences *preferences);
     void refresh(const AppState &state) override;
     void applyTheme(const ThemeColors &colors) override;

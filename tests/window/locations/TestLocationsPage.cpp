@@ -4,10 +4,13 @@
 #include "CatalogFilterModel.h"
 #include "CatalogFixture.h"
 #include "CatalogTreeModel.h"
+#include "GuiPreferences.h"
 #include "LocationRoles.h"
+#include "TempXdgDirs.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -45,6 +48,7 @@ private Q_SLOTS:
     void keyboardIntents();
     void emptyStatesSayWhy();
     void refreshShowsCooldown();
+    void choicesOutliveThePage();
 
 private:
     AppState *m_state = nullptr;
@@ -192,6 +196,22 @@ void TestLocationsPage::refreshShowsCooldown()
     m_page->refresh(*m_state);
     QCOMPARE(refresh->text(), QStringLiteral("Refresh"));
     QVERIFY(refresh->isEnabled());
+}
+
+void TestLocationsPage::choicesOutliveThePage()
+{
+    TempXdgDirs dirs;
+    GuiPreferences preferences;
+    m_page->setPreferences(&preferences);
+    m_page->findChild<QTabBar *>(QStringLiteral("TovraLocationsTabs"))->setCurrentIndex(1);
+    m_page->findChild<QComboBox *>(QStringLiteral("TovraLocationsSort"))->setCurrentIndex(2);
+    // A window made again later, or after a restart, reads the same file.
+    GuiPreferences reread;
+    LocationsPage again;
+    again.setPreferences(&reread);
+    QCOMPARE(again.catalogModel()->tab(), QStringLiteral("free"));
+    QCOMPARE(again.catalogModel()->sortOrder(), CatalogSort::Latency);
+    QCOMPARE(again.findChild<QTabBar *>(QStringLiteral("TovraLocationsTabs"))->currentIndex(), 1);
 }
 
 QTEST_MAIN(TestLocationsPage)

@@ -141,8 +141,10 @@ void CatalogTreeModel::rebuild()
 {
     CatalogTreeBuilder builder(m_groups, m_nodes, {m_tab, m_tiers, m_sort});
     std::vector<CatalogBlueprint> rows = builder.build();
-    if (m_root->children.empty() || rows.empty()) {
-        // Filling an empty tree or emptying a full one: nothing to keep, so one reset is cheaper.
+    if (!keepsTopRow(rows)) {
+        // Filling an empty tree, emptying a full one or replacing every top row (the groups
+        // arriving after the nodes): nothing to keep, so one reset is cheaper, and views never
+        // see the tree empty halfway.
         if (m_root->children.empty() && rows.empty())
             return;
         beginResetModel();
@@ -155,6 +157,17 @@ void CatalogTreeModel::rebuild()
         return;
     }
     sync(m_root.get(), rows);
+}
+
+bool CatalogTreeModel::keepsTopRow(const std::vector<CatalogBlueprint> &rows) const
+{
+    QSet<QString> current;
+    current.reserve(qsizetype(m_root->children.size()));
+    for (const auto &child : m_root->children)
+        current.insert(child->key());
+    return std::any_of(rows.begin(), rows.end(), [&current](const CatalogBlueprint &row) {
+        return current.contains(Item::keyOf(row.group, row.id));
+    });
 }
 
 bool CatalogTreeModel::sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const

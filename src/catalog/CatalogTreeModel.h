@@ -62,6 +62,7 @@ private:
     bool sameNodes(const NodesInfo &nodes) const;
     void updateStates(Item *parent);
     void sync(Item *parent, std::vector<CatalogBlueprint> &rows);
+    bool keepsTopRow(const std::vector<CatalogBlueprint> &rows) const;
     bool sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const;
     void removeMissing(Item *parent, const std::vector<CatalogBlueprint> &rows);
     void reorder(Item *parent, const std::vector<CatalogBlueprint> &rows);

@@ -377,6 +377,15 @@ Qt::ItemFlags CatalogTreeModel::flags(const QModelIndex &index) const
     return result;
 }
 
+bool CatalogTreeModel::isContinent(const Item *item) const
+{
+    for (const Item *level = item; level && level != m_root.get(); level = level->parent) {
+        if (!level->group || level->country)
+            return false;
+    }
+    return true;
+}
+
 QString CatalogTreeModel::accessibleText(const Item *item) const
 {
     QStringList parts{item->label};
@@ -442,6 +451,8 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
         return item->stale;
     case LocationLockedRole:
         return item->locked;
+    case LocationContinentRole:
+        return isContinent(item);
     default:
         return {};
     }

@@ -70,6 +70,8 @@ private:
     void updateRows(Item *parent, std::vector<CatalogBlueprint> &rows);
     QModelIndex indexOf(const Item *item) const;
     Item *itemAt(const QModelIndex &index) const;
+    // A group that is no country and lies in none.
+    bool isContinent(const Item *item) const;
     QString accessibleText(const Item *item) const;
 
     NodeGroupsInfo m_groups;

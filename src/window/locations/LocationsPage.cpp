@@ -155,7 +155,7 @@ QWidget *LocationsPage::buildContent()
             m_tree->setCurrentIndex(m_filter->index(0, 0));
         m_tree->setFocus(Qt::TabFocusReason);
     });
-    connect(m_tree, &LocationsTreeView::rowActivated, this, &LocationsPage::activate);
+    connect(m_tree, &LocationsTreeView::rowActivated, this, &LocationsPage::openOrActivate);
     connect(m_tree, &LocationsTreeView::favoriteToggled, this, &LocationsPage::toggleFavorite);
     connect(m_tree, &LocationsTreeView::menuRequested, this, &LocationsPage::showRowMenu);
     connect(m_tree, &LocationsTreeView::textTyped, this, &LocationsPage::typeIntoSearch);
@@ -332,7 +332,18 @@ void LocationsPage::activateFromSearch()
         selectFirstMatch();
         target = m_tree->currentIndex();
     }
-    activate(target);
+    openOrActivate(target);
+}
+
+void LocationsPage::openOrActivate(const QModelIndex &index)
+{
+    // A continent is too wide to mean one connection: it opens like a folder. Its menu still
+    // offers the fastest location.
+    if (index.data(LocationContinentRole).toBool()) {
+        m_tree->setExpanded(index, !m_tree->isExpanded(index));
+        return;
+    }
+    activate(index);
 }
 
 void LocationsPage::activate(const QModelIndex &index)

@@ -50,6 +50,8 @@ private:
     void searchChanged(const QString &text);
     void tabChanged(const QString &tab);
     void activate(const QModelIndex &index);
+    // A double-click or Enter: continents open and close, other rows connect.
+    void openOrActivate(const QModelIndex &index);
     void activateFromSearch();
     void toggleFavorite(const QModelIndex &index);
     void showRowMenu(const QModelIndex &index, const QPoint &globalPos);

@@ -14,7 +14,7 @@ LocationsTreeView::LocationsTreeView(QWidget *parent)
     setUniformRowHeights(true);
     setRootIsDecorated(true);
     setAnimated(false);
-    // A double-click connects; the branch arrow and the arrow keys fold.
+    // The page decides what a double-click does; the branch arrow and the arrow keys fold.
     setExpandsOnDoubleClick(false);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);

@@ -3,8 +3,8 @@
 #include <QTreeView>
 
 // The locations tree as the keyboard sees it: one Tab stop; arrows move, Enter and a
-// double-click connect, Space stars a node, letters go to the search field, the menu key and a
-// right click open the row's menu.
+// double-click activate the row, Space stars a node, letters go to the search field, the menu
+// key and a right click open the row's menu.
 class LocationsTreeView : public QTreeView
 {
     Q_OBJECT

@@ -47,6 +47,8 @@ private Q_SLOTS:
     void cleanup();
     void keyboardIntents_data();
     void keyboardIntents();
+    void doubleClickAndEnter_data();
+    void doubleClickAndEnter();
     void emptyStatesSayWhy();
     void refreshShowsCooldown();
     void choicesOutliveThePage();
@@ -139,6 +141,42 @@ void TestLocationsPage::keyboardIntents()
     QTest::keyClick(tree, Qt::Key_Space);
     QCOMPARE(star.size(), 1);
     QCOMPARE(star.first(), QVariantList({QStringLiteral("1016"), true}));
+}
+
+void TestLocationsPage::doubleClickAndEnter_data()
+{
+    QTest::addColumn<QString>("selector");
+    QTest::addColumn<bool>("mouse");
+    QTest::addColumn<QString>("smart"); // the connectSmartRequested selector; empty: it opens
+    QTest::addRow("continent, double-click") << QStringLiteral("continent:eu") << true << QString();
+    QTest::addRow("continent, Enter") << QStringLiteral("continent:na") << false << QString();
+    QTest::addRow("country, double-click")
+        << QStringLiteral("country:de") << true << QStringLiteral("country:de");
+}
+
+void TestLocationsPage::doubleClickAndEnter()
+{
+    QFETCH(QString, selector);
+    QFETCH(bool, mouse);
+    QFETCH(QString, smart);
+    m_state->setRuntime(runningDaemon());
+    loadInto(*m_state, CatalogFixture::small());
+    m_page->refresh(*m_state);
+    QSignalSpy smartSpy(m_page, &LocationsPage::connectSmartRequested);
+    auto *tree = m_page->findChild<QTreeView *>(QStringLiteral("TovraLocationsTree"));
+    const QModelIndex row =
+        m_page->filterModel()->mapFromSource(m_page->catalogModel()->indexForSelector(selector));
+    tree->scrollTo(row);
+    tree->setCurrentIndex(row);
+    tree->setFocus();
+    if (mouse)
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(row).center());
+    else
+        QTest::keyClick(tree, Qt::Key_Return);
+    QCOMPARE(smartSpy.size(), smart.isEmpty() ? 0 : 1);
+    if (!smart.isEmpty())
+        QCOMPARE(smartSpy.first().at(0).toString(), smart);
+    QCOMPARE(tree->isExpanded(row), smart.isEmpty());
 }
 
 void TestLocationsPage::emptyStatesSayWhy()

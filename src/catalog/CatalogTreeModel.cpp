@@ -13,7 +13,8 @@ namespace {
 const QList<int> kStateRoles = {
     LocationPingMsRole,    LocationSignalLevelRole, LocationFavoriteRole,
     LocationConnectedRole, LocationSelectedRole,    LocationStaleRole,
-    LocationLockedRole,    Qt::AccessibleTextRole,  Qt::ToolTipRole};
+    LocationLockedRole,    Qt::AccessibleTextRole,  Qt::AccessibleDescriptionRole,
+    Qt::ToolTipRole};
 
 } // namespace
 
@@ -74,6 +75,11 @@ void CatalogTreeModel::updateStates(Item *parent)
         bool changed = false;
         if (item->group) {
             updateStates(item);
+            // A group marks where the connection is, even folded.
+            if (item->connected != item->childConnected()) {
+                item->connected = !item->connected;
+                changed = true;
+            }
         } else {
             const NodeEntry &node = m_nodes.nodes.at(item->nodeIndex);
             item->node = node;
@@ -386,6 +392,15 @@ bool CatalogTreeModel::isContinent(const Item *item) const
     return true;
 }
 
+QString CatalogTreeModel::lockedText(const Item *item)
+{
+    // A group is locked only when every node below is, all of them in practice of one tier.
+    const QString tier = item->firstTier();
+    if (tier.isEmpty())
+        return tr("Your plan does not include this location. Upgrade to use it.");
+    return tr("Locked: needs the %1 plan. Upgrade to use it.").arg(tier);
+}
+
 QString CatalogTreeModel::accessibleText(const Item *item) const
 {
     QStringList parts{item->label};
@@ -399,9 +414,9 @@ QString CatalogTreeModel::accessibleText(const Item *item) const
             parts << item->tier;
         if (item->favorite)
             parts << tr("favourite");
-        if (item->connected)
-            parts << tr("connected");
     }
+    if (item->connected)
+        parts << tr("connected");
     if (item->locked)
         parts << tr("not in your plan");
     return parts.join(QLatin1String(", "));
@@ -421,9 +436,11 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
         return item->group && !m_regionlessIcon.isNull() ? QVariant(m_regionlessIcon) : QVariant();
     case Qt::AccessibleTextRole:
         return accessibleText(item);
+    case Qt::AccessibleDescriptionRole:
+        return item->locked ? lockedText(item) : QVariant();
     case Qt::ToolTipRole:
         if (item->locked)
-            return tr("Your plan does not include this location. Upgrade to use it.");
+            return lockedText(item);
         return item->stale ? tr("This list may be out of date.") : QVariant();
     case LocationSearchTextRole:
         return item->searchText;

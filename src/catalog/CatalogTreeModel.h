@@ -73,6 +73,8 @@ private:
     // A group that is no country and lies in none.
     bool isContinent(const Item *item) const;
     QString accessibleText(const Item *item) const;
+    // Why a locked row is locked and which plan opens it.
+    static QString lockedText(const Item *item);
 
     NodeGroupsInfo m_groups;
     NodesInfo m_nodes;

@@ -5,8 +5,9 @@
 
 class ThemeColors;
 
-// Paints a location row: flag, name, tier badge, ping as text and signal bars, favourite star.
-// A click on the star asks for the opposite favourite state; the model decides.
+// Paints a location row: flag, name, the mark of the connection, lock, tier badge, ping as text
+// and signal bars, favourite star. A click on the star asks for the opposite favourite state;
+// the model decides.
 class LocationItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -16,6 +17,7 @@ public:
     {
         QRect flag;
         QRect name;
+        QRect lock; // locked rows only
         QRect badge;
         QRect ping;
         QRect bars;
@@ -25,6 +27,11 @@ public:
     explicit LocationItemDelegate(QObject *parent = nullptr);
 
     void setThemeColors(const ThemeColors &colors);
+    // A tree paints the hover and selection itself, across its branch column too (see
+    // paintRowBackground); a list leaves them to the delegate.
+    void setPaintsRowBackground(bool paints) { m_paintsRowBackground = paints; }
+    void paintRowBackground(QPainter *painter, const QRect &row, bool selected, bool hovered,
+                            const QPalette &palette) const;
 
     // Geometry of one row, mirrored for right-to-left.
     RowLayout rowLayout(const QStyleOptionViewItem &option, const QModelIndex &index) const;
@@ -45,6 +52,7 @@ protected:
                      const QModelIndex &index) override;
 
 private:
+    void paintLock(QPainter *painter, const QRect &rect, const QPalette &palette) const;
     void paintBadge(QPainter *painter, const QRect &rect, const QString &tier,
                     const QPalette &palette) const;
     void paintBars(QPainter *painter, const QRect &rect, int bars, const QPalette &palette) const;
@@ -58,4 +66,5 @@ private:
     QColor m_subtleBorder;
     QColor m_hover;
     QColor m_selected;
+    bool m_paintsRowBackground = true;
 };

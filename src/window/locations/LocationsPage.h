@@ -2,6 +2,8 @@
 
 #include "WindowPage.h"
 
+#include "NodeEntry.h"
+
 #include <QSet>
 
 class CatalogFilterModel;
@@ -62,8 +64,12 @@ private:
     void restoreExpansion(const QSet<QString> &selectors);
     void updateEmptyState();
     void updateStatusLine();
+    // Where the tunnel is, "Europe > Germany > Frankfurt > Frankfurt 01"; empty when not connected.
+    QString connectedPath() const;
     void showHint(const QString &text);
     static QStringList tiersFor(const UserInfo &user);
+    // The node the tunnel uses, when it is up.
+    static NodeEntry connectedNode(const AppState &state);
 
     CatalogTreeModel *m_model;
     CatalogFilterModel *m_filter;
@@ -78,6 +84,7 @@ private:
     QAction *m_searchIcon = nullptr;
     GuiPreferences *m_preferences = nullptr;
     QSet<QString> m_expandedBeforeSearch;
+    NodeEntry m_connectedNode; // invalid unless the tunnel is up
     QString m_hint;
     bool m_expandPending = false;
     bool m_serviceKnown = false;

@@ -7,6 +7,7 @@
 #include "GuiPreferences.h"
 #include "LocationRoles.h"
 #include "TempXdgDirs.h"
+#include "ThemeEngine.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
@@ -19,6 +20,7 @@
 #include <QTabBar>
 #include <QTest>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -52,6 +54,8 @@ private Q_SLOTS:
     void emptyStatesSayWhy();
     void refreshShowsCooldown();
     void choicesOutliveThePage();
+    void footerSaysWhereTheTunnelIs();
+    void selectedGroupKeepsItsArrow();
 
 private:
     AppState *m_state = nullptr;
@@ -259,6 +263,58 @@ void TestLocationsPage::choicesOutliveThePage()
     QCOMPARE(again.catalogModel()->tab(), QStringLiteral("free"));
     QCOMPARE(again.catalogModel()->sortOrder(), CatalogSort::Latency);
     QCOMPARE(again.findChild<QTabBar *>(QStringLiteral("TovraLocationsTabs"))->currentIndex(), 1);
+}
+
+void TestLocationsPage::footerSaysWhereTheTunnelIs()
+{
+    RuntimeInfo runtime = runningDaemon();
+    runtime.tunnelState = QStringLiteral("connected");
+    m_state->setRuntime(runtime);
+    CatalogFixture fixture = CatalogFixture::small();
+    fixture.connectedId = QStringLiteral("1002");
+    loadInto(*m_state, fixture);
+    m_page->refresh(*m_state);
+    QString footer = m_page->findChild<QLabel *>(QStringLiteral("TovraLocationsStatus"))->text();
+    footer.remove(QChar(0x2068)).remove(QChar(0x2069)); // the isolates around each name
+    QVERIFY2(footer.contains(
+                 u"Connected to EU land \u203a Germany \u203a Frankfurt \u203a Frankfurt 02"),
+             qPrintable(footer));
+}
+
+void TestLocationsPage::selectedGroupKeepsItsArrow()
+{
+    // Styled as in the window: a style-sheet branch rule once dropped a selected row's arrow.
+    QWidget root;
+    root.setObjectName(QStringLiteral("TovraWindowRoot"));
+    auto *page = new LocationsPage(&root);
+    QAbstractItemModelTester tester(page->filterModel(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+    (new QVBoxLayout(&root))->addWidget(page);
+    const ThemeColors colors = ThemeEngine::buildColors(Appearance::Light);
+    ThemeEngine::applyToWindow(&root, colors);
+    page->applyTheme(colors);
+    m_state->setRuntime(runningDaemon());
+    loadInto(*m_state, CatalogFixture::small());
+    page->refresh(*m_state);
+    root.resize(700, 600);
+    root.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&root));
+    auto *tree = page->findChild<QTreeView *>(QStringLiteral("TovraLocationsTree"));
+    const QModelIndex row = page->filterModel()->mapFromSource(
+        page->catalogModel()->indexForSelector(QStringLiteral("continent:na")));
+    tree->setCurrentIndex(row);
+    tree->expand(row);
+    const QImage image = tree->viewport()->grab().toImage();
+    const QRect item = tree->visualRect(row);
+    const QColor tint = colors.color(ThemeColor::SidebarSelectedBg);
+    // The selection reaches under the arrow, and the arrow is drawn on it.
+    QCOMPARE(image.pixelColor(item.left() - tree->indentation() + 3, item.center().y()), tint);
+    int arrow = 0;
+    for (int x = item.left() - tree->indentation() + 4; x < item.left() - 2; ++x) {
+        for (int y = item.top() + 4; y < item.bottom() - 4; ++y)
+            arrow += qAbs(image.pixelColor(x, y).lightness() - tint.lightness()) > 60 ? 1 : 0;
+    }
+    QVERIFY2(arrow > 4, qPrintable(QString::number(arrow)));
 }
 
 QTEST_MAIN(TestLocationsPage)

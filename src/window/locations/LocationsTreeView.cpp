@@ -64,6 +64,21 @@ bool LocationsTreeView::viewportEvent(QEvent *event)
     return QTreeView::viewportEvent(event);
 }
 
+void LocationsTreeView::selectionChanged(const QItemSelection &selected,
+                                         const QItemSelection &deselected)
+{
+    QTreeView::selectionChanged(selected, deselected);
+    // The tint spans the branch column, which the view's own update leaves out in a mirrored
+    // tree: the whole rows are painted again.
+    for (const QItemSelection &rows : {selected, deselected}) {
+        for (const QModelIndex &index : rows.indexes()) {
+            const QRect item = visualRect(index);
+            if (item.isValid())
+                viewport()->update(QRect(0, item.top(), viewport()->width(), item.height()));
+        }
+    }
+}
+
 void LocationsTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
                                 const QModelIndex &index) const
 {

@@ -34,6 +34,8 @@ protected:
     void contextMenuEvent(QContextMenuEvent *event) override;
     void keyboardSearch(const QString &search) override;
     bool viewportEvent(QEvent *event) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
     // The row's hover and selection span the branch column, under the arrow; the arrows are
     // drawn here rather than by the style, whose style-sheet branch rules drop them on
     // selected and hovered rows.

@@ -187,7 +187,7 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
     const QString region = index.data(LocationRegionRole).toString();
     QPixmap flag;
     if (!region.isEmpty()) {
-        flag = countryFlag(region, ratio);
+        flag = flagFor(region, ratio);
     } else {
         const QVariant decoration = index.data(Qt::DecorationRole);
         if (decoration.userType() == QMetaType::QPixmap)
@@ -266,6 +266,18 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
         paintStar(painter, row.star, index.data(LocationFavoriteRole).toBool(), hovered, pal);
     }
     painter->restore();
+}
+
+QPixmap LocationItemDelegate::flagFor(const QString &region, qreal ratio) const
+{
+    if (ratio != m_flagsRatio) {
+        m_flags.clear();
+        m_flagsRatio = ratio;
+    }
+    auto found = m_flags.constFind(region);
+    if (found == m_flags.cend())
+        found = m_flags.insert(region, countryFlag(region, ratio));
+    return found.value();
 }
 
 void LocationItemDelegate::paintRowBackground(QPainter *painter, const QRect &row, bool selected,

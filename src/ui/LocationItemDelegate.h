@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QColor>
+#include <QHash>
+#include <QPixmap>
 #include <QStyledItemDelegate>
 
 class ThemeColors;
@@ -52,6 +54,8 @@ protected:
                      const QModelIndex &index) override;
 
 private:
+    // The flag of a region for this pixel ratio, kept here so that a row costs one lookup.
+    QPixmap flagFor(const QString &region, qreal ratio) const;
     void paintLock(QPainter *painter, const QRect &rect, const QPalette &palette) const;
     void paintBadge(QPainter *painter, const QRect &rect, const QString &tier,
                     const QPalette &palette) const;
@@ -67,4 +71,6 @@ private:
     QColor m_hover;
     QColor m_selected;
     bool m_paintsRowBackground = true;
+    mutable QHash<QString, QPixmap> m_flags;
+    mutable qreal m_flagsRatio = 0;
 };

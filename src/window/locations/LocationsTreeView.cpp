@@ -83,8 +83,7 @@ void LocationsTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &o
                                 const QModelIndex &index) const
 {
     if (const auto *delegate = qobject_cast<LocationItemDelegate *>(itemDelegate())) {
-        const QRect item = visualRect(index);
-        const QRect row(0, item.top(), viewport()->width(), item.height());
+        const QRect row(0, option.rect.top(), viewport()->width(), option.rect.height());
         const bool hovered = m_hovered.isValid() && m_hovered.row() == index.row() &&
                              m_hovered.parent() == index.parent();
         delegate->paintRowBackground(painter, row, selectionModel()->isSelected(index), hovered,

@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>قد تكون هذه القائمة قديمة.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>مقفل: يتطلب خطة %1. قم بالترقية لاستخدامه.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>التجميع حسب المنطقة إلى أن تصل مجموعات الخدمة.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>متصل بـ %1</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>Diese Liste ist möglicherweise veraltet.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>Gesperrt: erfordert den Tarif %1. Führen Sie ein Upgrade durch, um ihn zu nutzen.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Gruppierung nach Region, bis die Gruppen des Dienstes eintreffen.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Verbunden mit %1</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>Puede que esta lista no esté actualizada.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>Bloqueada: requiere el plan %1. Mejora tu plan para usarla.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Agrupando por región hasta que lleguen los grupos del servicio.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Conectado a %1</translation>
     </message>
 </context>
 <context>

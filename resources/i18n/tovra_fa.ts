@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>ممکن است این فهرست قدیمی باشد.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>قفل است: به طرح %1 نیاز دارد. برای استفاده از آن، طرح خود را ارتقا دهید.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>تا رسیدن گروه‌های سرویس، بر اساس منطقه گروه‌بندی می‌شود.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>متصل به %1</translation>
     </message>
 </context>
 <context>

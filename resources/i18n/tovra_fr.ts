@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>Cette liste n’est peut-être pas à jour.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>Verrouillé : nécessite le forfait %1. Passez à une offre supérieure pour l’utiliser.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Regroupement par région en attendant les groupes du service.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Connecté à %1</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>この一覧は最新ではない可能性があります。</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>ロック中: %1 プランが必要です。使用するにはアップグレードしてください。</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>サービスからグループ情報が届くまで、地域ごとにまとめて表示しています。</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>%1 に接続済み</translation>
     </message>
 </context>
 <context>

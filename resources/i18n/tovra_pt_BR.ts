@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>Esta lista pode estar desatualizada.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>Bloqueada: requer o plano %1. Faça upgrade para usá-la.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Agrupando por região até chegarem os grupos do serviço.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Conectado a %1</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>Список может быть устаревшим.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>Недоступно: нужен тариф %1. Смените тариф, чтобы пользоваться этой локацией.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Группировка по регионам, пока служба не передаст свои группы.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Подключено к «%1»</translation>
     </message>
 </context>
 <context>

@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>Bu liste güncel olmayabilir.</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>Kilitli: %1 planı gerekir. Kullanmak için planınızı yükseltin.</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Hizmetin grupları gelene kadar bölgeye göre gruplanıyor.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Bağlandı: %1</translation>
     </message>
 </context>
 <context>

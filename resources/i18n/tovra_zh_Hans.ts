@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>此列表可能已过时。</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>已锁定：需要 %1 套餐。升级后即可使用。</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>在收到服务提供的分组之前，暂按地区分组。</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>已连接到 %1</translation>
     </message>
 </context>
 <context>

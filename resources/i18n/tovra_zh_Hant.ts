@@ -210,6 +210,10 @@
         <source>This list may be out of date.</source>
         <translation>此清單可能已過時。</translation>
     </message>
+    <message>
+        <source>Locked: needs the %1 plan. Upgrade to use it.</source>
+        <translation>已鎖定：需要 %1 方案。升級後即可使用。</translation>
+    </message>
 </context>
 <context>
     <name>ConfirmDialog</name>
@@ -1732,6 +1736,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>在收到服務提供的群組之前，暫時依地區分組。</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>已連線至 %1</translation>
     </message>
 </context>
 <context>

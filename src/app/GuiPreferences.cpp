@@ -15,6 +15,7 @@ const QString kRecentNodes = QStringLiteral("vpn/recentNodes");
 const QString kRecentSearches = QStringLiteral("vpn/recentSearches");
 const QString kRecentNodesCleared = QStringLiteral("vpn/recentNodesCleared");
 const QString kLocationsSort = QStringLiteral("locations/sort");
+const QString kLocationsTab = QStringLiteral("locations/tab");
 const QString kUpdateVersion = QStringLiteral("update/currentVersion");
 const QString kLastAttemptAt = QStringLiteral("update/lastAttemptAt");
 const QString kLastSuccessfulCheckAt = QStringLiteral("update/lastSuccessfulCheckAt");
@@ -153,6 +154,16 @@ QString GuiPreferences::locationsSort() const
 void GuiPreferences::setLocationsSort(const QString &sort)
 {
     write(kLocationsSort, sort.trimmed().toLower());
+}
+
+QString GuiPreferences::locationsTab() const
+{
+    return m_settings->value(kLocationsTab).toString().trimmed().toLower();
+}
+
+void GuiPreferences::setLocationsTab(const QString &tab)
+{
+    write(kLocationsTab, tab.trimmed().toLower());
 }
 
 GuiUpdateBookkeeping GuiPreferences::updateBookkeeping(const QString &runningVersion) const

@@ -46,6 +46,9 @@ public:
     // The Locations page's sort choice: "service", "name" or "latency".
     QString locationsSort() const;
     void setLocationsSort(const QString &sort);
+    // Its chosen tab: "all", "free", "svip" or "favorite".
+    QString locationsTab() const;
+    void setLocationsTab(const QString &tab);
 
     // Bookkeeping stored for another GUI version reads as the defaults.
     GuiUpdateBookkeeping updateBookkeeping(const QString &runningVersion) const;

@@ -208,12 +208,14 @@ bool CatalogFilterModel::descendantMatches(const QModelIndex &sourceIndex) const
 {
     const QAbstractItemModel *model = sourceModel();
     // A word that neither the path down to here nor any text below holds rules out every row
-    // below at once; narrow searches skip most of the catalogue this way.
-    const quint64 onPath = m_tokens.size() <= 64 ? result(sourceIndex).matchedAlongPath : 0;
+    // below at once; narrow searches skip most of the catalogue this way. The path's bits cover
+    // the first 64 words; any further word is looked for in the joined path text itself.
+    const quint64 onPath = result(sourceIndex).matchedAlongPath;
     for (qsizetype i = 0; i < m_tokens.size(); ++i) {
-        if (i < 64 && (onPath & (quint64(1) << i)))
-            continue;
-        if (!subtreeText(sourceIndex).contains(m_tokens.at(i).text))
+        const Token &token = m_tokens.at(i);
+        const bool metOnPath = i < 64 ? (onPath & (quint64(1) << i)) != 0
+                                      : tokenMatches(token, joinedText(sourceIndex));
+        if (!metOnPath && !subtreeText(sourceIndex).contains(token.text))
             return false;
     }
     const int rows = model->rowCount(sourceIndex);

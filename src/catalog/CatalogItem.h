@@ -29,7 +29,7 @@ struct CatalogItem
     qsizetype nodeIndex = -1; // nodes: the entry's position in the nodes record
     bool pingChanged = false; // groups: the fastest ping below changed, not yet announced
     bool favorite = false;
-    bool connected = false;
+    bool connected = false; // nodes: the tunnel's node; groups: holding it
     bool selected = false;
     bool locked = false;
     bool stale = false;
@@ -41,4 +41,8 @@ struct CatalogItem
     // What a connect to this row names: the node id, or the group's selector (our own region
     // groups are reached by their country code).
     QString selector() const;
+    // Groups: whether a row right below holds the connection.
+    bool childConnected() const;
+    // The tier of the first node at or below this row.
+    QString firstTier() const;
 };

@@ -35,6 +35,8 @@ std::unique_ptr<CatalogItem> CatalogItemWriter::make(CatalogItem *parent, int ro
     item->children.reserve(blueprint.children.size());
     for (size_t i = 0; i < blueprint.children.size(); ++i)
         item->children.push_back(make(item.get(), int(i), blueprint.children[i]));
+    if (item->group)
+        item->connected = item->childConnected();
     return item;
 }
 
@@ -90,6 +92,8 @@ int CatalogItemWriter::apply(CatalogItem *item, const CatalogBlueprint &blueprin
         update(item->locked,
                blueprint.nodeCount > 0 && blueprint.lockedCount == blueprint.nodeCount, StateChange,
                change);
+        // The rows below are brought up to date first.
+        update(item->connected, item->childConnected(), StateChange, change);
     }
     update(item->stale, m_nodes.stale || m_groups.stale, StateChange, change);
     return change;

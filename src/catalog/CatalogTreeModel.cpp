@@ -13,7 +13,8 @@ namespace {
 const QList<int> kStateRoles = {
     LocationPingMsRole,    LocationSignalLevelRole, LocationFavoriteRole,
     LocationConnectedRole, LocationSelectedRole,    LocationStaleRole,
-    LocationLockedRole,    Qt::AccessibleTextRole,  Qt::ToolTipRole};
+    LocationLockedRole,    Qt::AccessibleTextRole,  Qt::AccessibleDescriptionRole,
+    Qt::ToolTipRole};
 
 } // namespace
 
@@ -74,6 +75,11 @@ void CatalogTreeModel::updateStates(Item *parent)
         bool changed = false;
         if (item->group) {
             updateStates(item);
+            // A group marks where the connection is, even folded.
+            if (item->connected != item->childConnected()) {
+                item->connected = !item->connected;
+                changed = true;
+            }
         } else {
             const NodeEntry &node = m_nodes.nodes.at(item->nodeIndex);
             item->node = node;
@@ -141,8 +147,10 @@ void CatalogTreeModel::rebuild()
 {
     CatalogTreeBuilder builder(m_groups, m_nodes, {m_tab, m_tiers, m_sort});
     std::vector<CatalogBlueprint> rows = builder.build();
-    if (m_root->children.empty() || rows.empty()) {
-        // Filling an empty tree or emptying a full one: nothing to keep, so one reset is cheaper.
+    if (!keepsTopRow(rows)) {
+        // Filling an empty tree, emptying a full one or replacing every top row (the groups
+        // arriving after the nodes): nothing to keep, so one reset is cheaper, and views never
+        // see the tree empty halfway.
         if (m_root->children.empty() && rows.empty())
             return;
         beginResetModel();
@@ -155,6 +163,17 @@ void CatalogTreeModel::rebuild()
         return;
     }
     sync(m_root.get(), rows);
+}
+
+bool CatalogTreeModel::keepsTopRow(const std::vector<CatalogBlueprint> &rows) const
+{
+    QSet<QString> current;
+    current.reserve(qsizetype(m_root->children.size()));
+    for (const auto &child : m_root->children)
+        current.insert(child->key());
+    return std::any_of(rows.begin(), rows.end(), [&current](const CatalogBlueprint &row) {
+        return current.contains(Item::keyOf(row.group, row.id));
+    });
 }
 
 bool CatalogTreeModel::sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const
@@ -364,6 +383,24 @@ Qt::ItemFlags CatalogTreeModel::flags(const QModelIndex &index) const
     return result;
 }
 
+bool CatalogTreeModel::isContinent(const Item *item) const
+{
+    for (const Item *level = item; level && level != m_root.get(); level = level->parent) {
+        if (!level->group || level->country)
+            return false;
+    }
+    return true;
+}
+
+QString CatalogTreeModel::lockedText(const Item *item)
+{
+    // A group is locked only when every node below is, all of them in practice of one tier.
+    const QString tier = item->firstTier();
+    if (tier.isEmpty())
+        return tr("Your plan does not include this location. Upgrade to use it.");
+    return tr("Locked: needs the %1 plan. Upgrade to use it.").arg(tier);
+}
+
 QString CatalogTreeModel::accessibleText(const Item *item) const
 {
     QStringList parts{item->label};
@@ -377,11 +414,11 @@ QString CatalogTreeModel::accessibleText(const Item *item) const
             parts << item->tier;
         if (item->favorite)
             parts << tr("favourite");
-        if (item->connected)
-            //: Said of a location in the list: it is the one the VPN is connected to now (not
-            //: connecting)
-            parts << tr("connected");
     }
+    if (item->connected)
+        //: Said of a location in the list: it is the one the VPN is connected to now (not
+        //: connecting)
+        parts << tr("connected");
     if (item->locked)
         parts << tr("not in your plan");
     return parts.join(QLatin1String(", "));
@@ -401,9 +438,11 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
         return item->group && !m_regionlessIcon.isNull() ? QVariant(m_regionlessIcon) : QVariant();
     case Qt::AccessibleTextRole:
         return accessibleText(item);
+    case Qt::AccessibleDescriptionRole:
+        return item->locked ? lockedText(item) : QVariant();
     case Qt::ToolTipRole:
         if (item->locked)
-            return tr("Your plan does not include this location. Upgrade to use it.");
+            return lockedText(item);
         return item->stale ? tr("This list may be out of date.") : QVariant();
     case LocationSearchTextRole:
         return item->searchText;
@@ -431,6 +470,8 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
         return item->stale;
     case LocationLockedRole:
         return item->locked;
+    case LocationContinentRole:
+        return isContinent(item);
     default:
         return {};
     }

@@ -62,6 +62,7 @@ private:
     bool sameNodes(const NodesInfo &nodes) const;
     void updateStates(Item *parent);
     void sync(Item *parent, std::vector<CatalogBlueprint> &rows);
+    bool keepsTopRow(const std::vector<CatalogBlueprint> &rows) const;
     bool sameKeys(const Item *parent, const std::vector<CatalogBlueprint> &rows) const;
     void removeMissing(Item *parent, const std::vector<CatalogBlueprint> &rows);
     void reorder(Item *parent, const std::vector<CatalogBlueprint> &rows);
@@ -69,7 +70,11 @@ private:
     void updateRows(Item *parent, std::vector<CatalogBlueprint> &rows);
     QModelIndex indexOf(const Item *item) const;
     Item *itemAt(const QModelIndex &index) const;
+    // A group that is no country and lies in none.
+    bool isContinent(const Item *item) const;
     QString accessibleText(const Item *item) const;
+    // Why a locked row is locked and which plan opens it.
+    static QString lockedText(const Item *item);
 
     NodeGroupsInfo m_groups;
     NodesInfo m_nodes;

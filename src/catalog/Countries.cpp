@@ -378,6 +378,26 @@ QPixmap countryFlag(const QString &code)
     return pixmap;
 }
 
+QPixmap countryFlag(const QString &code, qreal devicePixelRatio)
+{
+    const qreal ratio = devicePixelRatio > 0 ? devicePixelRatio : 1.0;
+    const QSize wanted(qRound(24 * ratio), qRound(16 * ratio));
+    // The common case costs one lookup: the resource already has the wanted pixels.
+    const QPixmap source = countryFlag(code);
+    if (source.isNull() || source.size() == wanted)
+        return source;
+    const QString key = flagKey(normalized(code)) + QLatin1Char('@') + QString::number(ratio);
+    QPixmap pixmap;
+    if (QPixmapCache::find(key, &pixmap))
+        return pixmap;
+    pixmap = QPixmap::fromImage(
+        source.toImage().scaled(wanted, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    pixmap.setDevicePixelRatio(ratio);
+    QPixmapCache::insert(key, pixmap);
+    insertedFlagKeys().insert(key);
+    return pixmap;
+}
+
 void clearFlagCache()
 {
     for (const QString &key : std::as_const(insertedFlagKeys())) {

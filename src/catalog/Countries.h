@@ -17,6 +17,9 @@ QString countryEnglishName(const QString &code);
 QString continentName(const QString &name);
 // The flag for 24 logical pixels wide, or the "unknown" flag; null for a blank code.
 QPixmap countryFlag(const QString &code);
+// The same flag made for a screen of that device pixel ratio: exactly 24 x 16 logical pixels in
+// whole device pixels, scaled smoothly once and cached, so that painting only copies it.
+QPixmap countryFlag(const QString &code, qreal devicePixelRatio);
 // Forgets every flag this loader put into the pixmap cache.
 void clearFlagCache();
 // Every known code, in the table's order (by English name).

@@ -13,10 +13,11 @@ enum LocationRole : int {
     LocationFavoriteRole,                      // bool
     LocationTierRole,                          // QString "FREE" or "SVIP", empty for none
     LocationIsGroupRole,                       // bool; groups show no ping, bars or star
-    LocationConnectedRole,                     // bool; the node the tunnel uses now
-    LocationSelectorRole, // QString: a node's id, or the group selector for a smart connect
-    LocationRegionRole,   // QString: the two-letter code of the row's country, lower case
-    LocationSelectedRole, // bool; the daemon's selected node
-    LocationStaleRole,    // bool; the catalogue answer was marked stale
-    LocationLockedRole,   // bool; a tier the account does not have
+    LocationConnectedRole, // bool; the node the tunnel uses now, or a group that holds it
+    LocationSelectorRole,  // QString: a node's id, or the group selector for a smart connect
+    LocationRegionRole,    // QString: the two-letter code of the row's country, lower case
+    LocationSelectedRole,  // bool; the daemon's selected node
+    LocationStaleRole,     // bool; the catalogue answer was marked stale
+    LocationLockedRole,    // bool; a tier the account does not have
+    LocationContinentRole, // bool; a group above the countries: it opens rather than connects
 };

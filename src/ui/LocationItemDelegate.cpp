@@ -1,5 +1,6 @@
 #include "LocationItemDelegate.h"
 
+#include "Countries.h"
 #include "LocationRoles.h"
 #include "ThemeColors.h"
 
@@ -11,6 +12,8 @@
 #include <QPixmap>
 #include <QtMath>
 
+#include <cmath>
+
 namespace {
 
 constexpr int kRowHeight = 40;
@@ -19,6 +22,8 @@ constexpr int kGap = 10;
 constexpr QSize kFlagSize(24, 16);
 constexpr int kStarSide = 18;
 constexpr QSize kBarsSize(16, 12);
+constexpr QSize kLockSize(12, 14);
+constexpr int kMarkSide = 8;
 
 QColor pick(const QColor &themed, const QColor &fallback)
 {
@@ -44,6 +49,20 @@ QPainterPath starPath(const QRectF &box)
     }
     path.closeSubpath();
     return path;
+}
+
+// Draws a picture made for the device's pixel ratio onto whole device pixels, so that it is
+// copied rather than resampled (at 125 % a logical pixel starts mid-pixel).
+void drawOnPixelGrid(QPainter *painter, const QRect &rect, const QPixmap &pixmap)
+{
+    const QTransform toDevice = painter->deviceTransform();
+    if (toDevice.type() > QTransform::TxScale) {
+        painter->drawPixmap(rect, pixmap);
+        return;
+    }
+    const QPointF corner = toDevice.map(QPointF(rect.topLeft()));
+    painter->drawPixmap(
+        toDevice.inverted().map(QPointF(std::round(corner.x()), std::round(corner.y()))), pixmap);
 }
 
 } // namespace
@@ -121,10 +140,17 @@ LocationItemDelegate::RowLayout LocationItemDelegate::rowLayout(const QStyleOpti
         row.badge = QRect(right - width, midY - 9 + 1, width, 18);
         right = row.badge.left() - kGap;
     }
+    // The lock reads with the badge beside it: locked, and the plan that opens it.
+    if (index.data(LocationLockedRole).toBool()) {
+        row.lock =
+            QRect(QPoint(right - kLockSize.width(), midY - kLockSize.height() / 2), kLockSize);
+        right = row.lock.left() - 6;
+    }
     row.name = QRect(left, area.top(), qMax(0, right - left), area.height());
 
     const Qt::LayoutDirection dir = option.direction;
-    for (QRect *rect : {&row.flag, &row.name, &row.badge, &row.ping, &row.bars, &row.star}) {
+    for (QRect *rect :
+         {&row.flag, &row.name, &row.lock, &row.badge, &row.ping, &row.bars, &row.star}) {
         if (!rect->isNull()) {
             *rect = QStyle::visualRect(dir, option.rect, *rect);
         }
@@ -143,8 +169,9 @@ QSize LocationItemDelegate::sizeHint(const QStyleOptionViewItem &option,
 void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option,
                                  const QModelIndex &index) const
 {
+    // Only the name is read of the standard roles: the flag comes made for the screen below.
     QStyleOptionViewItem opt = option;
-    initStyleOption(&opt, index);
+    opt.text = index.data(Qt::DisplayRole).toString();
     const QPalette &pal = opt.palette;
     const RowLayout row = rowLayout(opt, index);
     const bool hovered = opt.state & QStyle::State_MouseOver;
@@ -153,32 +180,27 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
     painter->setLayoutDirection(opt.direction);
-    if (selected || hovered) {
-        const QColor fill = selected ? pick(m_selected, pal.color(QPalette::Highlight))
-                                     : pick(m_hover, pal.color(QPalette::AlternateBase));
-        painter->setPen(Qt::NoPen);
-        painter->setBrush(fill);
-        painter->drawRoundedRect(QRectF(opt.rect).adjusted(2, 1, -2, -1), 6, 6);
-    }
-    if (opt.state & QStyle::State_HasFocus) {
-        // The keyboard's row in a focused list: the same ring as every other control.
-        painter->setPen(QPen(pick(m_accent, pal.color(QPalette::Highlight)), 2));
-        painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(QRectF(opt.rect).adjusted(3, 2, -3, -2), 5, 5);
-    }
+    if (m_paintsRowBackground)
+        paintRowBackground(painter, opt.rect, selected, hovered,
+                           opt.state.testFlag(QStyle::State_HasFocus), pal);
 
-    const QVariant decoration = index.data(Qt::DecorationRole);
+    const qreal ratio = painter->device()->devicePixelRatioF();
+    const QString region = index.data(LocationRegionRole).toString();
     QPixmap flag;
-    if (decoration.canConvert<QPixmap>() && decoration.userType() == QMetaType::QPixmap) {
-        flag = decoration.value<QPixmap>();
-    } else if (decoration.userType() == QMetaType::QIcon) {
-        flag = decoration.value<QIcon>().pixmap(kFlagSize, painter->device()->devicePixelRatioF());
+    if (!region.isEmpty()) {
+        flag = flagFor(region, ratio);
+    } else {
+        const QVariant decoration = index.data(Qt::DecorationRole);
+        if (decoration.userType() == QMetaType::QPixmap)
+            flag = decoration.value<QPixmap>();
+        else if (decoration.userType() == QMetaType::QIcon)
+            flag = decoration.value<QIcon>().pixmap(kFlagSize, ratio);
     }
-    // A row of a tier the plan lacks stays readable but steps back.
+    // A row of a tier the plan lacks stays readable but steps back; its lock says why.
     const bool locked = index.data(LocationLockedRole).toBool();
     if (!flag.isNull()) {
         painter->setOpacity(locked ? 0.45 : 1.0);
-        painter->drawPixmap(row.flag, flag);
+        drawOnPixelGrid(painter, row.flag, flag);
         painter->setOpacity(1.0);
     } else {
         painter->setPen(QPen(pick(m_subtleBorder, pal.color(QPalette::Mid)), 1));
@@ -199,12 +221,30 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
                              : locked  ? pick(m_muted, pal.color(QPalette::PlaceholderText))
                                        : pal.color(QPalette::Text);
     painter->setPen(textColor);
-    const QString name =
-        QFontMetrics(nameFont).elidedText(opt.text, Qt::ElideRight, row.name.width());
-    painter->drawText(row.name,
+    // The connection's mark follows the name: a dot in the accent, on the node and on every
+    // group above it, so that a folded tree still shows where the tunnel is.
+    QRect nameRect = row.name;
+    if (connected)
+        nameRect.setWidth(qMax(0, nameRect.width() - kMarkSide - kGap));
+    if (connected && opt.direction == Qt::RightToLeft)
+        nameRect.moveRight(row.name.right());
+    const QFontMetrics nameMetrics(nameFont);
+    const QString name = nameMetrics.elidedText(opt.text, Qt::ElideRight, nameRect.width());
+    painter->drawText(nameRect,
                       int(QStyle::visualAlignment(opt.direction, Qt::AlignLeft) | Qt::AlignVCenter),
                       name);
+    if (connected) {
+        const int gap = nameMetrics.horizontalAdvance(name) + kGap;
+        QRectF mark(0, nameRect.center().y() - kMarkSide / 2.0 + 1, kMarkSide, kMarkSide);
+        mark.moveLeft(opt.direction == Qt::RightToLeft ? nameRect.right() + 1 - gap - kMarkSide
+                                                       : nameRect.left() + gap);
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(pick(m_accent, pal.color(QPalette::Highlight)));
+        painter->drawEllipse(mark);
+    }
 
+    if (locked)
+        paintLock(painter, row.lock, pal);
     const QString tier = index.data(LocationTierRole).toString();
     if (!tier.isEmpty()) {
         paintBadge(painter, row.badge, tier, pal);
@@ -227,6 +267,64 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
         paintStar(painter, row.star, index.data(LocationFavoriteRole).toBool(), hovered, pal);
     }
     painter->restore();
+}
+
+QPixmap LocationItemDelegate::flagFor(const QString &region, qreal ratio) const
+{
+    if (ratio != m_flagsRatio) {
+        m_flags.clear();
+        m_flagsRatio = ratio;
+    }
+    auto found = m_flags.constFind(region);
+    if (found == m_flags.cend())
+        found = m_flags.insert(region, countryFlag(region, ratio));
+    return found.value();
+}
+
+void LocationItemDelegate::paintRowBackground(QPainter *painter, const QRect &row, bool selected,
+                                              bool hovered, bool focused,
+                                              const QPalette &palette) const
+{
+    if (!selected && !hovered && !focused)
+        return;
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    if (selected || hovered) {
+        const QColor fill = selected ? pick(m_selected, palette.color(QPalette::Highlight))
+                                     : pick(m_hover, palette.color(QPalette::AlternateBase));
+        painter->setPen(Qt::NoPen);
+        painter->setBrush(fill);
+        painter->drawRoundedRect(QRectF(row).adjusted(2, 1, -2, -1), 6, 6);
+    }
+    if (focused) {
+        // The keyboard's row in a focused list: the same ring as every other control.
+        painter->setPen(QPen(pick(m_accent, palette.color(QPalette::Highlight)), 2));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(row).adjusted(3, 2, -3, -2), 5, 5);
+    }
+    painter->restore();
+}
+
+void LocationItemDelegate::paintLock(QPainter *painter, const QRect &rect,
+                                     const QPalette &palette) const
+{
+    // A padlock drawn as lines, sharp at any pixel ratio: a body and its shackle.
+    const QRectF box(rect);
+    const qreal unit = box.width() / 12.0;
+    const QRectF body(box.left(), box.top() + 6 * unit, box.width(), 8 * unit);
+    QPainterPath shackle;
+    shackle.moveTo(box.left() + 3 * unit, body.top());
+    shackle.lineTo(box.left() + 3 * unit, box.top() + 3.5 * unit);
+    shackle.arcTo(QRectF(box.left() + 3 * unit, box.top() + 0.5 * unit, 6 * unit, 6 * unit), 180,
+                  -180);
+    shackle.lineTo(box.left() + 9 * unit, body.top());
+    const QColor colour = pick(m_muted, palette.color(QPalette::PlaceholderText));
+    painter->setBrush(Qt::NoBrush);
+    painter->setPen(QPen(colour, 1.5 * unit, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(shackle);
+    painter->setPen(Qt::NoPen);
+    painter->setBrush(colour);
+    painter->drawRoundedRect(body, 2 * unit, 2 * unit);
 }
 
 void LocationItemDelegate::paintBadge(QPainter *painter, const QRect &rect, const QString &tier,

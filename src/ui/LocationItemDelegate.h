@@ -1,12 +1,15 @@
 #pragma once
 
 #include <QColor>
+#include <QHash>
+#include <QPixmap>
 #include <QStyledItemDelegate>
 
 class ThemeColors;
 
-// Paints a location row: flag, name, tier badge, ping as text and signal bars, favourite star.
-// A click on the star asks for the opposite favourite state; the model decides.
+// Paints a location row: flag, name, the mark of the connection, lock, tier badge, ping as text
+// and signal bars, favourite star. A click on the star asks for the opposite favourite state;
+// the model decides.
 class LocationItemDelegate : public QStyledItemDelegate
 {
     Q_OBJECT
@@ -16,6 +19,7 @@ public:
     {
         QRect flag;
         QRect name;
+        QRect lock; // locked rows only
         QRect badge;
         QRect ping;
         QRect bars;
@@ -25,6 +29,12 @@ public:
     explicit LocationItemDelegate(QObject *parent = nullptr);
 
     void setThemeColors(const ThemeColors &colors);
+    // A tree paints the hover and selection itself, across its branch column too (see
+    // paintRowBackground); a list leaves them to the delegate.
+    void setPaintsRowBackground(bool paints) { m_paintsRowBackground = paints; }
+    void paintRowBackground(QPainter *painter, const QRect &row, bool selected, bool hovered,
+                            bool focused,
+                            const QPalette &palette) const;
 
     // Geometry of one row, mirrored for right-to-left.
     RowLayout rowLayout(const QStyleOptionViewItem &option, const QModelIndex &index) const;
@@ -45,6 +55,9 @@ protected:
                      const QModelIndex &index) override;
 
 private:
+    // The flag of a region for this pixel ratio, kept here so that a row costs one lookup.
+    QPixmap flagFor(const QString &region, qreal ratio) const;
+    void paintLock(QPainter *painter, const QRect &rect, const QPalette &palette) const;
     void paintBadge(QPainter *painter, const QRect &rect, const QString &tier,
                     const QPalette &palette) const;
     void paintBars(QPainter *painter, const QRect &rect, int bars, const QPalette &palette) const;
@@ -58,4 +71,7 @@ private:
     QColor m_subtleBorder;
     QColor m_hover;
     QColor m_selected;
+    bool m_paintsRowBackground = true;
+    mutable QHash<QString, QPixmap> m_flags;
+    mutable qreal m_flagsRatio = 0;
 };

@@ -135,6 +135,11 @@ void TestCatalogFilterModel::filters_data()
     QTest::addRow("more words than a row keeps bits for")
         << QStringLiteral("jp ").repeated(64) + QStringLiteral("osaka")
         << QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")});
+    // The city between them holds neither word: it stays for the node below it.
+    QTest::addRow("more words than bits, one only above the middle row")
+        << QStringLiteral("us ").repeated(64) + QStringLiteral("states east")
+        << QStringList(
+               {QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("US East 01")});
 }
 
 void TestCatalogFilterModel::filters()

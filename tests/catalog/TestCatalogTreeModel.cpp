@@ -109,6 +109,10 @@ void TestCatalogTreeModel::rowRoles_data()
     const QString frankfurt2 = QStringLiteral("1002");
     QTest::addRow("connected") << QStringLiteral("1001") << int(LocationConnectedRole)
                                << QVariant(true);
+    QTest::addRow("its continent too")
+        << QStringLiteral("continent:eu") << int(LocationConnectedRole) << QVariant(true);
+    QTest::addRow("not another country")
+        << QStringLiteral("country:gb") << int(LocationConnectedRole) << QVariant(false);
     QTest::addRow("node search text")
         << frankfurt2 << int(LocationSearchTextRole)
         << QVariant(QStringLiteral("frankfurt 02 svip p2p premium de germany"));
@@ -161,6 +165,14 @@ void TestCatalogTreeModel::pingUpdateChangesRowsInPlace()
     changed.clear();
     load(model, fixture); // the same answer again changes nothing
     QCOMPARE(changed.size(), 0);
+    // The tunnel moves to London: the mark moves from Germany to the United Kingdom.
+    fixture.connectedId = QStringLiteral("1006");
+    load(model, fixture);
+    QCOMPARE(structure.total(), 0);
+    QVERIFY(
+        model.indexForSelector(QStringLiteral("country:gb")).data(LocationConnectedRole).toBool());
+    QVERIFY(
+        !model.indexForSelector(QStringLiteral("country:de")).data(LocationConnectedRole).toBool());
 }
 
 void TestCatalogTreeModel::favoriteChangeInPlaceAndInFavoriteTab()
@@ -334,9 +346,12 @@ void TestCatalogTreeModel::lockedTiers()
     QVERIFY(!changed.isEmpty());
     QVERIFY(!free.data(LocationLockedRole).toBool());
     QVERIFY(paid.data(LocationLockedRole).toBool());
-    QVERIFY(!paid.data(Qt::ToolTipRole).toString().isEmpty());
     // Berlin has only paid nodes; Frankfurt has a free one and stays open.
     QVERIFY(berlin.data(LocationLockedRole).toBool());
+    for (const QModelIndex &locked : {paid, berlin}) {
+        QCOMPARE(locked.data(Qt::AccessibleDescriptionRole).toString(),
+                 QStringLiteral("Locked: needs the SVIP plan. Upgrade to use it."));
+    }
     QVERIFY(!model.indexForSelector(QStringLiteral("city:de:frankfurt"))
                  .data(LocationLockedRole)
                  .toBool());

@@ -88,31 +88,40 @@ void TestCountries::flags_data()
 {
     QTest::addColumn<QString>("code");
     QTest::addColumn<QString>("sameAs"); // a code whose flag is the same picture, or empty
+    QTest::addColumn<qreal>("screen");   // the device pixel ratio asked for; 0: none given
     QTest::addColumn<qreal>("ratio");
     QTest::addColumn<QSize>("logical");
     QTest::addRow("48 pixels for dense screens")
-        << QStringLiteral("de") << QString() << 2.0 << QSize(24, 16);
+        << QStringLiteral("de") << QString() << 0.0 << 2.0 << QSize(24, 16);
     QTest::addRow("trimmed and lower-cased")
-        << QStringLiteral(" DE ") << QStringLiteral("de") << 2.0 << QSize(24, 16);
+        << QStringLiteral(" DE ") << QStringLiteral("de") << 0.0 << 2.0 << QSize(24, 16);
     QTest::addRow("24 pixels stay at 1.0")
-        << QStringLiteral("qq") << QString() << 1.0 << QSize(24, 16);
+        << QStringLiteral("qq") << QString() << 0.0 << 1.0 << QSize(24, 16);
     QTest::addRow("unknown code falls back")
-        << QStringLiteral("zz") << QStringLiteral("unknown") << 2.0 << QSize(24, 16);
-    QTest::addRow("no code, no flag") << QStringLiteral("  ") << QString() << 0.0 << QSize();
+        << QStringLiteral("zz") << QStringLiteral("unknown") << 0.0 << 2.0 << QSize(24, 16);
+    QTest::addRow("no code, no flag") << QStringLiteral("  ") << QString() << 1.0 << 0.0 << QSize();
+    QTest::addRow("made for a plain screen")
+        << QStringLiteral("de") << QString() << 1.0 << 1.0 << QSize(24, 16);
+    QTest::addRow("made for a 1.25 screen")
+        << QStringLiteral("de") << QString() << 1.25 << 1.25 << QSize(24, 16);
+    QTest::addRow("2x is the resource itself")
+        << QStringLiteral("de") << QStringLiteral("de") << 2.0 << 2.0 << QSize(24, 16);
 }
 
 void TestCountries::flags()
 {
     QFETCH(QString, code);
     QFETCH(QString, sameAs);
+    QFETCH(qreal, screen);
     QFETCH(qreal, ratio);
     QFETCH(QSize, logical);
-    const QPixmap flag = countryFlag(code);
+    const QPixmap flag = screen > 0 ? countryFlag(code, screen) : countryFlag(code);
     if (logical.isEmpty()) {
         QVERIFY(flag.isNull());
         return;
     }
     QCOMPARE(flag.devicePixelRatio(), ratio);
+    QCOMPARE(flag.size(), (QSizeF(logical) * ratio).toSize()); // whole device pixels
     QCOMPARE(flag.deviceIndependentSize().toSize(), logical);
     if (!sameAs.isEmpty())
         QCOMPARE(flag.cacheKey(), countryFlag(sameAs).cacheKey());
@@ -124,8 +133,10 @@ void TestCountries::flagCacheClears()
     QCOMPARE(countryFlag(QStringLiteral("jp")).cacheKey(), first);
     QPixmap cached;
     QVERIFY(QPixmapCache::find(QStringLiteral("tovra-flag:jp"), &cached));
+    const qint64 scaled = countryFlag(QStringLiteral("jp"), 1.5).cacheKey();
     clearFlagCache();
     QVERIFY(!QPixmapCache::find(QStringLiteral("tovra-flag:jp"), &cached));
+    QVERIFY(countryFlag(QStringLiteral("jp"), 1.5).cacheKey() != scaled);
     const QPixmap again = countryFlag(QStringLiteral("jp"));
     QVERIFY(!again.isNull());
     QVERIFY(again.cacheKey() != first);

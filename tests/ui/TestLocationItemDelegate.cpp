@@ -83,12 +83,14 @@ void TestLocationItemDelegate::rowMirrors()
     QStandardItemModel model;
     QAbstractItemModelTester tester(&model);
     model.appendRow(nodeItem(QStringLiteral("de-1"), 24, false, QStringLiteral("SVIP")));
+    model.item(0)->setData(true, LocationLockedRole);
     LocationItemDelegate delegate;
     const LocationItemDelegate::RowLayout row =
         delegate.rowLayout(rowOption(QRect(0, 0, 400, 40), direction), model.index(0, 0));
 
-    // Leading to trailing: flag, name, badge, ping, bars, star; nothing overlaps.
-    const QList<QRect> order = {row.flag, row.name, row.badge, row.ping, row.bars, row.star};
+    // Leading to trailing: flag, name, lock, badge, ping, bars, star; nothing overlaps.
+    const QList<QRect> order = {row.flag, row.name, row.lock, row.badge,
+                                row.ping, row.bars, row.star};
     for (qsizetype i = 1; i < order.size(); ++i) {
         QVERIFY(!order[i - 1].intersects(order[i]));
         if (direction == Qt::LeftToRight) {

@@ -36,7 +36,7 @@ GalleryModel::GalleryModel(QObject *parent)
         QColor a, b, c;
     };
     const QList<Row> rows = {
-        {"", "Europe", -1, -1, false, "", true, false, Qt::darkBlue, Qt::yellow, Qt::darkBlue},
+        {"", "Europe", -1, -1, false, "", true, true, Qt::darkBlue, Qt::yellow, Qt::darkBlue},
         {"de-1", "Germany \u2013 Frankfurt", 24, -1, true, "FREE", false, true, Qt::black, Qt::red,
          QColor(255, 204, 0)},
         {"nl-2", "Netherlands \u2013 Amsterdam", 96, -1, false, "SVIP", false, false,
@@ -67,6 +67,8 @@ GalleryModel::GalleryModel(QObject *parent)
         item->setEditable(false);
         appendRow(item);
     }
+    // A paid location seen from a free plan: greyed, with its lock.
+    item(rowCount() - 1)->setData(true, LocationLockedRole);
 }
 
 void GalleryModel::setFavorite(const QString &nodeId, bool favorite)

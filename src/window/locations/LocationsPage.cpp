@@ -11,6 +11,7 @@
 #include "AppState.h"
 #include "CatalogFilterModel.h"
 #include "CatalogTreeModel.h"
+#include "Countries.h"
 #include "GuiPreferences.h"
 #include "IconTinter.h"
 #include "LocationItemDelegate.h"
@@ -24,6 +25,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
+#include <QRegularExpression>
 #include <QStackedWidget>
 #include <QTimer>
 
@@ -132,6 +134,7 @@ QWidget *LocationsPage::buildContent()
     m_tree->setVerticalScrollBar(new ThemedScrollBar(Qt::Vertical, m_tree));
     m_tree->setModel(m_filter);
     m_tree->setItemDelegate(m_delegate);
+    m_delegate->setPaintsRowBackground(false); // the tree paints it across its branch column
     m_empty = new LocationsEmptyState(m_stack);
     m_stack->addWidget(m_tree);
     m_stack->addWidget(m_empty);
@@ -142,6 +145,7 @@ QWidget *LocationsPage::buildContent()
     m_statusTimer->setInterval(150);
     connect(m_statusTimer, &QTimer::timeout, this, &LocationsPage::updateStatusLine);
     m_status = new QLabel(content);
+    m_status->setObjectName(QStringLiteral("TovraLocationsStatus"));
     m_status->setProperty("tovraRole", QStringLiteral("muted"));
     m_status->setWordWrap(true);
     column->addWidget(m_status);
@@ -164,7 +168,7 @@ QWidget *LocationsPage::buildContent()
             m_tree->setCurrentIndex(m_filter->index(0, 0));
         m_tree->setFocus(Qt::TabFocusReason);
     });
-    connect(m_tree, &LocationsTreeView::rowActivated, this, &LocationsPage::activate);
+    connect(m_tree, &LocationsTreeView::rowActivated, this, &LocationsPage::openOrActivate);
     connect(m_tree, &LocationsTreeView::favoriteToggled, this, &LocationsPage::toggleFavorite);
     connect(m_tree, &LocationsTreeView::menuRequested, this, &LocationsPage::showRowMenu);
     connect(m_tree, &LocationsTreeView::textTyped, this, &LocationsPage::typeIntoSearch);
@@ -199,8 +203,10 @@ QWidget *LocationsPage::buildContent()
 void LocationsPage::setPreferences(GuiPreferences *preferences)
 {
     m_preferences = preferences;
-    if (m_preferences)
-        m_toolbar->setSort(LocationsToolbar::sortFromKey(m_preferences->locationsSort()));
+    if (!m_preferences)
+        return;
+    m_toolbar->setSort(LocationsToolbar::sortFromKey(m_preferences->locationsSort()));
+    m_toolbar->setTab(m_preferences->locationsTab());
 }
 
 QStringList LocationsPage::tiersFor(const UserInfo &user)
@@ -222,13 +228,38 @@ WindowPage::Records LocationsPage::reads() const
            Record::RefreshCooldown;
 }
 
+NodeEntry LocationsPage::connectedNode(const AppState &state)
+{
+    // The status record is newer than the nodes record, which is fetched less often: its
+    // "[id] [region] name" text decides where the tunnel is.
+    const RuntimeInfo &runtime = state.runtime();
+    if (runtime.tunnelState.trimmed().compare(QLatin1String("connected"), Qt::CaseInsensitive))
+        return {};
+    static const QRegularExpression idPattern(QStringLiteral("^\\[([^\\]]+)\\]"));
+    const QString id = idPattern.match(runtime.connectedNode.trimmed()).captured(1).trimmed();
+    const NodesInfo &nodes = state.nodes();
+    if (id.isEmpty() || (nodes.connected.valid && nodes.connected.id == id))
+        return nodes.connected;
+    for (const NodeEntry &node : nodes.nodes) {
+        if (node.id == id)
+            return node;
+    }
+    NodeEntry unknown;
+    unknown.valid = true;
+    unknown.id = id;
+    return unknown;
+}
+
 void LocationsPage::refresh(const AppState &state)
 {
     m_serviceKnown = state.runtime().valid;
     m_catalogueKnown = state.nodes().valid;
     m_groupsKnown = state.nodeGroups().valid;
+    m_connectedNode = connectedNode(state);
+    NodesInfo nodes = state.nodes();
+    nodes.connected = m_connectedNode;
     m_model->setAvailableTiers(tiersFor(state.user()));
-    m_model->setCatalog(state.nodeGroups(), state.nodes());
+    m_model->setCatalog(state.nodeGroups(), nodes);
     m_cooldown = state.nodesRefreshCooldown();
     m_toolbar->setCooldown(m_cooldown);
     updateEmptyState();
@@ -239,6 +270,7 @@ void LocationsPage::applyTheme(const ThemeColors &colors)
 {
     WindowPage::applyTheme(colors);
     m_delegate->setThemeColors(colors);
+    m_tree->setArrowColor(colors.color(ThemeColor::TextMuted));
     m_toolbar->applyTheme(colors);
     const qreal ratio = devicePixelRatioF();
     m_searchIcon->setIcon(IconTinter::tinted(QStringLiteral(":/icons/search.svg"), QSize(16, 16),
@@ -265,6 +297,8 @@ void LocationsPage::pageShown()
 
 void LocationsPage::tabChanged(const QString &tab)
 {
+    if (m_preferences && m_preferences->locationsTab() != tab)
+        m_preferences->setLocationsTab(tab);
     // A search covers every tab; the tab applies again once the search is cleared.
     if (!m_filter->isSearching())
         m_model->setTab(tab);
@@ -343,7 +377,18 @@ void LocationsPage::activateFromSearch()
         selectFirstMatch();
         target = m_tree->currentIndex();
     }
-    activate(target);
+    openOrActivate(target);
+}
+
+void LocationsPage::openOrActivate(const QModelIndex &index)
+{
+    // A continent is too wide to mean one connection: it opens like a folder. Its menu still
+    // offers the fastest location.
+    if (index.data(LocationContinentRole).toBool()) {
+        m_tree->setExpanded(index, !m_tree->isExpanded(index));
+        return;
+    }
+    activate(index);
 }
 
 void LocationsPage::activate(const QModelIndex &index)
@@ -459,6 +504,23 @@ void LocationsPage::updateEmptyState()
     }
 }
 
+QString LocationsPage::connectedPath() const
+{
+    if (!m_connectedNode.valid || m_connectedNode.id.isEmpty())
+        return {};
+    // Outermost first, as the tree shows it; a node the tab hides still names its country.
+    QStringList path;
+    for (QModelIndex index = m_model->indexForNode(m_connectedNode.id); index.isValid();
+         index = index.parent())
+        path.prepend(isolated(index.data().toString()));
+    if (path.isEmpty()) {
+        if (!m_connectedNode.region.trimmed().isEmpty())
+            path << isolated(countryName(m_connectedNode.region));
+        path << isolated(CatalogTreeBuilder::nodeLabel(m_connectedNode));
+    }
+    return path.join(QStringLiteral(" \u203a "));
+}
+
 void LocationsPage::showHint(const QString &text)
 {
     m_hint = text;
@@ -481,6 +543,8 @@ void LocationsPage::updateStatusLine()
         } else {
             parts << tr("Locations: %1").arg(m_model->nodeCount());
         }
+        if (const QString where = connectedPath(); !where.isEmpty())
+            parts << tr("Connected to %1").arg(where);
         if (m_model->nodes().pingRunning)
             parts << tr("Measuring latency...");
         if (m_model->nodes().stale || m_model->nodeGroups().stale)

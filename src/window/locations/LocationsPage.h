@@ -2,6 +2,8 @@
 
 #include "WindowPage.h"
 
+#include "NodeEntry.h"
+
 #include <QSet>
 
 class CatalogFilterModel;
@@ -25,7 +27,7 @@ class LocationsPage : public WindowPage
 public:
     explicit LocationsPage(QWidget *parent = nullptr);
 
-    // Where the sort choice is remembered; without it the choice lasts as long as the page.
+    // Where the tab and sort choices are remembered; without it they last as long as the page.
     void setPreferences(GuiPreferences *preferences);
     void refresh(const AppState &state) override;
     Records reads() const override;
@@ -51,6 +53,8 @@ private:
     void searchChanged(const QString &text);
     void tabChanged(const QString &tab);
     void activate(const QModelIndex &index);
+    // A double-click or Enter: continents open and close, other rows connect.
+    void openOrActivate(const QModelIndex &index);
     void activateFromSearch();
     void toggleFavorite(const QModelIndex &index);
     void showRowMenu(const QModelIndex &index, const QPoint &globalPos);
@@ -61,8 +65,12 @@ private:
     void restoreExpansion(const QSet<QString> &selectors);
     void updateEmptyState();
     void updateStatusLine();
+    // Where the tunnel is, "Europe > Germany > Frankfurt > Frankfurt 01"; empty when not connected.
+    QString connectedPath() const;
     void showHint(const QString &text);
     static QStringList tiersFor(const UserInfo &user);
+    // The node the tunnel uses, when it is up.
+    static NodeEntry connectedNode(const AppState &state);
 
     CatalogTreeModel *m_model;
     CatalogFilterModel *m_filter;
@@ -77,6 +85,7 @@ private:
     QAction *m_searchIcon = nullptr;
     GuiPreferences *m_preferences = nullptr;
     QSet<QString> m_expandedBeforeSearch;
+    NodeEntry m_connectedNode; // invalid unless the tunnel is up
     QString m_hint;
     bool m_expandPending = false;
     bool m_serviceKnown = false;

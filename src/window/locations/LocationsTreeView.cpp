@@ -1,10 +1,14 @@
 #include "LocationsTreeView.h"
 
+#include "LocationItemDelegate.h"
 #include "LocationRoles.h"
 
 #include <QContextMenuEvent>
+#include <QHoverEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
 
 LocationsTreeView::LocationsTreeView(QWidget *parent)
     : QTreeView(parent)
@@ -14,7 +18,7 @@ LocationsTreeView::LocationsTreeView(QWidget *parent)
     setUniformRowHeights(true);
     setRootIsDecorated(true);
     setAnimated(false);
-    // A double-click connects; the branch arrow and the arrow keys fold.
+    // The page decides what a double-click does; the branch arrow and the arrow keys fold.
     setExpandsOnDoubleClick(false);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectRows);
@@ -34,6 +38,89 @@ void LocationsTreeView::expandOnly(const QModelIndexList &groups)
     for (const QModelIndex &group : groups)
         expand(group);
     executeDelayedItemsLayout();
+}
+
+void LocationsTreeView::setArrowColor(const QColor &color)
+{
+    m_arrowColor = color;
+    viewport()->update();
+}
+
+bool LocationsTreeView::viewportEvent(QEvent *event)
+{
+    // The view repaints the rows the pointer enters and leaves; this keeps which one it is on.
+    switch (event->type()) {
+    case QEvent::HoverEnter:
+    case QEvent::HoverMove:
+        m_hovered = indexAt(static_cast<QHoverEvent *>(event)->position().toPoint());
+        break;
+    case QEvent::HoverLeave:
+    case QEvent::Leave:
+        m_hovered = QPersistentModelIndex();
+        break;
+    default:
+        break;
+    }
+    return QTreeView::viewportEvent(event);
+}
+
+void LocationsTreeView::selectionChanged(const QItemSelection &selected,
+                                         const QItemSelection &deselected)
+{
+    QTreeView::selectionChanged(selected, deselected);
+    // The tint spans the branch column, which the view's own update leaves out in a mirrored
+    // tree: the whole rows are painted again.
+    for (const QItemSelection &rows : {selected, deselected}) {
+        for (const QModelIndex &index : rows.indexes()) {
+            const QRect item = visualRect(index);
+            if (item.isValid())
+                viewport()->update(QRect(0, item.top(), viewport()->width(), item.height()));
+        }
+    }
+}
+
+void LocationsTreeView::drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                                const QModelIndex &index) const
+{
+    if (const auto *delegate = qobject_cast<LocationItemDelegate *>(itemDelegate())) {
+        const QRect row(0, option.rect.top(), viewport()->width(), option.rect.height());
+        const bool hovered = m_hovered.isValid() && m_hovered.row() == index.row() &&
+                             m_hovered.parent() == index.parent();
+        const bool focused = hasFocus() && index == currentIndex();
+        delegate->paintRowBackground(painter, row, selectionModel()->isSelected(index), hovered,
+                                     focused, option.palette);
+    }
+    QTreeView::drawRow(painter, option, index);
+}
+
+void LocationsTreeView::drawBranches(QPainter *painter, const QRect &rect,
+                                     const QModelIndex &index) const
+{
+    if (!model()->hasChildren(index))
+        return;
+    // The arrow sits in the last indentation step, next to the row's flag.
+    const int step = indentation();
+    const QRectF cell(isRightToLeft() ? rect.left() : rect.right() + 1 - step, rect.top(), step,
+                      rect.height());
+    const QPointF centre = cell.center() + QPointF(0, 1);
+    const qreal half = 3.5;
+    QPainterPath chevron;
+    if (isExpanded(index)) {
+        chevron.moveTo(centre + QPointF(-half, -half / 2));
+        chevron.lineTo(centre + QPointF(0, half / 2));
+        chevron.lineTo(centre + QPointF(half, -half / 2));
+    } else {
+        const qreal forward = isRightToLeft() ? -1 : 1;
+        chevron.moveTo(centre + QPointF(-forward * half / 2, -half));
+        chevron.lineTo(centre + QPointF(forward * half / 2, 0));
+        chevron.lineTo(centre + QPointF(-forward * half / 2, half));
+    }
+    painter->save();
+    painter->setRenderHint(QPainter::Antialiasing);
+    const QColor color = m_arrowColor.isValid() ? m_arrowColor : palette().color(QPalette::Text);
+    painter->setPen(QPen(color, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->drawPath(chevron);
+    painter->restore();
 }
 
 void LocationsTreeView::dataChanged(const QModelIndex &topLeft, const QModelIndex &bottomRight,

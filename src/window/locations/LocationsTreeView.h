@@ -1,10 +1,12 @@
 #pragma once
 
+#include <QColor>
+#include <QPersistentModelIndex>
 #include <QTreeView>
 
 // The locations tree as the keyboard sees it: one Tab stop; arrows move, Enter and a
-// double-click connect, Space stars a node, letters go to the search field, the menu key and a
-// right click open the row's menu.
+// double-click activate the row, Space stars a node, letters go to the search field, the menu
+// key and a right click open the row's menu.
 class LocationsTreeView : public QTreeView
 {
     Q_OBJECT
@@ -14,6 +16,8 @@ public:
 
     // Exactly these groups open, everything else folded, in one layout pass.
     void expandOnly(const QModelIndexList &groups);
+    // The colour of the branch arrows (the theme's muted text).
+    void setArrowColor(const QColor &color);
 
 Q_SIGNALS:
     void rowActivated(QModelIndex index);
@@ -29,4 +33,18 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent *event) override;
     void contextMenuEvent(QContextMenuEvent *event) override;
     void keyboardSearch(const QString &search) override;
+    bool viewportEvent(QEvent *event) override;
+    void selectionChanged(const QItemSelection &selected,
+                          const QItemSelection &deselected) override;
+    // The row's hover and selection span the branch column, under the arrow; the arrows are
+    // drawn here rather than by the style, whose style-sheet branch rules drop them on
+    // selected and hovered rows.
+    void drawRow(QPainter *painter, const QStyleOptionViewItem &option,
+                 const QModelIndex &index) const override;
+    void drawBranches(QPainter *painter, const QRect &rect,
+                      const QModelIndex &index) const override;
+
+private:
+    QPersistentModelIndex m_hovered;
+    QColor m_arrowColor;
 };

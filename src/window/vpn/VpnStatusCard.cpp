@@ -117,7 +117,8 @@ void VpnStatusCard::setSummary(const VpnStatusSummary &summary)
     m_locationCaption->setVisible(hasPlace);
     m_location->setText(summary.locationText);
     m_location->setVisible(hasPlace);
-    const QPixmap flag = hasPlace ? countryFlag(summary.flagCode) : QPixmap();
+    const QPixmap flag =
+        hasPlace ? countryFlag(summary.flagCode, m_flag->devicePixelRatioF()) : QPixmap();
     m_flag->setPixmap(flag);
     m_flag->setVisible(!flag.isNull());
     updateFacts();

@@ -4,17 +4,23 @@
 #include "CatalogFilterModel.h"
 #include "CatalogFixture.h"
 #include "CatalogTreeModel.h"
+#include "GuiPreferences.h"
 #include "LocationRoles.h"
+#include "TempXdgDirs.h"
+#include "ThemeEngine.h"
 
 #include <QAbstractItemModelTester>
 #include <QApplication>
+#include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QStackedWidget>
 #include <QTabBar>
 #include <QTest>
 #include <QTreeView>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -43,8 +49,13 @@ private Q_SLOTS:
     void cleanup();
     void keyboardIntents_data();
     void keyboardIntents();
+    void doubleClickAndEnter_data();
+    void doubleClickAndEnter();
     void emptyStatesSayWhy();
     void refreshShowsCooldown();
+    void choicesOutliveThePage();
+    void footerSaysWhereTheTunnelIs();
+    void selectedGroupKeepsItsArrow();
 
 private:
     AppState *m_state = nullptr;
@@ -136,6 +147,42 @@ void TestLocationsPage::keyboardIntents()
     QCOMPARE(star.first(), QVariantList({QStringLiteral("1016"), true}));
 }
 
+void TestLocationsPage::doubleClickAndEnter_data()
+{
+    QTest::addColumn<QString>("selector");
+    QTest::addColumn<bool>("mouse");
+    QTest::addColumn<QString>("smart"); // the connectSmartRequested selector; empty: it opens
+    QTest::addRow("continent, double-click") << QStringLiteral("continent:eu") << true << QString();
+    QTest::addRow("continent, Enter") << QStringLiteral("continent:na") << false << QString();
+    QTest::addRow("country, double-click")
+        << QStringLiteral("country:de") << true << QStringLiteral("country:de");
+}
+
+void TestLocationsPage::doubleClickAndEnter()
+{
+    QFETCH(QString, selector);
+    QFETCH(bool, mouse);
+    QFETCH(QString, smart);
+    m_state->setRuntime(runningDaemon());
+    loadInto(*m_state, CatalogFixture::small());
+    m_page->refresh(*m_state);
+    QSignalSpy smartSpy(m_page, &LocationsPage::connectSmartRequested);
+    auto *tree = m_page->findChild<QTreeView *>(QStringLiteral("TovraLocationsTree"));
+    const QModelIndex row =
+        m_page->filterModel()->mapFromSource(m_page->catalogModel()->indexForSelector(selector));
+    tree->scrollTo(row);
+    tree->setCurrentIndex(row);
+    tree->setFocus();
+    if (mouse)
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {}, tree->visualRect(row).center());
+    else
+        QTest::keyClick(tree, Qt::Key_Return);
+    QCOMPARE(smartSpy.size(), smart.isEmpty() ? 0 : 1);
+    if (!smart.isEmpty())
+        QCOMPARE(smartSpy.first().at(0).toString(), smart);
+    QCOMPARE(tree->isExpanded(row), smart.isEmpty());
+}
+
 void TestLocationsPage::emptyStatesSayWhy()
 {
     auto *empty = m_page->findChild<QLabel *>(QStringLiteral("TovraLocationsEmpty"));
@@ -147,9 +194,17 @@ void TestLocationsPage::emptyStatesSayWhy()
     m_state->setRuntime(runningDaemon());
     m_page->refresh(*m_state);
     QVERIFY(says("Loading"));
-    CatalogFixture fixture = CatalogFixture::small();
-    loadInto(*m_state, fixture);
+    const CatalogFixture fixture = CatalogFixture::small();
+    QString error;
+    m_state->setNodes(NodesInfo::parse(fixture.nodesJson(), &error));
     m_page->refresh(*m_state);
+    QVERIFY(!empty->isVisible());
+    // The groups, arriving after the nodes, regroup the tree without an empty moment.
+    QSignalSpy switched(qobject_cast<QStackedWidget *>(empty->parentWidget()),
+                        &QStackedWidget::currentChanged);
+    m_state->setNodeGroups(NodeGroupsInfo::parse(fixture.groupsJson(), &error));
+    m_page->refresh(*m_state);
+    QCOMPARE(switched.size(), 0);
     QVERIFY(!empty->isVisible());
     auto *tabs = m_page->findChild<QTabBar *>(QStringLiteral("TovraLocationsTabs"));
     tabs->setCurrentIndex(3);
@@ -192,6 +247,74 @@ void TestLocationsPage::refreshShowsCooldown()
     m_page->refresh(*m_state);
     QCOMPARE(refresh->text(), QStringLiteral("Refresh"));
     QVERIFY(refresh->isEnabled());
+}
+
+void TestLocationsPage::choicesOutliveThePage()
+{
+    TempXdgDirs dirs;
+    GuiPreferences preferences;
+    m_page->setPreferences(&preferences);
+    m_page->findChild<QTabBar *>(QStringLiteral("TovraLocationsTabs"))->setCurrentIndex(1);
+    m_page->findChild<QComboBox *>(QStringLiteral("TovraLocationsSort"))->setCurrentIndex(2);
+    // A window made again later, or after a restart, reads the same file.
+    GuiPreferences reread;
+    LocationsPage again;
+    again.setPreferences(&reread);
+    QCOMPARE(again.catalogModel()->tab(), QStringLiteral("free"));
+    QCOMPARE(again.catalogModel()->sortOrder(), CatalogSort::Latency);
+    QCOMPARE(again.findChild<QTabBar *>(QStringLiteral("TovraLocationsTabs"))->currentIndex(), 1);
+}
+
+void TestLocationsPage::footerSaysWhereTheTunnelIs()
+{
+    RuntimeInfo runtime = runningDaemon();
+    runtime.tunnelState = QStringLiteral("connected");
+    m_state->setRuntime(runtime);
+    CatalogFixture fixture = CatalogFixture::small();
+    fixture.connectedId = QStringLiteral("1002");
+    loadInto(*m_state, fixture);
+    m_page->refresh(*m_state);
+    QString footer = m_page->findChild<QLabel *>(QStringLiteral("TovraLocationsStatus"))->text();
+    footer.remove(QChar(0x2068)).remove(QChar(0x2069)); // the isolates around each name
+    QVERIFY2(footer.contains(
+                 u"Connected to EU land \u203a Germany \u203a Frankfurt \u203a Frankfurt 02"),
+             qPrintable(footer));
+}
+
+void TestLocationsPage::selectedGroupKeepsItsArrow()
+{
+    // Styled as in the window: a style-sheet branch rule once dropped a selected row's arrow.
+    QWidget root;
+    root.setObjectName(QStringLiteral("TovraWindowRoot"));
+    auto *page = new LocationsPage(&root);
+    QAbstractItemModelTester tester(page->filterModel(),
+                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
+    (new QVBoxLayout(&root))->addWidget(page);
+    const ThemeColors colors = ThemeEngine::buildColors(Appearance::Light);
+    ThemeEngine::applyToWindow(&root, colors);
+    page->applyTheme(colors);
+    m_state->setRuntime(runningDaemon());
+    loadInto(*m_state, CatalogFixture::small());
+    page->refresh(*m_state);
+    root.resize(700, 600);
+    root.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&root));
+    auto *tree = page->findChild<QTreeView *>(QStringLiteral("TovraLocationsTree"));
+    const QModelIndex row = page->filterModel()->mapFromSource(
+        page->catalogModel()->indexForSelector(QStringLiteral("continent:na")));
+    tree->setCurrentIndex(row);
+    tree->expand(row);
+    const QImage image = tree->viewport()->grab().toImage();
+    const QRect item = tree->visualRect(row);
+    const QColor tint = colors.color(ThemeColor::SidebarSelectedBg);
+    // The selection reaches under the arrow, and the arrow is drawn on it.
+    QCOMPARE(image.pixelColor(item.left() - tree->indentation() + 3, item.center().y()), tint);
+    int arrow = 0;
+    for (int x = item.left() - tree->indentation() + 4; x < item.left() - 2; ++x) {
+        for (int y = item.top() + 4; y < item.bottom() - 4; ++y)
+            arrow += qAbs(image.pixelColor(x, y).lightness() - tint.lightness()) > 60 ? 1 : 0;
+    }
+    QVERIFY2(arrow > 4, qPrintable(QString::number(arrow)));
 }
 
 QTEST_MAIN(TestLocationsPage)

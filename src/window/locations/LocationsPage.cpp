@@ -203,6 +203,12 @@ void LocationsPage::setPreferences(GuiPreferences *preferences)
         m_toolbar->setSort(LocationsToolbar::sortFromKey(m_preferences->locationsSort()));
 }
 
+void LocationsPage::focusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
 QStringList LocationsPage::tiersFor(const UserInfo &user)
 {
     const QString role = user.role.trimmed().toUpper();

@@ -76,12 +76,23 @@ bool DesktopCommandFlow::ready(const Pending &pending)
     return false;
 }
 
+bool DesktopCommandFlow::connectWhileBusy(const DesktopRequest &request) const
+{
+    return request.command == DesktopRequest::Command::Connect &&
+           m_compatibility->state() == CompatibilityFlow::Compatible &&
+           (m_connection->connectInProgress() || m_connection->disconnectInProgress());
+}
+
 void DesktopCommandFlow::check()
 {
     for (qsizetype i = 0; i < m_pending.size();) {
         Pending &pending = m_pending[i];
         bool done = false;
-        if (pending.requestId == 0 && ready(pending)) {
+        if (pending.requestId == 0 && connectWhileBusy(pending.request)) {
+            // Known without a fresh status, which a busy client may not fetch now.
+            pending.reply({Result::Busy, {}});
+            done = true;
+        } else if (pending.requestId == 0 && ready(pending)) {
             done = !start(pending);
         } else if (pending.deadline.hasExpired()) {
             pending.reply(

@@ -54,6 +54,7 @@ private:
     void check();
     // False while the command must wait for the service.
     bool ready(const Pending &pending);
+    bool connectWhileBusy(const DesktopRequest &request) const;
     // Starts the command; false when it is answered already.
     bool start(Pending &pending);
     bool startConnect(Pending &pending);

@@ -191,6 +191,6 @@ TrayMenu TrayMenuBuilder::build()
     menu->addSeparator();
     m.quit = menu->addAction(TrayMenuText::tr("Quit"));
     // The menu shows the key; pressed while the menu is open it quits as in the window.
-    m.quit->setShortcut(QKeySequence::Quit);
+    m.quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     return m;
 }

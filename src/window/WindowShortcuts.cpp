@@ -44,7 +44,9 @@ QList<WindowShortcuts::Entry> WindowShortcuts::entries()
          tr("Refresh locations")},
         {Id::CloseWindow, QKeySequence(QKeySequence::Close),
          tr("Close the window; Tovra stays in the tray")},
-        {Id::Quit, QKeySequence(QKeySequence::Quit), tr("Quit Tovra")},
+        // Not QKeySequence::Quit: some platform themes leave it empty.
+        {Id::Quit, translatedKeys(QT_TRANSLATE_NOOP("WindowShortcuts", "Ctrl+Q")),
+         tr("Quit Tovra")},
         {Id::CloseDialog, QKeySequence(Qt::Key_Escape), tr("Close a list, menu or dialog")},
         {Id::ShowShortcuts, QKeySequence(QKeySequence::HelpContents),
          tr("Show these keyboard shortcuts")},

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Pictures of every page of the main window, as a person sees them: the client against the demo
 # daemon (signed in, connected) on a private X server, once per look. For reviewing the window
-# after a change; nothing here is a test.
+# after a change; nothing here is a test. Besides the pages: a sidebar tool tip and the keyboard
+# shortcuts dialog (F1).
 # Usage: scripts/window-screenshots.sh [BUILD_DIR] [OUT_DIR] [LOOK...]
 #   LOOK is light, dark, rtl or dark-rtl; all four by default. The right-to-left looks run in
 #   Arabic (TOVRA_SHOT_RTL_LANG, default ar); TOVRA_SHOT_LANG=de (any tag) picks the language
@@ -86,6 +87,15 @@ for look in "${looks[@]}"; do
         sleep 1
         "$grab" "$out/$look-${pages[$index]}.png"
     done
+    # A sidebar entry's tool tip (with its key), then the keyboard shortcuts dialog (F1).
+    xdo mousemove "$side_x" $(( wy + 8 + 44 + 89 ))
+    sleep 2
+    "$grab" "$out/$look-tooltip.png"
+    xdo mousemove $(( wx + ww / 2 )) $(( wy + wh - 4 ))
+    xdo key F1
+    sleep 1.5
+    "$grab" "$out/$look-shortcuts.png"
+    xdo key Escape
     kill "$client_pid"; wait "$client_pid" 2>/dev/null || true
 done
 echo "pictures in $out"

@@ -1521,6 +1521,11 @@
         <source>Action</source>
         <translation>الإجراء</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>إغلاق</translation>
+    </message>
 </context>
 <context>
     <name>KillSwitchConfirm</name>

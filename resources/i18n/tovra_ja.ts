@@ -1521,6 +1521,11 @@
         <source>Action</source>
         <translation>操作</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>閉じる</translation>
+    </message>
 </context>
 <context>
     <name>KillSwitchConfirm</name>

@@ -1521,6 +1521,11 @@
         <source>Action</source>
         <translation>Ação</translation>
     </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>Fechar</translation>
+    </message>
 </context>
 <context>
     <name>KillSwitchConfirm</name>

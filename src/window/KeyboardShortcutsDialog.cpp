@@ -16,7 +16,8 @@ KeyboardShortcutsDialog::KeyboardShortcutsDialog(QWidget *parent)
 {
     setObjectName(QStringLiteral("TovraKeyboardShortcutsDialog"));
     setWindowTitle(tr("Keyboard Shortcuts"));
-    resize(560, 440);
+    // Every row without scrolling, and the longest one whole.
+    resize(720, 560);
 
     auto *title = new QLabel(tr("Keyboard shortcuts"), this);
     title->setObjectName(QStringLiteral("TovraCardTitle"));
@@ -47,8 +48,9 @@ KeyboardShortcutsDialog::KeyboardShortcutsDialog(QWidget *parent)
     m_list->setCurrentItem(m_list->topLevelItem(0));
 
     auto *buttons = new QDialogButtonBox(QDialogButtonBox::Close, this);
-    for (QAbstractButton *button : buttons->buttons())
-        button->setIcon(QIcon());
+    //: Button that closes the keyboard shortcuts list
+    buttons->button(QDialogButtonBox::Close)->setText(tr("Close"));
+    buttons->button(QDialogButtonBox::Close)->setIcon(QIcon());
     connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
 
     auto *layout = new QVBoxLayout(this);

@@ -2,9 +2,10 @@
 # Pictures of every page of the main window, as a person sees them: the client against the demo
 # daemon (signed in, connected) on a private X server, once per look. Besides the five pages:
 # Locations with a continent selected and opened down to its nodes (locations-open), Locations
-# while the catalogue is still loading (locations-loading), the tray menu (tray-menu), the update
-# dialog (update-dialog) and the widget gallery (gallery-*). For reviewing the window after a
-# change; nothing here is a test.
+# while the catalogue is still loading (locations-loading), the tray menu (tray-menu), a sidebar
+# tool tip (tooltip), the keyboard shortcuts dialog (shortcuts, F1), the update dialog
+# (update-dialog) and the widget gallery (gallery-*). For reviewing the window after a change;
+# nothing here is a test.
 # Usage: scripts/window-screenshots.sh [BUILD_DIR] [OUT_DIR] [LOOK...]
 #   LOOK is light, dark, rtl or dark-rtl; all four by default. The right-to-left looks run in
 #   Arabic (TOVRA_SHOT_RTL_LANG, default ar); TOVRA_SHOT_LANG=de (any tag) picks the language
@@ -154,6 +155,16 @@ for look in "${looks[@]}"; do
         shot "$look-tray-menu"
         xdo key Escape
     fi
+    # A sidebar entry's tool tip (with its key), then the keyboard shortcuts dialog (F1).
+    hover_x=$(( wx + $(px 46) )); [[ $look == *rtl ]] && hover_x=$(( wx + ww - $(px 46) ))
+    xdo mousemove "$hover_x" $(( wy + $(px 141) ))
+    sleep 2
+    shot "$look-tooltip"
+    park_mouse
+    xdo key F1
+    sleep 1.5
+    shot "$look-shortcuts"
+    xdo key Escape
     stop_client
     start_client "$look" loading
     show_page "$look" 1

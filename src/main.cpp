@@ -2,18 +2,24 @@
 #include "AppId.h"
 #include "ControlClient.h"
 #include "ControlEndpoints.h"
+#include "DesktopCommandLine.h"
+#include "DesktopCommandSender.h"
 #include "GuiAutostart.h"
 #include "GuiPreferences.h"
 #include "GuiRestartLauncher.h"
 #include "GuiRestartScheduler.h"
 #include "GuiSingleInstance.h"
 #include "GuiStallMonitor.h"
+#include "SingleInstanceClient.h"
 #include "TovraAppShell.h"
 #include "TranslationManager.h"
 
 #include <QApplication>
 #include <QIcon>
+#include <QPointer>
 #include <QTimer>
+
+#include <cstdio>
 
 namespace {
 
@@ -40,10 +46,57 @@ QString startupLanguage(const QString &socketPath, GuiPreferences &preferences)
     return stored.isEmpty() ? TranslationManager::systemLanguage() : stored;
 }
 
+// A desktop action for the running client: needs no display, so scripts and key bindings work
+// from anywhere in the session. Its messages follow the last interface language.
+int runDesktopCommand(int argc, char *argv[], const DesktopCommandLine &commandLine,
+                      const DesktopRequest &launch)
+{
+    QCoreApplication app(argc, argv);
+    QCoreApplication::setApplicationName(QStringLiteral("Tovra"));
+    QCoreApplication::setOrganizationName(QStringLiteral("Tovra"));
+    GuiPreferences preferences;
+    TranslationManager translations;
+    const QString stored = preferences.lastEffectiveLanguage();
+    if (!translations.apply(TranslationManager::normalize(
+            stored.isEmpty() ? TranslationManager::systemLanguage() : stored)))
+        translations.apply(TranslationManager::defaultLanguage());
+    const auto fail = [](const QString &message, DesktopAnswer::Result result) {
+        std::fprintf(stderr, "%s\n", qUtf8Printable(message));
+        return int(result);
+    };
+    if (commandLine.kind() == DesktopCommandLine::Kind::UsageError)
+        return fail(commandLine.error(), DesktopAnswer::Result::UsageError);
+
+    QString error;
+    const QString serverPath = GuiSingleInstance::defaultServerPath(&error);
+    if (serverPath.isEmpty())
+        return fail(QStringLiteral("tovra: ") + error, DesktopAnswer::Result::Failed);
+    DesktopRequest request = commandLine.request();
+    request.activationToken = launch.activationToken;
+    request.startupId = launch.startupId;
+    const DesktopAnswer answer =
+        DesktopCommandSender(serverPath, QCoreApplication::applicationFilePath()).send(request);
+    if (answer.result != DesktopAnswer::Result::Done)
+        return fail(answer.message(), answer.result);
+    return 0;
+}
+
 } // namespace
 
 int main(int argc, char *argv[])
 {
+    // Taken before Qt starts: the X11 plugin removes DESKTOP_STARTUP_ID from the environment.
+    const DesktopRequest launch =
+        DesktopRequest::fromEnvironment(DesktopRequest::Command::Activate);
+    {
+        QStringList rawArguments;
+        for (int i = 0; i < argc; ++i)
+            rawArguments.append(QString::fromLocal8Bit(argv[i]));
+        const DesktopCommandLine commandLine = DesktopCommandLine::parse(rawArguments);
+        if (commandLine.kind() != DesktopCommandLine::Kind::PlainLaunch)
+            return runDesktopCommand(argc, argv, commandLine, launch);
+    }
+
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tovra"));
     QApplication::setApplicationVersion(QStringLiteral(TOVRA_VERSION));
@@ -71,6 +124,8 @@ int main(int argc, char *argv[])
 
     QString instanceError;
     GuiSingleInstance singleInstance(GuiSingleInstance::defaultServerPath(&instanceError));
+    // A second launch hands its activation tokens over, so the window may come to the front.
+    singleInstance.setOutgoingRequest(launch);
     const SingleInstanceResult instance =
         singleInstance.serverName().isEmpty() ? SingleInstanceResult::Failed
         : restartShowWindow ? singleInstance.waitForPrimary(45000, 100, &instanceError)
@@ -101,6 +156,14 @@ int main(int argc, char *argv[])
 
     QObject::connect(&singleInstance, &GuiSingleInstance::activateRequested, &shell,
                      &TovraAppShell::activateFromSecondary);
+    QObject::connect(&singleInstance, &GuiSingleInstance::commandRequested, &shell,
+                     [&shell](const DesktopRequest &request, SingleInstanceClient *client) {
+                         shell.runDesktopCommand(
+                             request, [client = QPointer(client)](const DesktopAnswer &answer) {
+                                 if (client)
+                                     client->answer(answer);
+                             });
+                     });
     QObject::connect(&shell, &TovraAppShell::restartRequested, &restartScheduler, [&] {
         restartScheduler.schedule(
             700, [] { return launchGuiRestart(); },

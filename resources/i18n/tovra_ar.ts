@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>تعذّر تحديث التشغيل عند تسجيل الدخول</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>عرض…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>عرض اختصارات لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>اختصارات لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>كل المفاتيح التي تعمل في هذه النافذة.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: لا يوجد موقع يطابق «%1»</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra مشغول باتصال آخر أو بتسجيل الدخول؛ أعد المحاولة عند انتهائه</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: سجّل الدخول إلى Tovra قبل الاتصال</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: خطتك لا تتضمن «%1»</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: فشل الطلب</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: حدّد خيارًا واحدًا فقط من: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>تعذّر تشغيل Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>لم يبدأ Tovra</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>Tovra قيد التشغيل إصدار أقدم: ظهر في المقدمة لكنه لم ينفّذ الطلب؛ أغلقه وأعد المحاولة</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>لم يستجب Tovra قيد التشغيل</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>تعذّرت إزالة Tovra من التشغيل عند تسجيل الدخول.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>اختصارات لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>اختصارات لوحة المفاتيح</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>تعمل هذه المفاتيح في أي مكان من نافذة Tovra. ينتقل Tab بين عناصر التحكم.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>المفاتيح</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>الإجراء</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>إغلاق</translation>
     </message>
 </context>
 <context>
@@ -2717,6 +2815,22 @@ Try a country, a city or a code such as “de”.</source>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>يجب تثبيت تحديث إلزامي لـ Tovra قبل الاتصال.</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>خدمة Tovra غير متاحة</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>لم تستجب خدمة Tovra</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>يجب تثبيت تحديث مطلوب لـ Tovra قبل الاتصال</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>حلّ طلب اتصال آخر محل هذا الطلب</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3762,6 +3876,88 @@ Available version: %2</source>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>تعذّر إكمال إجراء الحساب</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>عرض صفحة VPN</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>عرض صفحة المواقع</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>عرض صفحة الوضع</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>عرض صفحة الإعدادات</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>عرض صفحة الحساب</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>البحث: حقل الاتصال السريع في صفحة VPN، والقائمة في صفحة المواقع</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>تحديث المواقع</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>إغلاق النافذة؛ يبقى Tovra في منطقة الإشعارات</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>إنهاء Tovra</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>إغلاق قائمة أو قائمة أوامر أو مربع حوار</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>عرض اختصارات لوحة المفاتيح هذه</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 </TS>

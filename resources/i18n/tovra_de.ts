@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>Autostart konnte nicht aktualisiert werden</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>Anzeigen…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>Tastenkürzel anzeigen</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>Alle Tasten, die in diesem Fenster funktionieren.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: kein Standort passt zu „%1“</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra ist mit einer anderen Verbindung oder Anmeldung beschäftigt; versuchen Sie es erneut, wenn sie abgeschlossen ist</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: Melden Sie sich vor dem Verbinden bei Tovra an</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: Ihr Tarif enthält „%1“ nicht</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: Die Anfrage ist fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: Geben Sie nur eine dieser Optionen an: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>Tovra konnte nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra ist nicht gestartet</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>das laufende Tovra ist eine ältere Version: Es wurde in den Vordergrund geholt, hat die Anfrage aber nicht ausgeführt; beenden Sie es und versuchen Sie es erneut</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>das laufende Tovra hat nicht geantwortet</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>Tovra konnte nicht aus dem Autostart entfernt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Tastenkürzel</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>Diese Tasten funktionieren überall im Tovra-Fenster. Mit Tab wechseln Sie zwischen den Bedienelementen.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Aktion</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>Schließen</translation>
     </message>
 </context>
 <context>
@@ -2713,6 +2811,22 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>Vor dem Verbinden muss ein erforderliches Tovra-Update installiert werden.</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>Der Tovra-Dienst ist nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>Der Tovra-Dienst hat nicht geantwortet</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>Vor dem Verbinden muss ein erforderliches Tovra-Update installiert werden</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>Eine andere Verbindungsanfrage hat diese ersetzt</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3758,6 +3872,88 @@ Verfügbare Version: %2</translation>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>Kontoaktion konnte nicht ausgeführt werden</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>VPN-Seite anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>Seite „Standorte“ anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>Seite „Modus“ anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>Seite „Einstellungen“ anzeigen</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>Seite „Konto“ anzeigen</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>Suchen: das Schnellverbindungsfeld auf der VPN-Seite, die Liste auf der Seite „Standorte“</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Standorte aktualisieren</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>Fenster schließen; Tovra bleibt im Infobereich</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>Tovra beenden</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>Liste, Menü oder Dialog schließen</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>Diese Tastenkürzel anzeigen</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 </TS>

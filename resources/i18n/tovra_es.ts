@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>No se pudo actualizar el inicio automático</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>Mostrar…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>Mostrar los atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>Todas las teclas que funcionan en esta ventana.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: ninguna ubicación coincide con «%1»</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra está ocupado con otra conexión o inicio de sesión; inténtalo de nuevo cuando termine</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: inicia sesión en Tovra antes de conectarte</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: tu plan no incluye «%1»</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: la solicitud falló</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: indica solo una de estas opciones: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>no se pudo iniciar Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra no se inició</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>el Tovra en ejecución es una versión anterior: pasó al frente pero no atendió la solicitud; ciérralo e inténtalo de nuevo</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>el Tovra en ejecución no respondió</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>No se pudo quitar Tovra del inicio automático.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atajos de teclado</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>Estas teclas funcionan en toda la ventana de Tovra. Tab pasa de un control a otro.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Acción</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>Cerrar</translation>
     </message>
 </context>
 <context>
@@ -2713,6 +2811,22 @@ Prueba con un país, una ciudad o un código como «de».</translation>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>Hay que instalar una actualización obligatoria de Tovra antes de conectar.</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>El servicio Tovra no está disponible</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>El servicio Tovra no respondió</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>Hay que instalar una actualización obligatoria de Tovra antes de conectarte</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>Otra solicitud de conexión reemplazó a esta</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3758,6 +3872,88 @@ Versión disponible: %2</translation>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>No se pudo completar la acción de la cuenta</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>Mostrar la página VPN</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>Mostrar la página Ubicaciones</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>Mostrar la página Modo</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>Mostrar la página Configuración</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>Mostrar la página Cuenta</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>Buscar: el campo de conexión rápida de la página VPN, la lista de la página Ubicaciones</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Actualizar ubicaciones</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>Cerrar la ventana; Tovra sigue en la bandeja del sistema</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>Salir de Tovra</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>Cerrar una lista, un menú o un diálogo</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>Mostrar estos atajos de teclado</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>اجرا هنگام ورود به سیستم به‌روز نشد</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>نمایش…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>نمایش میان‌برهای صفحه‌کلید</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>میان‌برهای صفحه‌کلید</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>همه کلیدهایی که در این پنجره کار می‌کنند.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: هیچ مکانی با «%1» مطابقت ندارد</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra مشغول اتصال یا ورود دیگری است؛ پس از پایان آن دوباره امتحان کنید</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: پیش از اتصال وارد Tovra شوید</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: طرح شما شامل «%1» نیست</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: درخواست ناموفق بود</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: فقط یکی از این گزینه‌ها را بدهید: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>Tovra اجرا نشد</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra شروع نشد</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>Tovra در حال اجرا نسخهٔ قدیمی‌تری است: به جلو آمد اما درخواست را اجرا نکرد؛ آن را ببندید و دوباره امتحان کنید</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>Tovra در حال اجرا پاسخ نداد</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>حذف Tovra از اجرا هنگام ورود به سیستم ممکن نشد.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>میان‌برهای صفحه‌کلید</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>میان‌برهای صفحه‌کلید</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>این کلیدها در هر جای پنجرهٔ Tovra کار می‌کنند. Tab بین کنترل‌ها جابه‌جا می‌شود.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>کلیدها</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>عمل</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>بستن</translation>
     </message>
 </context>
 <context>
@@ -2712,6 +2810,22 @@ Try a country, a city or a code such as “de”.</source>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>پیش از اتصال باید یک به‌روزرسانی الزامی Tovra نصب شود.</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>سرویس Tovra در دسترس نیست</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>سرویس Tovra پاسخ نداد</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>پیش از اتصال باید یک به‌روزرسانی ضروری Tovra نصب شود</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>درخواست اتصال دیگری جایگزین این درخواست شد</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3757,6 +3871,88 @@ Available version: %2</source>
     <message>
         <source>Could not open log directory: %1</source>
         <translation>باز کردن پوشهٔ گزارش‌ها ممکن نشد: %1</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>نمایش صفحهٔ VPN</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>نمایش صفحهٔ مکان‌ها</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>نمایش صفحهٔ حالت</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>نمایش صفحهٔ تنظیمات</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>نمایش صفحهٔ حساب</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>جست‌وجو: کادر اتصال سریع در صفحهٔ VPN، فهرست در صفحهٔ مکان‌ها</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>به‌روزرسانی مکان‌ها</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>بستن پنجره؛ Tovra در سینی سیستم می‌ماند</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>خروج از Tovra</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>بستن فهرست، منو یا پنجرهٔ گفت‌وگو</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>نمایش همین میان‌برهای صفحه‌کلید</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>Impossible de modifier le lancement à l’ouverture de session</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>Afficher…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>Afficher les raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>Toutes les touches utilisables dans cette fenêtre.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra : aucun emplacement ne correspond à « %1 »</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra : Tovra est occupé par une autre connexion ou un autre changement de compte ; réessayez une fois terminé</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra : connectez-vous à Tovra avant de vous connecter au VPN</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra : votre forfait n’inclut pas « %1 »</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra : la demande a échoué</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra : indiquez une seule de ces options : %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>impossible de démarrer Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra n’a pas démarré</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>le Tovra en cours d’exécution est une version plus ancienne : il est passé au premier plan sans traiter la demande ; quittez-le et réessayez</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>le Tovra en cours d’exécution n’a pas répondu</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>Impossible de retirer Tovra du lancement à l’ouverture de session.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>Ces touches fonctionnent partout dans la fenêtre de Tovra. Tab passe d’une commande à l’autre.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Touches</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Action</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>Fermer</translation>
     </message>
 </context>
 <context>
@@ -2713,6 +2811,22 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>Une mise à jour obligatoire de Tovra doit être installée avant la connexion.</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>Le service Tovra n’est pas disponible</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>Le service Tovra n’a pas répondu</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>Une mise à jour obligatoire de Tovra doit être installée avant de se connecter</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>Une autre demande de connexion a remplacé celle-ci</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3758,6 +3872,88 @@ Version disponible&#xa0;: %2</translation>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>Impossible d’effectuer l’action sur le compte</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>Afficher la page VPN</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>Afficher la page Emplacements</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>Afficher la page Mode</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>Afficher la page Paramètres</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>Afficher la page Compte</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>Rechercher : le champ de connexion rapide de la page VPN, la liste de la page Emplacements</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Actualiser les emplacements</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>Fermer la fenêtre ; Tovra reste dans la zone de notification</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>Quitter Tovra</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>Fermer une liste, un menu ou une boîte de dialogue</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>Afficher ces raccourcis clavier</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>ログイン時の起動を変更できませんでした</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>表示…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>キーボードショートカットを表示</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>このウィンドウで使えるすべてのキー。</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: 「%1」に一致するロケーションはありません</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra は別の接続またはサインインを処理中です。完了してからもう一度お試しください</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: 接続する前に Tovra にサインインしてください</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: ご利用のプランに「%1」は含まれていません</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: 要求は失敗しました</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: 次のうち 1 つだけを指定してください: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>Tovra を起動できませんでした</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra が起動しませんでした</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>実行中の Tovra は古いバージョンです。前面に表示されましたが要求は実行されませんでした。終了してからもう一度お試しください</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>実行中の Tovra が応答しませんでした</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>Tovra をログイン時の起動から削除できませんでした。</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>キーボードショートカット</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>これらのキーは Tovra ウィンドウのどこでも使えます。Tab でコントロール間を移動します。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>キー</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>閉じる</translation>
     </message>
 </context>
 <context>
@@ -2712,6 +2810,22 @@ Try a country, a city or a code such as “de”.</source>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>接続する前に、必須の Tovra アップデートをインストールする必要があります。</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>Tovra サービスを利用できません</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>Tovra サービスが応答しませんでした</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>接続する前に、必須の Tovra アップデートをインストールする必要があります</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>別の接続要求がこの要求に置き換わりました</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3757,6 +3871,88 @@ Available version: %2</source>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>アカウントの操作を完了できませんでした</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>VPN ページを表示</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>「ロケーション」ページを表示</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>「モード」ページを表示</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>「設定」ページを表示</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>「アカウント」ページを表示</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>検索: VPN ページのクイック接続欄、「ロケーション」ページの一覧</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>ロケーションを更新</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>ウィンドウを閉じる (Tovra はトレイに残ります)</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>Tovra を終了</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>一覧、メニュー、ダイアログを閉じる</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>このキーボードショートカット一覧を表示</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>Não foi possível atualizar a inicialização automática</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>Mostrar…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>Mostrar os atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>Todas as teclas que funcionam nesta janela.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: nenhuma localização corresponde a &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: o Tovra está ocupado com outra conexão ou login; tente novamente quando terminar</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: entre no Tovra antes de conectar</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: seu plano não inclui &quot;%1&quot;</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: a solicitação falhou</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: informe apenas uma destas opções: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>não foi possível iniciar o Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>o Tovra não iniciou</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>o Tovra em execução é uma versão mais antiga: ele veio para a frente, mas não atendeu à solicitação; feche-o e tente novamente</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>o Tovra em execução não respondeu</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>Não foi possível remover o Tovra da inicialização automática.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>Estas teclas funcionam em qualquer lugar da janela do Tovra. Tab passa de um controle para outro.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Ação</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>Fechar</translation>
     </message>
 </context>
 <context>
@@ -2713,6 +2811,22 @@ Tente um país, uma cidade ou um código como “de”.</translation>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>Uma atualização obrigatória do Tovra precisa ser instalada antes de conectar.</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>O serviço Tovra não está disponível</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>O serviço Tovra não respondeu</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>É preciso instalar uma atualização obrigatória do Tovra antes de conectar</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>Outra solicitação de conexão substituiu esta</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3758,6 +3872,88 @@ Versão disponível: %2</translation>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>Não foi possível concluir a ação da conta</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>Mostrar a página VPN</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>Mostrar a página Localizações</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>Mostrar a página Modo</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>Mostrar a página Configurações</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>Mostrar a página Conta</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>Pesquisar: o campo de conexão rápida na página VPN, a lista na página Localizações</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Atualizar localizações</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>Fechar a janela; o Tovra continua na bandeja</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>Sair do Tovra</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>Fechar uma lista, um menu ou uma caixa de diálogo</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>Mostrar estes atalhos de teclado</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>Oturum açılışında başlatma ayarı güncellenemedi</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>Göster…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>Klavye kısayollarını göster</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Klavye kısayolları</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>Bu pencerede çalışan tüm tuşlar.</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: “%1” ile eşleşen konum yok</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra başka bir bağlantı veya girişle meşgul; bittiğinde yeniden deneyin</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: bağlanmadan önce Tovra&apos;ya giriş yapın</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: planınız “%1” konumunu içermiyor</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: istek başarısız oldu</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: şunlardan yalnızca birini verin: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>Tovra başlatılamadı</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra başlamadı</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>çalışan Tovra daha eski bir sürüm: öne geldi ama isteği yerine getirmedi; kapatıp yeniden deneyin</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>çalışan Tovra yanıt vermedi</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>Tovra oturum açılışında başlatılanlardan kaldırılamadı.</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>Klavye Kısayolları</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>Klavye kısayolları</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>Bu tuşlar Tovra penceresinin her yerinde çalışır. Tab denetimler arasında gezinir.</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tuşlar</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>Eylem</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>Kapat</translation>
     </message>
 </context>
 <context>
@@ -2712,6 +2810,22 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>Bağlanmadan önce zorunlu bir Tovra güncellemesi yüklenmelidir.</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>Tovra hizmeti kullanılamıyor</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>Tovra hizmeti yanıt vermedi</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>Bağlanmadan önce gerekli bir Tovra güncellemesi yüklenmelidir</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>Başka bir bağlantı isteği bunun yerini aldı</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3757,6 +3871,88 @@ Yeni sürüm: %2</translation>
     <message>
         <source>Could not open log directory: %1</source>
         <translation>Günlük klasörü açılamadı: %1</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>VPN sayfasını göster</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>Konumlar sayfasını göster</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>Mod sayfasını göster</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>Ayarlar sayfasını göster</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>Hesap sayfasını göster</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>Ara: VPN sayfasında hızlı bağlantı alanı, Konumlar sayfasında liste</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>Konumları yenile</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>Pencereyi kapat; Tovra sistem tepsisinde kalır</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>Tovra&apos;dan çık</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>Listeyi, menüyü veya iletişim kutusunu kapat</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>Bu klavye kısayollarını göster</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>无法更新登录时启动设置</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>显示…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>显示键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>此窗口中可用的所有按键。</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: 没有与“%1”匹配的节点</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra 正忙于另一个连接或登录；请在其完成后重试</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: 连接前请先登录 Tovra</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: 您的套餐不包含“%1”</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: 请求失败</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: 只能指定以下其中一项：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>无法启动 Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra 未能启动</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>正在运行的 Tovra 是旧版本：它已切换到前台，但没有执行该请求；请退出后重试</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>正在运行的 Tovra 没有响应</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>无法将 Tovra 从登录启动项中移除。</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>键盘快捷键</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>这些按键在 Tovra 窗口的任何位置都可用。Tab 键在控件之间移动。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按键</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>操作</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -2712,6 +2810,22 @@ Try a country, a city or a code such as “de”.</source>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>连接前必须安装必需的 Tovra 更新。</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>Tovra 服务不可用</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>Tovra 服务没有响应</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>连接前必须安装一个必需的 Tovra 更新</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>另一个连接请求取代了此请求</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3757,6 +3871,88 @@ Available version: %2</source>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>无法完成账户操作</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>显示 VPN 页面</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>显示“节点”页面</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>显示“模式”页面</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>显示“设置”页面</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>显示“账户”页面</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>搜索：VPN 页面的快速连接框，“节点”页面的列表</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>刷新节点</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>关闭窗口；Tovra 仍留在托盘中</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>退出 Tovra</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>关闭列表、菜单或对话框</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>显示这些键盘快捷键</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 </TS>

@@ -162,6 +162,23 @@
         <source>Could not update login startup</source>
         <translation>無法更新登入時啟動設定</translation>
     </message>
+    <message>
+        <source>Show…</source>
+        <extracomment>Button that opens the list of keyboard shortcuts</extracomment>
+        <translation>顯示…</translation>
+    </message>
+    <message>
+        <source>Show keyboard shortcuts</source>
+        <translation>顯示鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>Every key that works in this window.</source>
+        <translation>此視窗中可用的所有按鍵。</translation>
+    </message>
 </context>
 <context>
     <name>CatalogTreeModel</name>
@@ -1279,6 +1296,59 @@
     </message>
 </context>
 <context>
+    <name>DesktopAnswer</name>
+    <message>
+        <source>tovra: no location matches “%1”</source>
+        <translation>tovra: 沒有符合「%1」的節點</translation>
+    </message>
+    <message>
+        <source>tovra: Tovra is busy with another connection or sign-in; try again when it has finished</source>
+        <translation>tovra: Tovra 正忙於另一個連線或登入；請在完成後再試一次</translation>
+    </message>
+    <message>
+        <source>tovra: sign in to Tovra before connecting</source>
+        <translation>tovra: 連線前請先登入 Tovra</translation>
+    </message>
+    <message>
+        <source>tovra: your plan does not include “%1”</source>
+        <translation>tovra: 您的方案不包含「%1」</translation>
+    </message>
+    <message>
+        <source>tovra: the request failed</source>
+        <translation>tovra: 要求失敗</translation>
+    </message>
+    <message>
+        <source>tovra: %1</source>
+        <translation>tovra: %1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandLine</name>
+    <message>
+        <source>tovra: give only one of %1</source>
+        <translation>tovra: 只能指定下列其中一項：%1</translation>
+    </message>
+</context>
+<context>
+    <name>DesktopCommandSender</name>
+    <message>
+        <source>could not start Tovra</source>
+        <translation>無法啟動 Tovra</translation>
+    </message>
+    <message>
+        <source>Tovra did not start</source>
+        <translation>Tovra 未能啟動</translation>
+    </message>
+    <message>
+        <source>the running Tovra is an older version: it came to the front but did not act on the request; quit it and try again</source>
+        <translation>正在執行的 Tovra 是舊版本：它已切換到前景，但沒有執行該要求；請結束後再試一次</translation>
+    </message>
+    <message>
+        <source>the running Tovra did not answer</source>
+        <translation>正在執行的 Tovra 沒有回應</translation>
+    </message>
+</context>
+<context>
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
@@ -1431,6 +1501,34 @@
     <message>
         <source>Could not remove Tovra from login startup.</source>
         <translation>無法將 Tovra 從登入啟動項目中移除。</translation>
+    </message>
+</context>
+<context>
+    <name>KeyboardShortcutsDialog</name>
+    <message>
+        <source>Keyboard Shortcuts</source>
+        <translation>鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>Keyboard shortcuts</source>
+        <translation>鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>These keys work anywhere in the Tovra window. Tab moves between controls.</source>
+        <translation>這些按鍵在 Tovra 視窗的任何位置都能使用。Tab 鍵可在控制項之間移動。</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>按鍵</translation>
+    </message>
+    <message>
+        <source>Action</source>
+        <translation>動作</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <extracomment>Button that closes the keyboard shortcuts list</extracomment>
+        <translation>關閉</translation>
     </message>
 </context>
 <context>
@@ -2712,6 +2810,22 @@ Try a country, a city or a code such as “de”.</source>
         <source>A required Tovra update must be installed before connecting.</source>
         <translation>連線前必須安裝必要的 Tovra 更新。</translation>
     </message>
+    <message>
+        <source>The Tovra service is not available</source>
+        <translation>Tovra 服務無法使用</translation>
+    </message>
+    <message>
+        <source>The Tovra service did not answer</source>
+        <translation>Tovra 服務沒有回應</translation>
+    </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting</source>
+        <translation>連線前必須安裝一個必要的 Tovra 更新</translation>
+    </message>
+    <message>
+        <source>Another connection request replaced this one</source>
+        <translation>另一個連線要求取代了此要求</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
@@ -3757,6 +3871,88 @@ Available version: %2</source>
         <source>Account operation failed</source>
         <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
         <translation>無法完成帳號操作</translation>
+    </message>
+</context>
+<context>
+    <name>WindowShortcuts</name>
+    <message>
+        <source>Ctrl+1</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+1</translation>
+    </message>
+    <message>
+        <source>Show the VPN page</source>
+        <translation>顯示 VPN 頁面</translation>
+    </message>
+    <message>
+        <source>Ctrl+2</source>
+        <translation>Ctrl+2</translation>
+    </message>
+    <message>
+        <source>Show the Locations page</source>
+        <translation>顯示「節點」頁面</translation>
+    </message>
+    <message>
+        <source>Ctrl+3</source>
+        <translation>Ctrl+3</translation>
+    </message>
+    <message>
+        <source>Show the Mode page</source>
+        <translation>顯示「模式」頁面</translation>
+    </message>
+    <message>
+        <source>Ctrl+4</source>
+        <translation>Ctrl+4</translation>
+    </message>
+    <message>
+        <source>Show the Settings page</source>
+        <translation>顯示「設定」頁面</translation>
+    </message>
+    <message>
+        <source>Ctrl+5</source>
+        <translation>Ctrl+5</translation>
+    </message>
+    <message>
+        <source>Show the Account page</source>
+        <translation>顯示「帳號」頁面</translation>
+    </message>
+    <message>
+        <source>Search: the quick connect field on the VPN page, the list on the Locations page</source>
+        <translation>搜尋：VPN 頁面的快速連線欄位、「節點」頁面的清單</translation>
+    </message>
+    <message>
+        <source>Ctrl+R</source>
+        <extracomment>Keyboard shortcut, in Qt&apos;s key names: keep it unless the key is awkward to reach</extracomment>
+        <translation>Ctrl+R</translation>
+    </message>
+    <message>
+        <source>Refresh locations</source>
+        <translation>重新整理節點</translation>
+    </message>
+    <message>
+        <source>Close the window; Tovra stays in the tray</source>
+        <translation>關閉視窗；Tovra 仍留在系統匣中</translation>
+    </message>
+    <message>
+        <source>Ctrl+Q</source>
+        <translation>Ctrl+Q</translation>
+    </message>
+    <message>
+        <source>Quit Tovra</source>
+        <translation>結束 Tovra</translation>
+    </message>
+    <message>
+        <source>Close a list, menu or dialog</source>
+        <translation>關閉清單、選單或對話框</translation>
+    </message>
+    <message>
+        <source>Show these keyboard shortcuts</source>
+        <translation>顯示這些鍵盤快速鍵</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <extracomment>A control&apos;s tool tip: what it does, then its keyboard shortcut</extracomment>
+        <translation>%1（%2）</translation>
     </message>
 </context>
 </TS>

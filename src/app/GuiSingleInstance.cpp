@@ -1,12 +1,14 @@
 #include "GuiSingleInstance.h"
 
 #include "AppId.h"
+#include "SingleInstanceClient.h"
 
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QLocalServer>
 #include <QLocalSocket>
+#include <QMetaMethod>
 #include <QStandardPaths>
 #include <QThread>
 
@@ -119,19 +121,49 @@ bool GuiSingleInstance::tryListen(QString *errorOut)
 
 bool GuiSingleInstance::sendActivate(int timeoutMs)
 {
+    return sendRequest(m_outgoing, timeoutMs, timeoutMs) != Delivery::NotReached;
+}
+
+GuiSingleInstance::Delivery GuiSingleInstance::sendRequest(const DesktopRequest &request,
+                                                           int connectTimeoutMs,
+                                                           int answerTimeoutMs,
+                                                           DesktopAnswer *answerOut)
+{
     QLocalSocket socket;
     socket.connectToServer(m_serverName, QIODevice::ReadWrite);
-    if (!socket.waitForConnected(timeoutMs))
-        return false;
+    if (!socket.waitForConnected(connectTimeoutMs))
+        return Delivery::NotReached;
     // Never wake, or tell anything to, a process of another user that squats on the name.
     if (peerUid(socket) != qint64(::getuid())) {
         socket.abort();
-        return false;
+        return Delivery::NotReached;
     }
-    socket.write("activate\n", 9);
-    socket.waitForBytesWritten(timeoutMs);
-    socket.disconnectFromServer();
-    return true;
+    socket.write(request.encode() + '\n');
+    socket.waitForBytesWritten(connectTimeoutMs);
+    // Nothing is on screen in a launch that hands over, so it may block while it waits.
+    QElapsedTimer waited;
+    waited.start();
+    QByteArray line;
+    while (!line.endsWith('\n') && line.size() < DesktopRequest::kMaxLineBytes) {
+        if (socket.bytesAvailable() > 0) {
+            line += socket.readLine(DesktopRequest::kMaxLineBytes);
+            continue;
+        }
+        if (socket.state() != QLocalSocket::ConnectedState)
+            break;
+        const qint64 left = answerTimeoutMs - waited.elapsed();
+        if (left <= 0 || !socket.waitForReadyRead(int(left)))
+            break;
+    }
+    const bool hungUp = socket.state() != QLocalSocket::ConnectedState;
+    socket.abort();
+    DesktopAnswer answer;
+    if (line.endsWith('\n') && DesktopAnswer::parse(line, &answer)) {
+        if (answerOut)
+            *answerOut = answer;
+        return Delivery::Answered;
+    }
+    return hungUp ? Delivery::HungUp : Delivery::NoAnswer;
 }
 
 SingleInstanceResult GuiSingleInstance::acquire(QString *errorOut)
@@ -185,10 +217,42 @@ void GuiSingleInstance::handleNewConnection()
             connection->deleteLater();
             continue;
         }
-        // Any connection is a request to show the window; the message is not checked.
-        connection->readAll();
-        connection->disconnectFromServer();
-        connection->deleteLater();
-        Q_EMIT activateRequested();
+        // The line is read as it comes; the event loop goes on meanwhile.
+        auto *client = new SingleInstanceClient(connection, this);
+        connect(client, &SingleInstanceClient::requestRead, this,
+                [this, client](const DesktopRequest &request) { handleRequest(request, client); });
     }
+}
+
+void GuiSingleInstance::handleRequest(const DesktopRequest &request, SingleInstanceClient *client)
+{
+    const bool forShell =
+        !request.isActivation() &&
+        isSignalConnected(QMetaMethod::fromSignal(&GuiSingleInstance::commandRequested));
+    if (forShell) {
+        Q_EMIT commandRequested(request, client);
+        return;
+    }
+    if (!request.isActivation()) {
+        client->answer({DesktopAnswer::Result::Failed, {}});
+        return;
+    }
+    // Only for this one raise: the platform plugin reads the variables when the window is
+    // activated, and a later raise must not reuse a spent token.
+    const struct
+    {
+        const char *name;
+        QString value;
+    } tokens[] = {{"XDG_ACTIVATION_TOKEN", request.activationToken},
+                  {"DESKTOP_STARTUP_ID", request.startupId}};
+    for (const auto &token : tokens) {
+        if (!token.value.isEmpty())
+            qputenv(token.name, token.value.toUtf8());
+    }
+    Q_EMIT activateRequested();
+    for (const auto &token : tokens) {
+        if (!token.value.isEmpty())
+            qunsetenv(token.name);
+    }
+    client->answer({});
 }

@@ -76,28 +76,36 @@ bool ConnectionFlow::handleStatus(quint64 requestId, const RuntimeInfo &info,
     return true;
 }
 
-void ConnectionFlow::connectRuntime()
+bool ConnectionFlow::connectRuntime()
 {
-    start(PlainConnect, QString(), QString());
+    return start(PlainConnect, QString(), QString());
 }
 
-void ConnectionFlow::connectNode(const QString &nodeID, const QString &label)
+bool ConnectionFlow::connectNode(const QString &nodeID, const QString &label)
 {
     const QString id = nodeID.trimmed();
     if (id.isEmpty())
-        return;
+        return false;
     const QString given = label.trimmed();
-    start(NodeConnect, id, given.isEmpty() ? m_context.tray->connectTargetLabel(id) : given);
+    return start(NodeConnect, id, given.isEmpty() ? m_context.tray->connectTargetLabel(id) : given);
 }
 
-void ConnectionFlow::connectSmart(const QString &selector)
+bool ConnectionFlow::connectSmart(const QString &selector, const QString &label)
 {
     const QString target = selector.trimmed();
     if (target.isEmpty())
-        return;
+        return false;
     // A page names the group it connects to ("Germany") before asking; else the selector.
-    const QString announced = m_context.window->announcedTargetLabel(target);
-    start(SmartConnect, target, announced.isEmpty() ? target : announced);
+    const QString announced = label.trimmed().isEmpty()
+                                  ? m_context.window->announcedTargetLabel(target)
+                                  : label.trimmed();
+    return start(SmartConnect, target, announced.isEmpty() ? target : announced);
+}
+
+bool ConnectionFlow::canStart() const
+{
+    return !(m_shellBusy && m_shellBusy()) && !m_connectInProgress && !m_disconnectInProgress &&
+           !m_context.tray->isBusy();
 }
 
 bool ConnectionFlow::start(ConnectKind kind, const QString &target, const QString &label)
@@ -180,20 +188,24 @@ void ConnectionFlow::handleConnectFinished(quint64 requestId, const RuntimeInfo 
     if (!m_context.ledger->accept(RequestLedger::Kind::Connection, requestId))
         return;
     const ConnectKind kind = m_connectKind;
-    finishConnect();
-    if (!errorMessage.isEmpty()) {
-        if (kind == NodeConnect || kind == SmartConnect)
-            m_context.window->showOperationError(
-                failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell",
-                                                            "Could not connect to this location")));
-        else
-            m_context.notifier->error(
-                failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not connect")));
+    Q_EMIT requestAnswered(requestId, errorMessage);
+    if (errorMessage.isEmpty()) {
+        // The new status first: between "connecting" and the daemon's state no view may show
+        // the state from before the connect.
+        m_context.state->setRuntime(info);
+        finishConnect();
+        followTransition(info);
+        Q_EMIT runtimeAnswered(info);
         return;
     }
-    m_context.state->setRuntime(info);
-    followTransition(info);
-    Q_EMIT runtimeAnswered(info);
+    finishConnect();
+    if (kind == NodeConnect || kind == SmartConnect)
+        m_context.window->showOperationError(
+            failureText(errorMessage,
+                        QT_TRANSLATE_NOOP("TovraAppShell", "Could not connect to this location")));
+    else
+        m_context.notifier->error(
+            failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not connect")));
 }
 
 void ConnectionFlow::handleDisconnectFinished(quint64 requestId, const RuntimeInfo &info,
@@ -202,6 +214,7 @@ void ConnectionFlow::handleDisconnectFinished(quint64 requestId, const RuntimeIn
     if (!m_context.ledger->accept(RequestLedger::Kind::Connection, requestId))
         return;
     m_disconnectInProgress = false;
+    Q_EMIT requestAnswered(requestId, errorMessage);
     if (!errorMessage.isEmpty()) {
         m_context.notifier->error(
             failureText(errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not disconnect")));

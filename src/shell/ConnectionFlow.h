@@ -24,11 +24,15 @@ public:
     ConnectionFlow(const ShellContext &context, UpdateFlow *update, std::function<bool()> shellBusy,
                    QObject *parent = nullptr);
 
-    void connectRuntime();
-    void connectNode(const QString &nodeID, const QString &label);
-    void connectSmart(const QString &selector);
+    // Each is false when the connect was refused (busy, or a required update first).
+    bool connectRuntime();
+    bool connectNode(const QString &nodeID, const QString &label);
+    // Without a label, the one the window announced for the selector, else the selector.
+    bool connectSmart(const QString &selector, const QString &label = QString());
     void cancelConnect();
     void disconnectRuntime();
+    // Whether a connect would start now, as far as the shell and the tray are concerned.
+    bool canStart() const;
 
     void handleConnectFinished(quint64 requestId, const RuntimeInfo &info,
                                const QString &errorMessage);
@@ -47,6 +51,8 @@ Q_SIGNALS:
     // A connect or disconnect was accepted by the daemon; the shell refreshes what depends on it.
     void runtimeAnswered(const RuntimeInfo &info);
     void pendingTargetChanged(const QString &nodeID, const QString &label);
+    // The daemon answered the latest connect or disconnect (an empty error: it accepted).
+    void requestAnswered(quint64 requestId, const QString &errorMessage);
 
 private:
     bool start(ConnectKind kind, const QString &target, const QString &label);

@@ -16,10 +16,6 @@ void ShellWiring::connectWorkers(TovraAppShell *shell, const ShellContext &conte
                      &TovraAppShell::handleWindowNodesFinished);
     QObject::connect(control, &ControlWorker::nodeGroupsFinished, shell,
                      &TovraAppShell::handleWindowNodeGroupsFinished);
-    QObject::connect(control, &ControlWorker::connectFinished, shell,
-                     &TovraAppShell::handleWindowConnectFinished);
-    QObject::connect(control, &ControlWorker::disconnectFinished, shell,
-                     &TovraAppShell::handleWindowDisconnectFinished);
     QObject::connect(control, &ControlWorker::modeFinished, shell,
                      &TovraAppShell::handleWindowModeFinished);
     QObject::connect(control, &ControlWorker::versionFinished, shell,
@@ -56,6 +52,15 @@ void ShellWiring::connectWorkers(TovraAppShell *shell, const ShellContext &conte
                      &TovraAppShell::handleWindowUpdateFinished);
     QObject::connect(context.workers->download(), &ControlWorker::updateDownloadFinished, shell,
                      &TovraAppShell::handleGUIUpdateDownloadFinished);
+}
+
+void ShellWiring::connectConnectionAnswers(TovraAppShell *shell, const ShellContext &context)
+{
+    ControlWorker *control = context.workers->control();
+    QObject::connect(control, &ControlWorker::connectFinished, shell,
+                     &TovraAppShell::handleWindowConnectFinished);
+    QObject::connect(control, &ControlWorker::disconnectFinished, shell,
+                     &TovraAppShell::handleWindowDisconnectFinished);
 }
 
 void ShellWiring::connectTray(TovraAppShell *shell, const ShellContext &context)

@@ -11,6 +11,8 @@ class ShellWiring
 {
 public:
     static void connectWorkers(TovraAppShell *shell, const ShellContext &context);
+    // Connect and disconnect answers: before the tray connects its own (see the shell).
+    static void connectConnectionAnswers(TovraAppShell *shell, const ShellContext &context);
     static void connectTray(TovraAppShell *shell, const ShellContext &context);
     static void connectWindow(TovraAppShell *shell, const ShellContext &context,
                               SettingsFlow *settings);

@@ -6,6 +6,7 @@
 #include "CompatibilityFlow.h"
 #include "ConnectionFlow.h"
 #include "ControlWorker.h"
+#include "DesktopCommandFlow.h"
 #include "GuiPreferences.h"
 #include "LanguageFlow.h"
 #include "RecentLocationRecorder.h"
@@ -38,6 +39,9 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     m_ownsPreferences = preferences == nullptr;
     m_context.preferences = preferences ? preferences : new GuiPreferences(this);
     m_context.ledger = new RequestLedger;
+    // Wired before the tray exists, so that the shell stores a connect's new status before the
+    // tray ends its own "connecting" and redraws: slots run in the order they were connected.
+    ShellWiring::connectConnectionAnswers(this, m_context);
     m_context.tray = new TovraTrayApp(m_context.state, m_context.workers->control(),
                                       m_context.preferences, this);
     m_context.window = new WindowController(m_context.state, m_context.preferences, this);
@@ -52,6 +56,7 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     m_account = new AccountFlow(m_context, this);
     m_language = new LanguageFlow(m_context, this);
     m_compatibility = new CompatibilityFlow(m_context, this);
+    m_commands = new DesktopCommandFlow(m_context, m_connection, m_compatibility, m_catalog, this);
     new RecentLocationRecorder(m_context.state, m_context.preferences, this);
 
     ShellWiring::connectWorkers(this, m_context);
@@ -122,6 +127,12 @@ void TovraAppShell::start()
     if (!trayAvailable || showOnLaunch)
         m_context.window->showOrRaise();
     m_update->scheduleAtStart(kFirstUpdateCheckDelayMs);
+}
+
+void TovraAppShell::runDesktopCommand(const DesktopRequest &request,
+                                      std::function<void(const DesktopAnswer &)> reply)
+{
+    m_commands->run(request, std::move(reply));
 }
 
 bool TovraAppShell::busy() const

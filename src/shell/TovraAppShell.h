@@ -4,16 +4,21 @@
 #include "ShellContext.h"
 
 #include "ControlEndpoints.h"
+#include "DesktopAnswer.h"
+#include "DesktopRequest.h"
 
 #include <QObject>
 #include <QPointer>
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
 class AccountFlow;
 class AppState;
 class CatalogFlow;
 class ConnectionFlow;
+class DesktopCommandFlow;
 class GuiPreferences;
 class LanguageFlow;
 class RequestLedger;
@@ -51,6 +56,9 @@ public:
     // Overrides the desktop tray probe, for running without a tray host.
     void setSystemTrayAvailable(bool available);
     void start();
+    // A command from the desktop (the command line of a later launch, or of this one).
+    void runDesktopCommand(const DesktopRequest &request,
+                           std::function<void(const DesktopAnswer &)> reply);
     // Stops the workers and waits for their threads; safe to call more than once.
     void shutdown();
 
@@ -67,6 +75,7 @@ public:
     LanguageFlow *languageFlow() const { return m_language; }
     UpdateFlow *updateFlow() const { return m_update; }
     SettingsFlow *settingsFlow() const { return m_settings; }
+    DesktopCommandFlow *desktopCommandFlow() const { return m_commands; }
 
 Q_SIGNALS:
     void restartRequested();
@@ -169,6 +178,7 @@ private:
     LanguageFlow *m_language = nullptr;
     UpdateFlow *m_update = nullptr;
     CompatibilityFlow *m_compatibility = nullptr;
+    DesktopCommandFlow *m_commands = nullptr;
     bool m_launchedByAutostart = false;
     int m_trayAvailable = -1; // -1: ask the desktop
     bool m_shutDown = false;

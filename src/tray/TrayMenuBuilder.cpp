@@ -6,6 +6,7 @@
 #include <QActionGroup>
 #include <QCoreApplication>
 #include <QFont>
+#include <QKeySequence>
 #include <QMenu>
 
 #include <atomic>
@@ -189,5 +190,7 @@ TrayMenu TrayMenuBuilder::build()
 
     menu->addSeparator();
     m.quit = menu->addAction(TrayMenuText::tr("Quit"));
+    // The menu shows the key; pressed while the menu is open it quits as in the window.
+    m.quit->setShortcut(QKeySequence(Qt::CTRL | Qt::Key_Q));
     return m;
 }

@@ -33,8 +33,7 @@ public:
     // paintRowBackground); a list leaves them to the delegate.
     void setPaintsRowBackground(bool paints) { m_paintsRowBackground = paints; }
     void paintRowBackground(QPainter *painter, const QRect &row, bool selected, bool hovered,
-                            bool focused,
-                            const QPalette &palette) const;
+                            bool focused, const QPalette &palette) const;
 
     // Geometry of one row, mirrored for right-to-left.
     RowLayout rowLayout(const QStyleOptionViewItem &option, const QModelIndex &index) const;

@@ -5,6 +5,7 @@
 #include "GuiMemLog.h"
 #include "GuiPreferences.h"
 #include "GuiTextLog.h"
+#include "KeyboardShortcutsDialog.h"
 #include "LayoutAlignedLabels.h"
 #include "LocationsPage.h"
 #include "ModePage.h"
@@ -60,6 +61,8 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     addAction(closeAction);
     // Through close(), so the key behaves exactly like the title bar's close button.
     connect(closeAction, &QAction::triggered, this, &QWidget::close);
+    connect(new WindowShortcuts(this), &WindowShortcuts::triggered, this,
+            &MainWindow::handleShortcut);
 
     auto *root = new QWidget(this);
     root->setObjectName(QStringLiteral("TovraWindowRoot"));
@@ -164,6 +167,52 @@ void MainWindow::showPage(int index)
     default:
         return;
     }
+}
+
+void MainWindow::handleShortcut(WindowShortcuts::Id id)
+{
+    using Id = WindowShortcuts::Id;
+    if (const int page = WindowShortcuts::pageOf(id); page >= 0) {
+        showPage(page);
+        return;
+    }
+    switch (id) {
+    case Id::Find:
+        // Pages without a search of their own leave the key alone.
+        if (currentPage() == VpnPageIndex)
+            m_pages->vpn()->focusSearch();
+        else if (currentPage() == LocationsPageIndex)
+            m_pages->locations()->focusSearch();
+        return;
+    case Id::RefreshLocations:
+        // Like the page's refresh button, which waits out its cooldown.
+        if (m_state && m_state->nodesRefreshCooldown() == 0)
+            Q_EMIT refreshLocationsRequested();
+        return;
+    case Id::Quit:
+        // exit(), not quit(): a window that hides to the tray would refuse quit()'s close.
+        QMetaObject::invokeMethod(
+            qApp, [] { QCoreApplication::exit(0); }, Qt::QueuedConnection);
+        return;
+    case Id::ShowShortcuts:
+        showKeyboardShortcuts();
+        return;
+    default:
+        return;
+    }
+}
+
+void MainWindow::showKeyboardShortcuts()
+{
+    if (!m_shortcutsDialog) {
+        m_shortcutsDialog = new KeyboardShortcutsDialog(this);
+        m_shortcutsDialog->setAttribute(Qt::WA_DeleteOnClose);
+        ThemeEngine::applyToWindow(m_shortcutsDialog,
+                                   ThemeEngine::buildColors(effectiveAppearance()));
+    }
+    m_shortcutsDialog->show();
+    m_shortcutsDialog->raise();
+    m_shortcutsDialog->activateWindow();
 }
 
 void MainWindow::setHideOnClose(bool hide)
@@ -331,6 +380,8 @@ void MainWindow::applyTheme()
     ThemeEngine::applyPaletteRecursively(this, ThemeEngine::buildPalette(colors));
     setStyleSheet(ThemeEngine::renderStyleSheet(colors, layoutDirection()));
     applyPageColors(colors);
+    if (m_shortcutsDialog)
+        ThemeEngine::applyToWindow(m_shortcutsDialog, colors);
 }
 
 void MainWindow::applyPageColors(const ThemeColors &colors)

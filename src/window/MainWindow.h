@@ -1,8 +1,10 @@
 #pragma once
 
+#include "KeyboardShortcutsDialog.h"
 #include "ModeInfo.h"
 #include "RepairResultInfo.h"
 #include "ThemeColors.h"
+#include "WindowShortcuts.h"
 
 #include <QMainWindow>
 #include <QPointer>
@@ -79,6 +81,9 @@ public:
 
     int currentPage() const;
     bool hasUnifiedTitleBar() const { return m_unifiedTitleBar; }
+    // The list of keyboard shortcuts (F1): opened, or brought forward when open.
+    void showKeyboardShortcuts();
+    KeyboardShortcutsDialog *keyboardShortcutsDialog() const { return m_shortcutsDialog; }
 
 public Q_SLOTS:
     void refreshFromState();
@@ -140,6 +145,7 @@ private:
     bool inUnifiedTitleBar(const QMouseEvent *event) const;
     void placeNotificationHost();
     void showError(const QString &message, const QString &fallback);
+    void handleShortcut(WindowShortcuts::Id id);
 
     QPointer<AppState> m_state;
     GuiPreferences *m_preferences;
@@ -152,6 +158,7 @@ private:
     PageStack *m_stack = nullptr;
     WindowPages *m_pages = nullptr;
     NotificationHost *m_notifications = nullptr;
+    QPointer<KeyboardShortcutsDialog> m_shortcutsDialog;
 
     bool m_hideOnClose = true;
     bool m_deleteOnClose = false;

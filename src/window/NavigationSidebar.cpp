@@ -3,6 +3,7 @@
 #include "AccessibleControl.h"
 #include "IconTinter.h"
 #include "ThemeColors.h"
+#include "WindowShortcuts.h"
 
 #include <QButtonGroup>
 #include <QEvent>
@@ -58,6 +59,7 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
         button->setObjectName(QString::fromLatin1(entry.objectName));
         button->setText(entry.text);
         button->setAccessibleName(entry.text);
+        button->setToolTip(WindowShortcuts::toolTip(entry.text, WindowShortcuts::Id(index)));
         button->setCheckable(true);
         button->setAutoRaise(false);
         button->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);

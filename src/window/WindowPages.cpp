@@ -83,6 +83,8 @@ void WindowPages::wirePage(int index, QWidget *built)
         m_settings->applyTheme(colors);
         m_settings->setBusy(m_settingsBusy->isShown());
         PageSignals::forward(m_settings, m_window);
+        connect(m_settings, &SettingsPage::keyboardShortcutsRequested, m_window,
+                &MainWindow::showKeyboardShortcuts);
         break;
     case MainWindow::AccountPageIndex:
         m_account = static_cast<AccountPage *>(built);

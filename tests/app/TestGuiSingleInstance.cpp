@@ -1,5 +1,8 @@
 #include "GuiSingleInstance.h"
 
+#include "DesktopCommandSender.h"
+#include "SingleInstanceClient.h"
+
 #include <QDir>
 #include <QFileInfo>
 #include <QLocalSocket>
@@ -8,6 +11,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QUuid>
 
 #include <memory>
@@ -39,9 +43,19 @@ bool waitForReady(QProcess &process)
 }
 
 // A second launch on the name; returns its exit code, which is its SingleInstanceResult.
-int launchSecond(const QString &name)
+int launchSecond(const QString &name, const QString &token = QString())
 {
-    auto second = startHelper(u"acquire"_s, name);
+    auto second = std::make_unique<QProcess>();
+    second->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.remove(u"XDG_ACTIVATION_TOKEN"_s);
+    environment.remove(u"DESKTOP_STARTUP_ID"_s);
+    if (!token.isEmpty()) {
+        environment.insert(u"XDG_ACTIVATION_TOKEN"_s, token);
+        environment.insert(u"DESKTOP_STARTUP_ID"_s, token + u"_TIME1"_s);
+    }
+    second->setProcessEnvironment(environment);
+    second->start(QStringLiteral(APP_TEST_HELPER), {u"acquire"_s, name});
     if (!second->waitForFinished(10000) || second->exitStatus() != QProcess::NormalExit)
         return -1;
     return second->exitCode();
@@ -118,6 +132,10 @@ private Q_SLOTS:
         QVERIFY2(error.contains(u"belongs to uid 65534"_s), qPrintable(error));
         QVERIFY(!instance.isListening());
         QVERIFY(QFileInfo::exists(name));
+        // A desktop action neither talks to it nor starts a client in its place.
+        const DesktopAnswer answer = DesktopCommandSender(name, u"/nonexistent/tovra"_s).send({});
+        QCOMPARE(answer.result, DesktopAnswer::Result::Failed);
+        QVERIFY2(answer.detail.contains(u"belongs to uid 65534"_s), qPrintable(answer.detail));
 
         squatter.write("quit\n");
         QVERIFY(squatter.waitForFinished());
@@ -127,37 +145,72 @@ private Q_SLOTS:
     void secondLaunchActivatesPrimary_data()
     {
         QTest::addColumn<int>("launches");
-        QTest::addRow("one") << 1;
-        QTest::addRow("three") << 3;
+        QTest::addColumn<QString>("token"); // the launch's XDG_ACTIVATION_TOKEN
+        QTest::addRow("one") << 1 << QString();
+        QTest::addRow("three") << 3 << QString();
+        QTest::addRow("with an activation token") << 1 << u"tok en=%1"_s;
     }
 
     void secondLaunchActivatesPrimary()
     {
         QFETCH(int, launches);
+        QFETCH(QString, token);
         GuiSingleInstance primary(uniqueName());
         QCOMPARE(primary.acquire(), SingleInstanceResult::Primary);
         QSignalSpy activated(&primary, &GuiSingleInstance::activateRequested);
+        // The tokens are in the environment while the window is raised, and only then.
+        QStringList seen;
+        connect(&primary, &GuiSingleInstance::activateRequested, this, [&seen] {
+            seen << qEnvironmentVariable("XDG_ACTIVATION_TOKEN")
+                 << qEnvironmentVariable("DESKTOP_STARTUP_ID");
+        });
         for (int i = 0; i < launches; ++i)
-            QCOMPARE(launchSecond(primary.serverName()),
+            QCOMPARE(launchSecond(primary.serverName(), token),
                      int(SingleInstanceResult::ActivatedExisting));
         QTRY_COMPARE(activated.count(), launches);
         QVERIFY(primary.isListening());
+        QCOMPARE(seen.first(), token);
+        QCOMPARE(seen.at(1), token.isEmpty() ? QString() : token + u"_TIME1"_s);
+        QVERIFY(!qEnvironmentVariableIsSet("XDG_ACTIVATION_TOKEN"));
+        QVERIFY(!qEnvironmentVariableIsSet("DESKTOP_STARTUP_ID"));
     }
 
-    void anyConnectionActivates_data()
+    void requestLines_data()
     {
         QTest::addColumn<QByteArray>("message");
-        QTest::addRow("activate") << QByteArray("activate\n");
-        QTest::addRow("nothing") << QByteArray();
-        QTest::addRow("other text") << QByteArray("show me the window please\n");
+        QTest::addColumn<bool>("leaveAtOnce"); // a launch from before answers: write, hang up
+        QTest::addColumn<bool>("activates");
+        QTest::addColumn<QByteArray>("answer"); // what a staying launch reads back
+        QTest::addRow("activate") << QByteArray("activate\n") << false << true << QByteArray("ok");
+        QTest::addRow("old launch") << QByteArray("activate\n") << true << true << QByteArray();
+        QTest::addRow("nothing, then gone") << QByteArray() << true << true << QByteArray();
+        QTest::addRow("nothing, time-out") << QByteArray() << false << true << QByteArray("ok");
+        QTest::addRow("other text")
+            << QByteArray("show me the window please\n") << false << true << QByteArray("ok");
+        QTest::addRow("too long") << QByteArray(5000, 'x') << false << true << QByteArray("ok");
+        QTest::addRow("show") << QByteArray("show xdg-activation-token=abc\n") << false << true
+                              << QByteArray("ok");
+        QTest::addRow("command for the shell")
+            << QByteArray("connect location=New%20York\n") << false << false
+            << QByteArray("unknown-location detail=New%20York");
     }
 
-    void anyConnectionActivates()
+    void requestLines()
     {
         QFETCH(QByteArray, message);
+        QFETCH(bool, leaveAtOnce);
+        QFETCH(bool, activates);
+        QFETCH(QByteArray, answer);
         GuiSingleInstance primary(uniqueName());
         QVERIFY(primary.tryListen());
         QSignalSpy activated(&primary, &GuiSingleInstance::activateRequested);
+        // The shell answers later, from the event loop, as a connect's answer comes.
+        connect(&primary, &GuiSingleInstance::commandRequested, this,
+                [](const DesktopRequest &request, SingleInstanceClient *client) {
+                    QTimer::singleShot(0, client, [client, request] {
+                        client->answer({DesktopAnswer::Result::UnknownLocation, request.location});
+                    });
+                });
         QLocalSocket client;
         client.connectToServer(primary.serverName());
         QVERIFY(client.waitForConnected(2000));
@@ -165,10 +218,32 @@ private Q_SLOTS:
             client.write(message);
             QVERIFY(client.waitForBytesWritten(2000));
         }
-        QVERIFY(activated.wait(5000));
-        // The primary hangs up on its own once it has taken the request.
-        QTRY_COMPARE(client.state(), QLocalSocket::UnconnectedState);
-        QCOMPARE(activated.count(), 1);
+        if (leaveAtOnce)
+            client.disconnectFromServer();
+        // The primary hangs up on its own once it has answered.
+        QTRY_COMPARE_WITH_TIMEOUT(client.state(), QLocalSocket::UnconnectedState, 5000);
+        QCOMPARE(client.readAll().trimmed(), answer);
+        QTRY_COMPARE(activated.count(), activates ? 1 : 0);
+    }
+
+    void launchMeetsOlderPrimary()
+    {
+        // A running client from before answers reads what comes and hangs up.
+        const QString name = uniqueName();
+        auto old = startHelper(u"old"_s, name);
+        QVERIFY(waitForReady(*old));
+        GuiSingleInstance launch(name);
+        QCOMPARE(launch.acquire(), SingleInstanceResult::ActivatedExisting);
+        DesktopRequest connectRequest;
+        connectRequest.command = DesktopRequest::Command::Connect;
+        const DesktopAnswer answer =
+            DesktopCommandSender(name, u"/nonexistent/tovra"_s).send(connectRequest);
+        QCOMPARE(answer.exitCode(), 1);
+        QVERIFY2(answer.detail.contains(u"older version"_s), qPrintable(answer.detail));
+        QByteArray said;
+        QTRY_COMPARE((said += old->readAllStandardOutput()).count("activated"), 2);
+        old->kill();
+        QVERIFY(old->waitForFinished());
     }
 
     void staleSocketIsRecovered_data()

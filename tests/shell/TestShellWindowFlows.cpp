@@ -8,6 +8,7 @@
 #include "MainWindow.h"
 #include "NotificationHost.h"
 #include "ShellWorkers.h"
+#include "StderrCapture.h"
 #include "TempXdgDirs.h"
 #include "TovraAppShell.h"
 #include "TovraTrayApp.h"
@@ -74,6 +75,24 @@ class TestShellWindowFlows : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void connectNeverShowsTheStateBefore()
+    {
+        // What the window and the tray show, as the text log writes it (on for this test).
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start({QStringLiteral("--connect-ms"), QStringLiteral("300")}, true),
+                 qPrintable(run.daemon.errorString()));
+        StderrCapture capture;
+        run.shell->connectNode(QStringLiteral("1001"), QString());
+        QTRY_COMPARE(run.shell->state()->runtime().tunnelState, QStringLiteral("connected"));
+        const QStringList lines = capture.stop().split(u'\n');
+        const auto connecting = std::find_if(lines.begin(), lines.end(), [](const QString &line) {
+            return line.startsWith(QLatin1String("tovra.text: window.status: Connecting"));
+        });
+        QVERIFY(connecting != lines.end());
+        for (auto line = connecting; line != lines.end(); ++line)
+            QVERIFY2(!line->contains(QLatin1String("isconnected")), qPrintable(*line));
+    }
     void signInThroughTheWindow_data()
     {
         QTest::addColumn<QString>("password");

@@ -1,6 +1,7 @@
 #include "AppState.h"
 #include "ControlMetaTypes.h"
 #include "GuiPreferences.h"
+#include "KeyboardShortcutsDialog.h"
 #include "MainWindow.h"
 #include "ModePage.h"
 #include "NavigationSidebar.h"
@@ -19,6 +20,7 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
+#include <QTreeWidget>
 
 #include <array>
 
@@ -77,6 +79,8 @@ private Q_SLOTS:
     void appearance();
     void pageIntentsReachWindow_data();
     void pageIntentsReachWindow();
+    void shortcuts_data();
+    void shortcuts();
     void close_data();
     void close();
 };
@@ -358,6 +362,87 @@ void TestMainWindow::close()
     // It comes back as it was.
     f.window->show();
     QCOMPARE(f.window->currentPage(), startPage);
+}
+
+void TestMainWindow::shortcuts_data()
+{
+    QTest::addColumn<QKeySequence>("keys");
+    QTest::addColumn<int>("startPage");
+    QTest::addColumn<int>("cooldown");
+    QTest::addColumn<int>("page");      // shown afterwards
+    QTest::addColumn<QString>("focus"); // object name of the focused widget, or empty
+    QTest::addColumn<int>("refreshes"); // refreshLocationsRequested
+    QTest::addColumn<bool>("shortcutsShown");
+    QTest::addColumn<bool>("quits");
+    QTest::addColumn<bool>("hidden");
+    const QKeySequence ctrl2(Qt::CTRL | Qt::Key_2), ctrl5(Qt::CTRL | Qt::Key_5),
+        ctrl1(Qt::CTRL | Qt::Key_1), find(QKeySequence::Find), ctrlR(Qt::CTRL | Qt::Key_R);
+    QTest::addRow("Ctrl+2: Locations")
+        << ctrl2 << 0 << 0 << 1 << "" << 0 << false << false << false;
+    QTest::addRow("Ctrl+5: Account") << ctrl5 << 0 << 0 << 4 << "" << 0 << false << false << false;
+    QTest::addRow("Ctrl+1: VPN") << ctrl1 << 3 << 0 << 0 << "" << 0 << false << false << false;
+    QTest::addRow("find on VPN") << find << 0 << 0 << 0 << "TovraVPNSearch" << 0 << false << false
+                                 << false;
+    QTest::addRow("find on Locations")
+        << find << 1 << 0 << 1 << "TovraLocationsSearch" << 0 << false << false << false;
+    QTest::addRow("find on Mode: nothing")
+        << find << 2 << 0 << 2 << "" << 0 << false << false << false;
+    QTest::addRow("Ctrl+R") << ctrlR << 2 << 0 << 2 << "" << 1 << false << false << false;
+    QTest::addRow("Ctrl+R in the cooldown")
+        << ctrlR << 1 << 30 << 1 << "" << 0 << false << false << false;
+    QTest::addRow("F1") << QKeySequence(QKeySequence::HelpContents) << 0 << 0 << 0 << "" << 0
+                        << true << false << false;
+    QTest::addRow("Ctrl+Q") << QKeySequence(Qt::CTRL | Qt::Key_Q) << 0 << 0 << 0 << "" << 0 << false
+                            << true << false;
+    QTest::addRow("Ctrl+W") << QKeySequence(QKeySequence::Close) << 0 << 0 << 0 << "" << 0 << false
+                            << false << true;
+}
+
+void TestMainWindow::shortcuts()
+{
+    QFETCH(QKeySequence, keys);
+    QFETCH(int, startPage);
+    QFETCH(int, cooldown);
+    QFETCH(int, page);
+    QFETCH(QString, focus);
+    QFETCH(int, refreshes);
+    QFETCH(bool, shortcutsShown);
+    QFETCH(bool, quits);
+    QFETCH(bool, hidden);
+    Fixture f;
+    f.holdSplitRules();
+    f.state.startNodesRefreshCooldown(cooldown);
+    f.window->show();
+    f.window->showPage(startPage);
+    QApplication::setActiveWindow(f.window);
+    QVERIFY(QTest::qWaitForWindowActive(f.window));
+    QSignalSpy refresh(f.window, &MainWindow::refreshLocationsRequested);
+    QSignalSpy toTray(f.window, &MainWindow::hiddenToTray);
+    if (quits) {
+        // Quit ends the application's event loop; the deadline ends it with 1 otherwise.
+        QTimer::singleShot(0, f.window, [&] { QTest::keySequence(f.window, keys); });
+        QTimer::singleShot(5000, f.window, [] { QCoreApplication::exit(1); });
+        QCOMPARE(QCoreApplication::exec(), 0);
+    } else {
+        QTest::keySequence(f.window, keys);
+    }
+    QCOMPARE(f.window->currentPage(), page);
+    QCOMPARE(refresh.count(), refreshes);
+    QCOMPARE(toTray.count(), hidden ? 1 : 0);
+    if (!focus.isEmpty())
+        QTRY_COMPARE(QApplication::focusWidget() ? QApplication::focusWidget()->objectName()
+                                                 : QString(),
+                     focus);
+    KeyboardShortcutsDialog *dialog = f.window->keyboardShortcutsDialog();
+    QCOMPARE(dialog && dialog->isVisible(), shortcutsShown);
+    if (dialog) {
+        // Every shortcut is listed, its keys as the desktop writes them.
+        const QList<WindowShortcuts::Entry> entries = WindowShortcuts::entries();
+        QCOMPARE(dialog->list()->topLevelItemCount(), entries.size());
+        QCOMPARE(dialog->list()->topLevelItem(1)->text(0), QStringLiteral("Ctrl+2"));
+        QTest::keyClick(dialog->list(), Qt::Key_Escape);
+        QTRY_VERIFY(!f.window->keyboardShortcutsDialog());
+    }
 }
 
 QTEST_MAIN(TestMainWindow)

@@ -209,6 +209,12 @@ void LocationsPage::setPreferences(GuiPreferences *preferences)
     m_toolbar->setTab(m_preferences->locationsTab());
 }
 
+void LocationsPage::focusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+}
+
 QStringList LocationsPage::tiersFor(const UserInfo &user)
 {
     const QString role = user.role.trimmed().toUpper();

@@ -37,6 +37,8 @@ public:
     // running service, it asks for one (the refresh cooldown keeps that from repeating).
     void pageShown();
     int shownCount() const { return m_shownCount; }
+    // The window's search key: into the search field, its text selected.
+    void focusSearch();
 
     CatalogTreeModel *catalogModel() const { return m_model; }
     CatalogFilterModel *filterModel() const { return m_filter; }

@@ -8,6 +8,7 @@
 #include "SettingsRow.h"
 #include "ToggleSwitch.h"
 #include "TranslationManager.h"
+#include "WindowShortcuts.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -60,6 +61,15 @@ AppSection::AppSection(GuiPreferences *preferences, QWidget *parent)
     m_changeLanguage->setAccessibleName(tr("Change language"));
     m_languageRow = addRow(tr("Language"), QString(), m_changeLanguage);
     connect(m_changeLanguage, &QPushButton::clicked, this, &AppSection::openLanguagePicker);
+
+    //: Button that opens the list of keyboard shortcuts
+    auto *shortcuts = new QPushButton(tr("Show…"), this);
+    shortcuts->setObjectName(QStringLiteral("TovraSettingsKeyboardShortcuts"));
+    shortcuts->setAccessibleName(tr("Show keyboard shortcuts"));
+    shortcuts->setToolTip(WindowShortcuts::toolTip(tr("Show keyboard shortcuts"),
+                                                   WindowShortcuts::Id::ShowShortcuts));
+    addRow(tr("Keyboard shortcuts"), tr("Every key that works in this window."), shortcuts);
+    connect(shortcuts, &QPushButton::clicked, this, &AppSection::keyboardShortcutsRequested);
 
     showLaunchAtLogin();
     m_showOnLaunch->setChecked(m_preferences ? m_preferences->showOnLaunch() : true);

@@ -37,6 +37,7 @@ Q_SIGNALS:
     void appearanceChangeRequested(QString appearance);
     // The picker is about to be shown; the page themes it like the window.
     void languagePickerCreated(LanguagePickerDialog *dialog);
+    void keyboardShortcutsRequested();
 
 private:
     void launchAtLoginRequested(bool enabled);

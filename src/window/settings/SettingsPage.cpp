@@ -99,6 +99,7 @@ void SettingsPage::connectSections()
 
     connect(m_app, &AppSection::setLanguageRequested, this, &P::setLanguageRequested);
     connect(m_app, &AppSection::appearanceChangeRequested, this, &P::appearanceChangeRequested);
+    connect(m_app, &AppSection::keyboardShortcutsRequested, this, &P::keyboardShortcutsRequested);
     connect(m_app, &AppSection::languagePickerCreated, this, [this](LanguagePickerDialog *dialog) {
         ThemeEngine::applyToWindow(dialog, themeColors());
     });

@@ -74,6 +74,8 @@ Q_SIGNALS:
     void repairDiagnosticsRequested();
     // The user picked "light", "dark" or "system"; the window stores and applies it.
     void appearanceChangeRequested(QString appearance);
+    // The window shows its list of keyboard shortcuts.
+    void keyboardShortcutsRequested();
 
 private:
     void connectSections();

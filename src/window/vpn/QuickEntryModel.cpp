@@ -3,39 +3,12 @@
 #include "BidiText.h"
 #include "CatalogFilterModel.h"
 #include "Countries.h"
-#include "LocationRoles.h"
+#include "LocationMatcher.h"
 
 #include <QFont>
 #include <QIcon>
 #include <QPixmap>
-#include <QRegularExpression>
 #include <QSortFilterProxyModel>
-
-namespace {
-
-// Whether a row matches the search by its own words and its ancestors', the way the filter
-// decides, rather than being kept only for something below it.
-bool matchesItself(const QModelIndex &sourceIndex, const QStringList &tokens)
-{
-    QStringList texts;
-    for (QModelIndex at = sourceIndex; at.isValid(); at = at.parent())
-        texts.prepend(at.data(LocationSearchTextRole).toString());
-    const QString joined = texts.join(QLatin1Char(' '));
-    static const QRegularExpression plainWord(QStringLiteral("^[a-z0-9]+$"));
-    for (const QString &token : tokens) {
-        const bool found =
-            plainWord.match(token).hasMatch()
-                ? QRegularExpression(QStringLiteral("\\b") + QRegularExpression::escape(token))
-                      .match(joined)
-                      .hasMatch()
-                : joined.contains(token);
-        if (!found)
-            return false;
-    }
-    return true;
-}
-
-} // namespace
 
 QuickEntryModel::QuickEntryModel(QObject *parent)
     : QAbstractListModel(parent)
@@ -72,8 +45,9 @@ void QuickEntryModel::showRecent(const QStringList &searches,
 void QuickEntryModel::showMatches(const QSortFilterProxyModel &filtered, const QString &searchText)
 {
     QList<Entry> entries;
-    collectMatches(filtered, QModelIndex(), QString(), CatalogFilterModel::tokenize(searchText),
-                   entries);
+    for (const LocationMatch &match : LocationMatcher::collect(filtered, searchText, kMatchLimit))
+        entries.append({match.group ? Kind::Group : Kind::Node, match.name, match.parentName,
+                        match.target, match.flagCode, !match.locked, match.toolTip});
     if (entries.isEmpty())
         entries.append({Kind::Notice,
                         tr("No locations match \u201c%1\u201d").arg(isolated(searchText.trimmed())),
@@ -83,37 +57,6 @@ void QuickEntryModel::showMatches(const QSortFilterProxyModel &filtered, const Q
                         false,
                         {}});
     reset(std::move(entries));
-}
-
-void QuickEntryModel::collectMatches(const QSortFilterProxyModel &filtered,
-                                     const QModelIndex &parent, const QString &parentName,
-                                     const QStringList &tokens, QList<Entry> &out) const
-{
-    for (int row = 0; row < filtered.rowCount(parent) && out.size() < kMatchLimit; ++row) {
-        const QModelIndex index = filtered.index(row, 0, parent);
-        const QString name = index.data(Qt::DisplayRole).toString();
-        const bool group = index.data(LocationIsGroupRole).toBool();
-        Entry entry;
-        entry.text = name;
-        entry.detail = parentName;
-        entry.flagCode = index.data(LocationRegionRole).toString();
-        entry.enabled = !index.data(LocationLockedRole).toBool();
-        entry.toolTip = index.data(Qt::ToolTipRole).toString();
-        if (!group) {
-            entry.kind = Kind::Node;
-            entry.target = index.data(LocationNodeIdRole).toString();
-            if (!entry.target.isEmpty())
-                out.append(entry);
-            continue;
-        }
-        if (filtered.rowCount(index) > 0 && matchesItself(filtered.mapToSource(index), tokens)) {
-            entry.kind = Kind::Group;
-            entry.target = index.data(LocationSelectorRole).toString();
-            if (!entry.target.isEmpty())
-                out.append(entry);
-        }
-        collectMatches(filtered, index, name, tokens, out);
-    }
 }
 
 void QuickEntryModel::setMutedColor(const QColor &color)

@@ -25,8 +25,7 @@ public:
     explicit QuickEntryModel(QObject *parent = nullptr);
 
     void showRecent(const QStringList &searches, const QList<RecentLocation> &locations);
-    // Walks the filtered catalogue: nodes that match, and groups that match by their own words
-    // (a country found by its name, not a continent kept only for one of its cities).
+    // The filtered catalogue's matches (LocationMatcher), in the tree's order.
     void showMatches(const QSortFilterProxyModel &filtered, const QString &searchText);
     void setMutedColor(const QColor &color);
 
@@ -51,9 +50,6 @@ private:
     };
 
     void reset(QList<Entry> entries);
-    void collectMatches(const QSortFilterProxyModel &filtered, const QModelIndex &parent,
-                        const QString &parentName, const QStringList &tokens,
-                        QList<Entry> &out) const;
 
     QList<Entry> m_entries;
     QColor m_muted;

@@ -6,6 +6,7 @@
 #include "GuiPreferences.h"
 #include "GuiTextLog.h"
 #include "KillSwitchConfirm.h"
+#include "LocationResolver.h"
 #include "QuickEntryField.h"
 #include "RecentActivityStore.h"
 #include "ToggleSwitch.h"
@@ -13,7 +14,6 @@
 #include "VpnRecentLocations.h"
 #include "VpnStatusCard.h"
 
-#include <QAction>
 #include <QPushButton>
 #include <QTimer>
 
@@ -38,16 +38,6 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     addContent(m_status);
     addContent(m_search);
     addContent(m_recentCard);
-    // Ctrl+F anywhere in the window, while this page shows, goes to the search.
-    auto *find = new QAction(this);
-    find->setShortcut(QKeySequence::Find);
-    find->setShortcutContext(Qt::WindowShortcut);
-    addAction(find);
-    connect(find, &QAction::triggered, this, [this] {
-        m_search->setFocus(Qt::ShortcutFocusReason);
-        m_search->selectAll();
-        m_search->openPopup();
-    });
     setTabOrder(m_status->primaryAction(), m_status->killSwitchRow()->toggle());
     setTabOrder(m_status->killSwitchRow()->toggle(), m_search);
 
@@ -73,6 +63,13 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     redraw();
 }
 
+void VpnPage::focusSearch()
+{
+    m_search->setFocus(Qt::ShortcutFocusReason);
+    m_search->selectAll();
+    m_search->openPopup();
+}
+
 WindowPage::Records VpnPage::reads() const
 {
     return Record::Runtime | Record::User | Record::Nodes | Record::NodeGroups | Record::KillSwitch;
@@ -82,11 +79,8 @@ void VpnPage::refresh(const AppState &state)
 {
     m_runtime = state.runtime();
     m_killSwitch = state.killSwitch().valid ? state.killSwitch() : m_runtime.killSwitch;
-    // A free plan reaches the free locations only; the rest show, but cannot be picked.
-    const bool freePlan =
-        state.user().valid &&
-        state.user().role.trimmed().compare(QLatin1String("free"), Qt::CaseInsensitive) == 0;
-    m_catalog->setAvailableTiers(freePlan ? QStringList{QStringLiteral("FREE")} : QStringList());
+    // Locations the plan does not reach show, but cannot be picked.
+    m_catalog->setAvailableTiers(LocationResolver::tiersFor(state.user()));
     if (state.nodeGroups() != m_groups || state.nodes() != m_nodes) {
         m_groups = state.nodeGroups();
         m_nodes = state.nodes();

@@ -36,6 +36,8 @@ public:
 
     // Stops a pending search and hides the quick-entry popup; called when the page is left.
     void closeQuickEntryPopup();
+    // The window's search key: into the quick connect field, its list open.
+    void focusSearch();
     bool isQuickEntryPopupOpen() const;
 
     void setDaemonUnavailableReason(const QString &reason);

@@ -25,6 +25,7 @@ class AppState;
 class ControlWorker;
 class GuiPreferences;
 class TrayAccountLookup;
+class TrayIcon;
 class TrayLogOpener;
 class TrayMenuSession;
 class TrayModeActions;
@@ -77,7 +78,7 @@ public:
 
     const TrayMenu &menu() const { return m_menu; }
     TrayNodeMenuModel *nodeMenuModel() const { return m_nodeModel; }
-    QSystemTrayIcon *trayIcon() const { return m_icon; }
+    TrayIcon *trayIcon() const { return m_icon; }
     bool isMenuOpen() const { return m_menuOpen; }
 
 Q_SIGNALS:
@@ -172,7 +173,7 @@ private:
 
     TrayMenu m_menu;
     std::unique_ptr<QMenu> m_menuOwner;
-    QSystemTrayIcon *m_icon;
+    TrayIcon *m_icon;
     TrayModeActions *m_modeActions;
     TrayNodeMenuModel *m_nodeModel;
     std::unique_ptr<TrayNotifier> m_notifier;

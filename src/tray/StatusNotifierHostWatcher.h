@@ -1,0 +1,38 @@
+#pragma once
+
+#include <QDBusConnection>
+#include <QObject>
+
+class QDBusMessage;
+
+// Whether a StatusNotifierItem host (KDE's panel, GNOME's AppIndicator extension, most Wayland
+// panels) is registered with the watcher on the session bus, followed as hosts and watchers come
+// and go. A watcher that does not answer in time, or answers anything but a boolean, counts as
+// no host: the interface never waits on it for long.
+class StatusNotifierHostWatcher : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit StatusNotifierHostWatcher(const QDBusConnection &bus, QObject *parent = nullptr);
+
+    // The first look blocks for at most firstLookTimeoutMs; changes are followed without
+    // blocking after it.
+    void start(int firstLookTimeoutMs);
+    bool present() const { return m_present; }
+
+Q_SIGNALS:
+    void presentChanged(bool present);
+
+private Q_SLOTS:
+    void ask();
+
+private:
+    QDBusMessage question() const;
+    void apply(const QDBusMessage &reply);
+
+    QDBusConnection m_bus;
+    bool m_present = false;
+    // Only the answer to the latest question counts.
+    quint64 m_asked = 0;
+};

@@ -18,6 +18,7 @@
 #include "TranslationManager.h"
 #include "UnifiedTitleBar.h"
 #include "VpnPage.h"
+#include "WindowCloseAccessible.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -68,6 +69,7 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     addAction(closeAction);
     // Through close(), so the key behaves exactly like the title bar's close button.
     connect(closeAction, &QAction::triggered, this, &QWidget::close);
+    WindowCloseAccessible::installFactory();
 
     auto *root = new QWidget(this);
     root->setObjectName(QStringLiteral("TovraWindowRoot"));

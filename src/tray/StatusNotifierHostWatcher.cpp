@@ -10,13 +10,19 @@ namespace {
 const QString kService = QStringLiteral("org.kde.StatusNotifierWatcher");
 const QString kPath = QStringLiteral("/StatusNotifierWatcher");
 constexpr int kAskTimeoutMs = 2000;
+constexpr int kFirstRetryMs = 2000;
+constexpr int kLongestRetryMs = 60000;
 
 } // namespace
 
 StatusNotifierHostWatcher::StatusNotifierHostWatcher(const QDBusConnection &bus, QObject *parent)
     : QObject(parent)
     , m_bus(bus)
-{}
+    , m_retryMs(kFirstRetryMs)
+{
+    m_retry.setSingleShot(true);
+    connect(&m_retry, &QTimer::timeout, this, &StatusNotifierHostWatcher::ask);
+}
 
 void StatusNotifierHostWatcher::start(int firstLookTimeoutMs)
 {
@@ -43,6 +49,7 @@ QDBusMessage StatusNotifierHostWatcher::question() const
 
 void StatusNotifierHostWatcher::ask()
 {
+    m_retry.stop();
     const quint64 asked = ++m_asked;
     auto *call = new QDBusPendingCallWatcher(m_bus.asyncCall(question(), kAskTimeoutMs), this);
     connect(call, &QDBusPendingCallWatcher::finished, this,
@@ -55,6 +62,13 @@ void StatusNotifierHostWatcher::ask()
 
 void StatusNotifierHostWatcher::apply(const QDBusMessage &reply)
 {
+    if (reply.type() == QDBusMessage::ErrorMessage &&
+        reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply")) {
+        m_retry.start(m_retryMs);
+        m_retryMs = qMin(m_retryMs * 2, kLongestRetryMs);
+    } else {
+        m_retryMs = kFirstRetryMs;
+    }
     bool present = false;
     if (reply.type() == QDBusMessage::ReplyMessage && reply.arguments().size() == 1) {
         const QVariant value = reply.arguments().constFirst().value<QDBusVariant>().variant();

@@ -2,13 +2,15 @@
 
 #include <QDBusConnection>
 #include <QObject>
+#include <QTimer>
 
 class QDBusMessage;
 
 // Whether a StatusNotifierItem host (KDE's panel, GNOME's AppIndicator extension, most Wayland
 // panels) is registered with the watcher on the session bus, followed as hosts and watchers come
 // and go. A watcher that does not answer in time, or answers anything but a boolean, counts as
-// no host: the interface never waits on it for long.
+// no host: the interface never waits on it for long. One that did not answer is asked again,
+// less and less often, in case it was only busy.
 class StatusNotifierHostWatcher : public QObject
 {
     Q_OBJECT
@@ -32,6 +34,8 @@ private:
     void apply(const QDBusMessage &reply);
 
     QDBusConnection m_bus;
+    QTimer m_retry;
+    int m_retryMs;
     bool m_present = false;
     // Only the answer to the latest question counts.
     quint64 m_asked = 0;

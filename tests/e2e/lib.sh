@@ -3,6 +3,7 @@
 # tray hosts (trayer; status-notifier-watcher with gtk-sni-tray-standalone), the demo daemon, the
 # client with private XDG folders, and readers of what the client shows and exports.
 # Scripts set client, daemon and ctl to the three programs, then call e2e_init.
+e2e_dir=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 
 # ---- work folder, failures, waits ----
 
@@ -11,7 +12,7 @@ e2e_init() { # [FOLDER]: the work folder (made when not given) and its cleanup a
     mkdir -p "$work/config/Tovra" "$work/runtime"
     chmod 700 "$work/runtime"
     export XDG_RUNTIME_DIR=$work/runtime
-    pids=() x_pids=() client_pid="" daemon_pid=""
+    pids=() client_pid="" daemon_pid=""
     trap 'e2e_cleanup 2>/dev/null' EXIT
 }
 
@@ -21,15 +22,6 @@ e2e_cleanup() {
     # The client first, so that it never sees its display or bus go away.
     for pid in $client_pid $daemon_pid; do kill -9 "$pid" 2>/dev/null; done
     for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; kill -CONT "$pid" 2>/dev/null; done
-    # An X server ends under the start lock: one that removes its socket while a newer one takes
-    # its display number would rob that one of it.
-    if (( ${#x_pids[@]} )); then
-        exec 8>"$x_lock"
-        flock 8
-        kill "${x_pids[@]}" 2>/dev/null
-        wait "${x_pids[@]}" 2>/dev/null
-        flock -u 8
-    fi
     wait 2>/dev/null
     [[ -n ${E2E_KEEP_WORK:-} ]] || rm -rf "$work"
 }
@@ -70,23 +62,19 @@ start_xvfb() { # a private X server: DISPLAY, QT_QPA_PLATFORM=xcb
     unset WAYLAND_DISPLAY
 }
 
-x_lock=${TMPDIR:-/tmp}/tovra-e2e-xvfb.lock
 new_x_server() { # sets x_display
     local attempt x_pid
     for attempt in 1 2 3; do
-        # One X server starts or ends at a time: two that pick a display number together can
-        # pick the same one.
-        exec 8>"$x_lock"
-        flock 8
+        # Listening on its abstract socket alone: an X server of someone else's that exits
+        # removes the socket file of its display number, which a newer server may have taken.
         rm -f "$work/display"
-        Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$work/display" 8>&- \
+        Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp -nolisten unix 5>"$work/display" \
             2>>"$work/xvfb.log" &
         x_pid=$!
         wait_for 10 test -s "$work/display"
-        flock -u 8
         x_display=":$(head -n1 "$work/display" 2>/dev/null)"
         if wait_for 5 xwininfo -display "$x_display" -root >/dev/null 2>&1; then
-            x_pids+=("$x_pid")
+            pids+=("$x_pid")
             return 0
         fi
         kill "$x_pid" 2>/dev/null
@@ -122,6 +110,10 @@ start_a11y() { # the accessibility bus on the session bus, and the client's brid
     /usr/libexec/at-spi-bus-launcher --launch-immediately >/dev/null 2>&1 &
     pids+=($!)
     export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1
+}
+drive() { # STEP...: drives the client through its accessibility tree (atspi_drive.py)
+    /usr/bin/python3 "$e2e_dir/atspi_drive.py" "$@" >>"$work/atspi.log" 2>&1 \
+        || fail "$(tail -n1 "$work/atspi.log")"
 }
 
 watcher() { # METHOD ARGS...: a call on the StatusNotifierItem watcher
@@ -259,6 +251,12 @@ item_colour() {
 }
 item_is_on() { local red green blue; read -r red green blue < <(item_colour); (( green > red + 30 )); }
 item_has_icon() { local red green blue; read -r red green blue < <(item_colour); (( red + green + blue > 0 )); }
+
+# What the panel draws at the top left of its screen, where the client's icon is the only one
+# ($grab reads it).
+panel_average() { DISPLAY=${host_display:-$DISPLAY} QT_QPA_PLATFORM=xcb "$grab" --average 0 0 40 30; }
+panel_shows_icon() { local red green blue; read -r red green blue < <(panel_average); (( red + green + blue > 30 )); }
+panel_shows_on() { local red green blue; read -r red green blue < <(panel_average); (( green > red + 30 )); }
 
 # The id of the enabled entry with this label, read from the layout as it is now.
 entry_id() { # LABEL

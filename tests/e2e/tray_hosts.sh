@@ -3,14 +3,16 @@
 # restarted. XEmbed cases run on Xvfb with trayer, StatusNotifierItem cases on weston's headless
 # backend with status-notifier-watcher and gtk-sni-tray-standalone on a private bus. Cases, side
 # by side:
-#   xembed-restart, sni-restart  the host dies and a new one starts: within 5 s the icon is back,
-#               green for the connected tunnel, and its menu works
+#   xembed-restart, sni-restart, sni-panel-restart  the host (for SNI the watcher and the panel,
+#               as GNOME Shell restarts; or only the panel, as KDE's plasmashell does) dies and a
+#               new one starts: within 5 s the icon is back, green for the connected tunnel, and
+#               its menu works
 #   xembed-late, sni-late        the client starts with no tray and shows its window; a host
 #               starts: within 5 s the icon appears with its menu, and closing the window now
 #               hides it to the tray
 #   two-hosts   an XEmbed and a StatusNotifierItem host at once: one icon
 #   silent-watcher, garbage-watcher  a watcher that does not answer, or answers nonsense: the
-#               window shows at start and the interface never stalls; once the silent one
+#               window shows at start and the interface never freezes; once the silent one
 #               answers again, the icon appears
 # The time from the new host's start to the icon is printed, for the record; only the 5 s limit
 # fails a case.
@@ -18,16 +20,15 @@
 set -uo pipefail
 client=$1 daemon=$2 ctl=$3 grab=$4
 shift 4
-here=$(cd "$(dirname "$0")" && pwd)
-source "$here/lib.sh"
-drive() { /usr/bin/python3 "$here/atspi_drive.py" "$@" >>"$work/atspi.log" 2>&1 \
-    || fail "$(tail -n1 "$work/atspi.log")"; }
+source "$(dirname "$0")/lib.sh"
 limit_s=5
 
 run_case() {
+    [[ $1 == xembed-* ]] || need gdbus status-notifier-watcher gtk-sni-tray-standalone
+    # Both kinds of host can show an icon on X11 only.
     case $1 in
-    xembed-*) need Xvfb trayer xdotool xwininfo; start_xvfb ;;
-    *) need gdbus status-notifier-watcher gtk-sni-tray-standalone; start_weston ;;
+    xembed-* | two-hosts) need Xvfb trayer xdotool xwininfo; start_xvfb ;;
+    *) start_weston ;;
     esac
     start_bus
     start_daemon
@@ -40,16 +41,26 @@ run_case() {
     esac
 }
 
+# KIND: xembed, sni (watcher and panel), sni-panel (the panel alone; a watcher stays)
 start_host() { # KIND
-    if [[ $1 == xembed ]]; then start_trayer; else start_sni_watcher; start_sni_host; fi
+    case $1 in
+    xembed) start_trayer ;;
+    sni) start_sni_watcher; start_sni_host ;;
+    sni-panel) start_sni_host ;;
+    esac
 }
 stop_host() { # KIND
-    if [[ $1 == xembed ]]; then stop "$trayer_pid"; else stop "$sni_host_pid" "$sni_watcher_pid"; fi
+    case $1 in
+    xembed) stop "$trayer_pid" ;;
+    sni) stop "$sni_host_pid" "$sni_watcher_pid" ;;
+    sni-panel) stop "$sni_host_pid" ;;
+    esac
 }
+# The icon as the host draws it.
 icon_shown() { # KIND
-    if [[ $1 == xembed ]]; then locate_icon; else find_item && item_has_icon; fi
+    if [[ $1 == xembed ]]; then locate_icon; else find_item && panel_shows_icon; fi
 }
-icon_green() { if [[ $1 == xembed ]]; then icon_is_on; else item_is_on; fi; }
+icon_green() { if [[ $1 == xembed ]]; then icon_is_on; else item_is_on && panel_shows_on; fi; }
 # The menu works: on XEmbed it opens on a right click; on SNI its Connect or Disconnect reaches
 # the daemon.
 menu_works() { # KIND
@@ -82,13 +93,15 @@ icon_back_within_limit() { # KIND
 }
 
 host_restarts() { # KIND
+    [[ $1 == sni-panel ]] && start_sni_watcher
     start_host "$1"
+    # Connected before the client starts, whose tray then polls only every 10 s.
     ctl connectRuntime >/dev/null || fail "the daemon did not connect"
+    wait_for 15 is_connected || fail "the tunnel did not connect ($(tunnel_state))"
     client_settings '[window]' 'showOnLaunch=false'
     start_client
     wait_for 20 icon_shown "$1" || fail "the icon did not appear"
-    wait_for 15 is_connected || fail "the tunnel did not connect ($(tunnel_state))"
-    wait_for 10 icon_green "$1" || fail "the icon did not turn to connected"
+    wait_for 10 icon_green "$1" || fail "the icon is not the connected one"
     stop_host "$1"
     wait_for 5 eval '! icon_shown '"$1" || fail "the icon outlived its host"
     icon_back_within_limit "$1"
@@ -131,8 +144,6 @@ host_comes_late() { # KIND
 }
 
 two_hosts() {
-    need Xvfb trayer xdotool xwininfo
-    start_xvfb # the client runs on X11, where both kinds of host can show an icon
     start_trayer
     start_sni_watcher
     start_sni_host
@@ -152,13 +163,15 @@ broken_watcher() { # silent or garbage
         start_sni_host
         kill -STOP "$sni_watcher_pid"
     else
-        /usr/bin/python3 "$here/../support/fake_sni_watcher.py" 2>>"$work/watcher.log" &
+        /usr/bin/python3 "$e2e_dir/../support/fake_sni_watcher.py" 2>>"$work/watcher.log" &
         pids+=($!)
         wait_for 10 eval 'watcher_property ProtocolVersion | grep -q garbage' || fail "the fake watcher did not start"
     fi
     start_a11y
     client_settings '[window]' 'showOnLaunch=false'
-    start_client TOVRA_GUI_STALL_MS=100
+    # A call that waited on the watcher would freeze the interface for seconds; pages laid out
+    # for the first time on a busy machine take a few hundred milliseconds.
+    start_client TOVRA_GUI_STALL_MS=1000
     drive shown
     local shown_ms mark
     shown_ms=$(since_start_ms)
@@ -166,7 +179,7 @@ broken_watcher() { # silent or garbage
     mark=$(log_lines)
     drive page Locations page VPN
     wait_for 10 shows tray '^Tovra: disconnected' || fail "tray: $(text_of tray)"
-    [[ -z $(stalls_since "$mark") ]] || fail "stalled: $(stalls_since "$mark")"
+    [[ -z $(stalls_since "$mark") ]] || fail "froze: $(stalls_since "$mark")"
     local woke=""
     if [[ $1 == silent ]]; then
         # A watcher that was only busy is asked again, and the icon follows.
@@ -177,9 +190,10 @@ broken_watcher() { # silent or garbage
     drive close
     if [[ $1 == silent ]]; then drive hidden; click_entry Quit || fail "Quit is not in the menu"; fi
     client_exits 15
-    echo "ok $case_name: window after $shown_ms ms, no stall$woke"
+    echo "ok $case_name: window after $shown_ms ms, never froze$woke"
 }
 
 cases=("$@")
-(( ${#cases[@]} )) || cases=(xembed-restart sni-restart xembed-late sni-late two-hosts silent-watcher garbage-watcher)
+(( ${#cases[@]} )) || cases=(xembed-restart sni-restart sni-panel-restart xembed-late sni-late two-hosts
+    silent-watcher garbage-watcher)
 run_cases 3 "${cases[@]}"

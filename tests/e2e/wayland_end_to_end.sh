@@ -16,10 +16,7 @@
 set -uo pipefail
 client=$1 daemon=$2 ctl=$3 app_id=$(basename "$4" .desktop)
 shift 4
-here=$(cd "$(dirname "$0")" && pwd)
-source "$here/lib.sh"
-drive() { /usr/bin/python3 "$here/atspi_drive.py" "$@" >>"$work/atspi.log" 2>&1 \
-    || fail "$(tail -n1 "$work/atspi.log")"; }
+source "$(dirname "$0")/lib.sh"
 stall_ms=${TOVRA_E2E_STALL_MS:-50}
 
 run_case() {

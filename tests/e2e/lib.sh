@@ -107,6 +107,8 @@ start_bus() { # a private session bus: DBUS_SESSION_BUS_ADDRESS
 }
 
 start_a11y() { # the accessibility bus on the session bus, and the client's bridge always on
+    [[ -x /usr/libexec/at-spi-bus-launcher ]] && /usr/bin/python3 -c 'import pyatspi' 2>/dev/null \
+        || fail "at-spi2-core and python3-pyatspi are not installed (scripts/install-deps.sh installs them)"
     /usr/libexec/at-spi-bus-launcher --launch-immediately >/dev/null 2>&1 &
     pids+=($!)
     export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1

@@ -40,8 +40,12 @@ bool TrayIcon::hostPresent() const
     return m_statusNotifierHosts->present() || m_xembedTray->present();
 }
 
+// The tray redraws on every status; an unchanged icon or tool tip is not sent again, which a
+// StatusNotifierItem host would answer by fetching every pixmap anew.
 void TrayIcon::setIcon(const QIcon &icon)
 {
+    if (icon.cacheKey() == m_icon.cacheKey())
+        return;
     m_icon = icon;
     if (m_platformIcon)
         m_platformIcon->setIcon(icon);
@@ -49,6 +53,8 @@ void TrayIcon::setIcon(const QIcon &icon)
 
 void TrayIcon::setToolTip(const QString &toolTip)
 {
+    if (toolTip == m_toolTip)
+        return;
     m_toolTip = toolTip;
     if (m_platformIcon)
         m_platformIcon->setToolTip(toolTip);

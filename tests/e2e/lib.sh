@@ -129,7 +129,7 @@ start_sni_watcher() {
     status-notifier-watcher >>"$work/watcher.log" 2>&1 &
     sni_watcher_pid=$!
     pids+=("$sni_watcher_pid")
-    wait_for 10 watcher_property ProtocolVersion >/dev/null || fail "status-notifier-watcher did not start"
+    wait_for 20 watcher_property ProtocolVersion >/dev/null || fail "status-notifier-watcher did not start"
 }
 
 start_sni_host() { # the panel that shows the items; needs the watcher
@@ -143,7 +143,7 @@ start_sni_host() { # the panel that shows the items; needs the watcher
     DISPLAY=$display NO_AT_BRIDGE=1 GDK_BACKEND=x11 gtk-sni-tray-standalone >>"$work/host.log" 2>&1 &
     sni_host_pid=$!
     pids+=("$sni_host_pid")
-    wait_for 10 host_registered || fail "gtk-sni-tray-standalone did not register as a host"
+    wait_for 20 host_registered || fail "gtk-sni-tray-standalone did not register as a host"
 }
 
 start_trayer() { # an XEmbed tray on the X server
@@ -151,7 +151,7 @@ start_trayer() { # an XEmbed tray on the X server
         --transparent false >>"$work/trayer.log" 2>&1 &
     trayer_pid=$!
     pids+=("$trayer_pid")
-    wait_for 10 xdotool search --class trayer >/dev/null || fail "trayer did not start"
+    wait_for 20 xdotool search --class trayer >/dev/null || fail "trayer did not start"
 }
 
 stop() { # PID...: ends each and waits for it

@@ -67,8 +67,10 @@ new_x_server() { # sets x_display
     for attempt in 1 2 3; do
         # Listening on its abstract socket alone: an X server of someone else's that exits
         # removes the socket file of its display number, which a newer server may have taken.
+        # Never reset when the last client leaves: a reset opens the socket anew, and a server
+        # starting beside it can take the display number meanwhile.
         rm -f "$work/display"
-        Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp -nolisten unix 5>"$work/display" \
+        Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp -nolisten unix -noreset 5>"$work/display" \
             2>>"$work/xvfb.log" &
         x_pid=$!
         wait_for 10 test -s "$work/display"

@@ -46,23 +46,43 @@ QString AccountStore::login(const QString &username, const QString &password, bo
     }
     m_signedIn = true;
     m_remembered = rememberMe;
+    m_restored = false;
     m_email = QString::fromLatin1(match->email);
     m_token = QString::number(QRandomGenerator::global()->generate64(), 16);
     *status = 200;
     return {};
 }
 
+bool AccountStore::knows(const QString &username)
+{
+    return account(username.trimmed()) != nullptr;
+}
+
+bool AccountStore::restore(const QString &username)
+{
+    const Account *match = account(username.trimmed());
+    if (!match)
+        return false;
+    m_signedIn = m_remembered = m_restored = true;
+    m_email = QString::fromLatin1(match->email);
+    m_token = QString::number(QRandomGenerator::global()->generate64(), 16);
+    return true;
+}
+
 void AccountStore::logout()
 {
     m_signedIn = false;
     m_remembered = false;
+    m_restored = false;
     m_email.clear();
     m_token.clear();
 }
 
 QString AccountStore::authState() const
 {
-    return m_signedIn ? QStringLiteral("logged_in") : QStringLiteral("logged_out");
+    if (!m_signedIn)
+        return QStringLiteral("logged_out");
+    return m_restored ? QStringLiteral("cached") : QStringLiteral("logged_in");
 }
 
 bool AccountStore::svip() const

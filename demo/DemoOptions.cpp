@@ -1,5 +1,7 @@
 #include "DemoOptions.h"
 
+#include "AccountStore.h"
+
 #include <QCommandLineParser>
 #include <QCoreApplication>
 #include <QDir>
@@ -120,9 +122,16 @@ bool DemoOptions::parse(const QCoreApplication &app, DemoOptions *options)
     const QCommandLineOption forceUpgrade(
         QStringLiteral("force-upgrade"),
         QStringLiteral("Offer the GUI update as a required upgrade."));
+    const QCommandLineOption remembered(
+        QStringLiteral("remembered"),
+        QStringLiteral("Start with ACCOUNT's remembered session, reported as \"cached\"."),
+        QStringLiteral("ACCOUNT"));
+    const QCommandLineOption flakyDownload(
+        QStringLiteral("flaky-download"),
+        QStringLiteral("Break the update download once halfway; it is retried (\"retrying\")."));
     parser.addOptions({socket, dataDir, vendorHost, latency, connectMs, fail, truncate, hang,
                        garbage, chunked, incompatible, noKillSwitchMode, lockdown, forceUpgrade,
-                       catalogSize});
+                       flakyDownload, remembered, catalogSize});
     parser.process(app);
 
     QTextStream err(stderr);
@@ -173,6 +182,12 @@ bool DemoOptions::parse(const QCoreApplication &app, DemoOptions *options)
     options->noKillSwitchMode = parser.isSet(noKillSwitchMode);
     options->lockdown = parser.isSet(lockdown);
     options->forceUpgrade = parser.isSet(forceUpgrade);
+    options->flakyDownload = parser.isSet(flakyDownload);
+    options->rememberedAccount = parser.value(remembered).trimmed();
+    if (parser.isSet(remembered) && !AccountStore::knows(options->rememberedAccount)) {
+        err << "tovra-demo-daemon: --remembered needs one of the demo accounts" << Qt::endl;
+        return false;
+    }
     return true;
 }
 

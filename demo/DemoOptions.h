@@ -28,6 +28,8 @@ struct DemoOptions
     bool noKillSwitchMode = false;
     bool lockdown = false;
     bool forceUpgrade = false;
+    bool flakyDownload = false;
+    QString rememberedAccount;        // signed in from the start, "cached"
     QHash<QString, Failure> failures; // by request path, "*" for every path
     QSet<QString> truncatePaths;
     QSet<QString> hangPaths;

@@ -52,8 +52,11 @@ DemoService::DemoService(const DemoOptions &options, const QString &rootDir, QOb
     , m_tunnel(options.connectMs)
     , m_killSwitch(options.lockdown)
     , m_split(m_config.configDir())
-    , m_update(m_config.downloadDir(), options.vendorHost, options.forceUpgrade)
+    , m_update(m_config.downloadDir(), options.vendorHost, options.forceUpgrade,
+               options.flakyDownload)
 {
+    if (!options.rememberedAccount.isEmpty())
+        m_account.restore(options.rememberedAccount);
     addStatusRoutes();
     addCatalogRoutes();
     addTunnelRoutes();

@@ -4,6 +4,7 @@
 #include <QFile>
 #include <QJsonArray>
 #include <QRegularExpression>
+#include <QStringList>
 
 namespace {
 
@@ -33,11 +34,12 @@ QString isoNow()
 } // namespace
 
 UpdateStore::UpdateStore(const QString &downloadDir, const QString &vendorHost, bool forceUpgrade,
-                         QObject *parent)
+                         bool flakyNetwork, QObject *parent)
     : QObject(parent)
     , m_downloadDir(downloadDir)
     , m_vendorHost(vendorHost)
     , m_forceUpgrade(forceUpgrade)
+    , m_flakyNetwork(flakyNetwork)
     , m_artifact(makeArtifact())
     , m_artifactSha256(QCryptographicHash::hash(m_artifact, QCryptographicHash::Sha256).toHex())
 {
@@ -115,11 +117,11 @@ QString UpdateStore::start(const QString &guiVersion, qint64 expectedVersionNum,
 {
     if (versionNumber(guiVersion) < 0)
         return QStringLiteral("invalid GUI version \"%1\"").arg(guiVersion);
-    if (m_state == QLatin1String("checking") || m_state == QLatin1String("downloading") ||
-        m_state == QLatin1String("verifying"))
+    if (running())
         return {}; // already under way: the running download is the answer
     m_currentVersion = guiVersion;
     m_bytesDownloaded = 0;
+    m_retried = false;
     m_errorCode.clear();
     m_errorMessage.clear();
     m_egress = viaTunnel ? QStringLiteral("tunnel") : QStringLiteral("direct");
@@ -136,15 +138,23 @@ QString UpdateStore::start(const QString &guiVersion, qint64 expectedVersionNum,
         fail(QStringLiteral("no_update_available"), QStringLiteral("Tovra is up to date"));
         return {};
     }
-    setState(QStringLiteral("checking"));
-    m_timer.start(PhaseMs);
+    // Downloads wait their turn for a moment, as the daemon runs one job at a time.
+    setState(QStringLiteral("queued"));
+    m_timer.start(PhaseMs / 2);
     return {};
+}
+
+bool UpdateStore::running() const
+{
+    static const QStringList states{QStringLiteral("queued"), QStringLiteral("checking"),
+                                    QStringLiteral("downloading"), QStringLiteral("retrying"),
+                                    QStringLiteral("verifying")};
+    return states.contains(m_state);
 }
 
 void UpdateStore::cancel()
 {
-    if (m_state != QLatin1String("checking") && m_state != QLatin1String("downloading") &&
-        m_state != QLatin1String("verifying"))
+    if (!running())
         return;
     setState(QStringLiteral("canceling"));
     m_timer.start(PhaseMs / 2);
@@ -171,9 +181,23 @@ void UpdateStore::advance()
         setState(QStringLiteral("canceled"));
         return;
     }
-    if (m_state == QLatin1String("checking")) {
+    if (m_state == QLatin1String("queued")) {
+        setState(QStringLiteral("checking"));
+        m_timer.start(PhaseMs);
+        return;
+    }
+    if (m_state == QLatin1String("checking") || m_state == QLatin1String("retrying")) {
+        m_errorMessage.clear();
         setState(QStringLiteral("downloading"));
         m_timer.start(StepMs);
+        return;
+    }
+    if (m_state == QLatin1String("downloading") && m_flakyNetwork && !m_retried &&
+        m_bytesDownloaded * 2 >= ArtifactBytes) {
+        m_retried = true;
+        m_errorMessage = QStringLiteral("connection reset by peer");
+        setState(QStringLiteral("retrying"));
+        m_timer.start(PhaseMs * 3);
         return;
     }
     if (m_state == QLatin1String("downloading")) {

@@ -7,15 +7,16 @@
 #include <QString>
 #include <QTimer>
 
-// The GUI update offer and its download: checking -> downloading -> verifying -> ready, with a
-// real installer file written under the download directory and verified by its SHA-256.
+// The GUI update offer and its download: queued -> checking -> downloading -> verifying ->
+// ready, with a real installer file written under the download directory and verified by its
+// SHA-256. With a flaky network the download breaks once halfway and is retried.
 class UpdateStore : public QObject
 {
     Q_OBJECT
 
 public:
     UpdateStore(const QString &downloadDir, const QString &vendorHost, bool forceUpgrade,
-                QObject *parent = nullptr);
+                bool flakyNetwork, QObject *parent = nullptr);
     ~UpdateStore() override;
 
     // "major.minor.patch[+build]" as one number; -1 when the text is no version.
@@ -28,6 +29,7 @@ public:
     QJsonObject downloadJson() const;
 
 private:
+    bool running() const;
     void setState(const QString &state);
     void advance();
     void fail(const QString &code, const QString &message);
@@ -37,6 +39,8 @@ private:
     QString m_downloadDir;
     QString m_vendorHost;
     bool m_forceUpgrade;
+    bool m_flakyNetwork;
+    bool m_retried = false;
     QByteArray m_artifact;
     QByteArray m_artifactSha256;
     QTimer m_timer;

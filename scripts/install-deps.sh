@@ -8,7 +8,7 @@ packages=(
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools
   qt6-l10n-tools qt6-qpa-plugins libqt6svg6 libgl-dev libxkbcommon-dev
   clang libclang-rt-14-dev python3
-  xvfb xauth trayer xdotool x11-utils dbus dbus-daemon
+  xvfb xauth trayer xdotool x11-utils dbus dbus-daemon at-spi2-core python3-pyatspi dbus-x11
   # The Debian package and its check; a StatusNotifierItem tray host for the end-to-end test.
   dpkg-dev file lintian desktop-file-utils appstream
   haskell-status-notifier-item-utils haskell-gtk-sni-tray-utils libglib2.0-bin

@@ -7,6 +7,8 @@
                                          fail when a catalogue is incomplete or out of date
 
 An id is the message's position in its file, so export and import must see the same file.
+A "note" in the export is the translator comment from the code; one starting with "Button" marks
+a button text, which check keeps within twice the English length.
 """
 
 import argparse
@@ -25,6 +27,11 @@ LUPDATE_ARGS = ["-no-obsolete", "-locations", "none", "-silent"]
 PLACEHOLDER = re.compile(r"%(?:[1-9][0-9]?|n)")
 # Untranslated by design: the same text in every language.
 PRODUCT_WORDS = ("Tovra", "TovraVPN", "WireGuard")
+# A button's text carries a translator comment starting with "Button". Its translation may take
+# up to twice the source's characters (or this many, which every button fits) before it risks
+# clipping in the rows and dialogs that were laid out for the English text.
+BUTTON_NOTE = re.compile(r"^Button\b", re.MULTILINE)
+BUTTON_ROOM = 12
 
 
 def ts_path(tag):
@@ -55,6 +62,8 @@ def cmd_export(args):
         row = {"id": index, "ctx": context, "src": message.findtext("source")}
         if message.findtext("comment"):
             row["comment"] = message.findtext("comment")
+        if message.findtext("extracomment"):
+            row["note"] = message.findtext("extracomment")
         if message.get("numerus") == "yes":
             row["forms"] = len(forms_of(message))
         if not unfinished:
@@ -111,6 +120,12 @@ def problems_in(path):
         for word in PRODUCT_WORDS:
             if re.search(rf"\b{word}\b", source) and not re.search(rf"\b{word}\b", " ".join(forms)):
                 found.append(f"{where}: product name {word} translated")
+        if BUTTON_NOTE.search(message.findtext("extracomment") or ""):
+            room = max(2 * len(source), BUTTON_ROOM)
+            for form in forms:
+                if len(form) > room:
+                    found.append(f"{where}: button text {form!r} is {len(form)} characters, "
+                                 f"over {room}; find a shorter form")
     return found
 
 

@@ -5,7 +5,8 @@
 # Usage: scripts/window-screenshots.sh [BUILD_DIR] [OUT_DIR] [LOOK...]
 #   LOOK is light, dark, rtl or dark-rtl; all four by default. The right-to-left looks run in
 #   Arabic (TOVRA_SHOT_RTL_LANG, default ar); TOVRA_SHOT_LANG=de (any tag) picks the language
-#   of the others.
+#   of the others. TOVRA_SHOT_TABS=N presses Tab N times on each page before the picture, to
+#   look at the focus ring of the control it lands on.
 set -euo pipefail
 
 build=${1:-build}
@@ -81,6 +82,7 @@ for look in "${looks[@]}"; do
         y=$(( wy + 8 + 44 + 89 * index )); (( index == 4 )) && y=$(( wy + wh - 8 - 44 ))
         xdo mousemove "$side_x" "$y" click 1
         xdo mousemove $(( wx + ww / 2 )) $(( wy + wh - 4 ))
+        for (( tab = 0; tab < ${TOVRA_SHOT_TABS:-0}; tab++ )); do xdo key Tab; done
         sleep 1
         "$grab" "$out/$look-${pages[$index]}.png"
     done

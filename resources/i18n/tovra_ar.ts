@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>تعذّر إكمال إجراء الحساب</translation>
     </message>
 </context>
 <context>
@@ -20,6 +21,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>تسجيل الدخول</translation>
     </message>
     <message>
@@ -40,14 +42,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>إنشاء حساب</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>هل نسيت كلمة المرور؟</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>جارٍ تسجيل الدخول...</translation>
     </message>
 </context>
@@ -55,10 +60,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>تجديد</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>تسجيل الخروج</translation>
     </message>
     <message>
@@ -83,10 +90,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>جارٍ تسجيل الخروج...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>جارٍ الفتح…</translation>
     </message>
 </context>
@@ -98,6 +107,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>تغيير…</translation>
     </message>
     <message>
@@ -106,7 +116,7 @@
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation>تشغيل Tovra في شريط المهام عند تسجيل الدخول إلى سطح المكتب.</translation>
+        <translation>تشغيل Tovra في منطقة الإشعارات عند تسجيل الدخول إلى سطح المكتب.</translation>
     </message>
     <message>
         <source>Show window at launch</source>
@@ -114,7 +124,7 @@
     </message>
     <message>
         <source>Open this window when Tovra starts; otherwise only the tray icon appears.</source>
-        <translation>فتح هذه النافذة عند بدء Tovra؛ وإلا تظهر أيقونة شريط المهام فقط.</translation>
+        <translation>فتح هذه النافذة عند بدء Tovra؛ وإلا تظهر أيقونته في منطقة الإشعارات فقط.</translation>
     </message>
     <message>
         <source>Same as desktop</source>
@@ -185,6 +195,7 @@
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
         <translation>متصل</translation>
     </message>
     <message>
@@ -204,6 +215,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء</translation>
     </message>
 </context>
@@ -219,14 +231,17 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>حفظ</translation>
     </message>
     <message>
         <source>Reset to default</source>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
         <translation>استعادة الافتراضي</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Auto connect choice: connect to nothing when the service starts</extracomment>
         <translation>إيقاف</translation>
     </message>
     <message>
@@ -1263,42 +1278,52 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
+        <extracomment>Label of a folder path: where the service keeps its configuration</extracomment>
         <translation>التكوين</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation>وقت التشغيل</translation>
+        <extracomment>Label of a folder path: where the service keeps its running files (socket, PID file); not a duration</extracomment>
+        <translation>مجلد وقت التشغيل</translation>
     </message>
     <message>
         <source>Logs</source>
+        <extracomment>Label of a folder path: the service&apos;s log folder</extracomment>
         <translation>السجلات</translation>
     </message>
     <message>
         <source>State file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>ملف الحالة</translation>
     </message>
     <message>
         <source>Credentials key</source>
+        <extracomment>Label of a file path: the key file for the stored account credentials</extracomment>
         <translation>مفتاح بيانات الاعتماد</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Label of a file path: the service&apos;s history file</extracomment>
         <translation>السجل التاريخي</translation>
     </message>
     <message>
         <source>Profiles</source>
+        <extracomment>Label of a folder path: the service&apos;s profiles folder</extracomment>
         <translation>الملفات الشخصية</translation>
     </message>
     <message>
         <source>Control socket</source>
+        <extracomment>Label of a file path: the socket this app talks to the service through</extracomment>
         <translation>مقبس التحكم</translation>
     </message>
     <message>
         <source>PID file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>ملف PID</translation>
     </message>
     <message>
         <source>Control address</source>
+        <extracomment>Label of an address the service listens on for control requests</extracomment>
         <translation>عنوان التحكم</translation>
     </message>
     <message>
@@ -1307,10 +1332,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>إصلاح</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>فتح السجلات</translation>
     </message>
     <message>
@@ -1327,10 +1354,12 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>نسخ</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
+        <extracomment>%1 is one of the path labels above, such as &quot;Runtime&quot;</extracomment>
         <translation>نسخ مسار %1</translation>
     </message>
     <message>
@@ -1360,6 +1389,17 @@
     <message>
         <source>%1, not compatible</source>
         <translation>%1، غير متوافق</translation>
+    </message>
+</context>
+<context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>مسح البحث</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>مسح النص</translation>
     </message>
 </context>
 <context>
@@ -1405,10 +1445,12 @@
     </message>
     <message>
         <source>On</source>
+        <extracomment>State of the kill switch: turned on</extracomment>
         <translation>تشغيل</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>State of the kill switch: turned off</extracomment>
         <translation>إيقاف</translation>
     </message>
     <message>
@@ -1421,6 +1463,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>التبديل إلى التلقائي والتفعيل</translation>
     </message>
     <message>
@@ -1429,6 +1472,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>اختيار الوضع…</translation>
     </message>
     <message>
@@ -1437,6 +1481,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء</translation>
     </message>
     <message>
@@ -1449,6 +1494,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>فتح الإعدادات</translation>
     </message>
     <message>
@@ -1472,7 +1518,7 @@
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation>يحظر حركة المرور خارج النفق أثناء اتصال Tovra أو أثناء الاتصال.</translation>
+        <translation>يحظر حركة المرور خارج النفق ما دام Tovra متصلًا أو قيد الاتصال.</translation>
     </message>
     <message>
         <source>Always</source>
@@ -1567,6 +1613,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>استخدام اللغة</translation>
     </message>
 </context>
@@ -1735,6 +1782,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>تحديث (%1 ث)</translation>
     </message>
     <message>
@@ -1769,15 +1817,18 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>فشلت العملية</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>تعذّر إكمال الإجراء</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>فشلت عملية الإعدادات</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>تعذّر تغيير الإعدادات</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>فشلت عملية الوضع</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>تعذّر تغيير الوضع</translation>
     </message>
 </context>
 <context>
@@ -1796,7 +1847,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>The tunnel by default; chosen regions and sites go direct.</source>
-        <translation>النفق افتراضيًا؛ والمناطق والمواقع المختارة تمر مباشرة.</translation>
+        <translation>النفق افتراضيًا؛ والمناطق والمواقع الإلكترونية المختارة تمر مباشرة.</translation>
     </message>
     <message>
         <source>No tunnel: apps that use the local proxy reach the internet through Tovra.</source>
@@ -1804,7 +1855,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>The local proxy, with chosen regions and sites going direct.</source>
-        <translation>الوكيل المحلي، مع مرور المناطق والمواقع المختارة مباشرة.</translation>
+        <translation>الوكيل المحلي، مع مرور المناطق والمواقع الإلكترونية المختارة مباشرة.</translation>
     </message>
     <message>
         <source>Applying…</source>
@@ -1859,7 +1910,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Choose how your traffic is routed and which sites bypass the tunnel.</source>
-        <translation>اختر كيفية توجيه حركة المرور والمواقع التي تتجاوز النفق.</translation>
+        <translation>اختر كيفية توجيه حركة المرور والمواقع الإلكترونية التي تتجاوز النفق.</translation>
     </message>
 </context>
 <context>
@@ -1901,6 +1952,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network option: devices nearby are reached outside the tunnel</extracomment>
         <translation>مباشر</translation>
     </message>
     <message>
@@ -1909,6 +1961,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network option: local traffic goes through the tunnel like the rest</extracomment>
         <translation>محمي</translation>
     </message>
     <message>
@@ -1917,6 +1970,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy option: the desktop proxy settings are left alone</extracomment>
         <translation>إيقاف</translation>
     </message>
     <message>
@@ -1925,6 +1979,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy option: the desktop proxy settings point at Tovra</extracomment>
         <translation>تشغيل</translation>
     </message>
     <message>
@@ -1933,6 +1988,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy option, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>قفل</translation>
     </message>
     <message>
@@ -1964,6 +2020,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Apply listeners</source>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
         <translation>تطبيق المستمعين</translation>
     </message>
     <message>
@@ -1976,22 +2033,27 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>حفظ الخوادم</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>مسح الخوادم</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>إعادة ضبط DNS المقسَّم</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy choice: the desktop proxy settings are left alone</extracomment>
         <translation>إيقاف</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy choice: the desktop proxy settings point at Tovra</extracomment>
         <translation>تشغيل</translation>
     </message>
     <message>
@@ -2008,10 +2070,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network choice: devices nearby are reached outside the tunnel</extracomment>
         <translation>مباشر</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network choice: local traffic goes through the tunnel like the rest</extracomment>
         <translation>محمي</translation>
     </message>
     <message>
@@ -2196,6 +2260,14 @@ Try a country, a city or a code such as “de”.</source>
     </message>
 </context>
 <context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
@@ -2258,6 +2330,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Default route choice: traffic goes straight to the internet, outside the tunnel or proxy</extracomment>
         <translation>مباشر</translation>
     </message>
     <message>
@@ -2266,6 +2339,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>اختيار…</translation>
     </message>
     <message>
@@ -2282,6 +2356,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>تحرير القواعد…</translation>
     </message>
     <message>
@@ -2354,11 +2429,11 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Sites on the GFWList always go through the tunnel.</source>
-        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر النفق.</translation>
+        <translation>المواقع الإلكترونية المدرجة في GFWList تمر دائمًا عبر النفق.</translation>
     </message>
     <message>
         <source>Sites on the GFWList always go through the proxy.</source>
-        <translation>المواقع المدرجة في GFWList تمر دائمًا عبر الوكيل.</translation>
+        <translation>المواقع الإلكترونية المدرجة في GFWList تمر دائمًا عبر الوكيل.</translation>
     </message>
     <message>
         <source>Your own domain and address lists.</source>
@@ -2630,11 +2705,16 @@ Try a country, a city or a code such as “de”.</source>
         <source>Tovra %1 is available</source>
         <translation>يتوفر Tovra %1</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>يجب تثبيت تحديث إلزامي لـ Tovra قبل الاتصال.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>حفظ</translation>
     </message>
     <message>
@@ -2651,6 +2731,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء</translation>
     </message>
     <message>
@@ -2686,6 +2767,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>استيراد</translation>
     </message>
     <message>
@@ -2710,6 +2792,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>إغلاق</translation>
     </message>
     <message>
@@ -2718,6 +2801,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Name of the rule list whose sites and addresses go straight to the internet</extracomment>
         <translation>مباشر</translation>
     </message>
     <message>
@@ -2730,15 +2814,15 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Sites and addresses that always go direct</source>
-        <translation>المواقع والعناوين التي تمر مباشرة دائمًا</translation>
+        <translation>المواقع الإلكترونية والعناوين التي تمر مباشرة دائمًا</translation>
     </message>
     <message>
         <source>Sites and addresses that always go through Tovra</source>
-        <translation>المواقع والعناوين التي تمر عبر Tovra دائمًا</translation>
+        <translation>المواقع الإلكترونية والعناوين التي تمر عبر Tovra دائمًا</translation>
     </message>
     <message>
         <source>Sites and addresses that are blocked</source>
-        <translation>المواقع والعناوين المحظورة</translation>
+        <translation>المواقع الإلكترونية والعناوين المحظورة</translation>
     </message>
     <message>
         <source>Loading rules…</source>
@@ -2797,7 +2881,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
-        <translation>Tovra: جارٍ تحديث تقسيم TovraVPN...</translation>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: جارٍ تحديث TovraVPN مقسَّم...</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN regions...</source>
@@ -2825,7 +2910,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>فشلت العملية</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>تعذّر إكمال الإجراء</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -2941,14 +3027,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings are left alone</extracomment>
         <translation>إيقاف</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings point at Tovra</extracomment>
         <translation>تشغيل</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy menu option and value, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>قفل</translation>
     </message>
     <message>
@@ -2961,10 +3050,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network menu option and value: devices nearby are reached outside the tunnel. Also the route in &quot;Regions use %1: %2&quot;</extracomment>
         <translation>مباشر</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network menu option and value: local traffic goes through the tunnel like the rest</extracomment>
         <translation>محمي</translation>
     </message>
     <message>
@@ -3021,7 +3112,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: جارٍ تبديل تقسيم TovraVPN...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: جارٍ التبديل إلى TovraVPN مقسَّم...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
@@ -3181,11 +3273,13 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>تعذّر إكمال إجراء الحساب</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>فشلت عملية الوضع</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>تعذّر تغيير الوضع</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3209,10 +3303,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>فشلت عملية مفتاح الإيقاف</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>تعذّر تغيير مفتاح الإيقاف</translation>
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Tunnel state after &quot;Tovra: &quot;: the VPN is connected (not connecting)</extracomment>
         <translation>متصل</translation>
     </message>
     <message>
@@ -3335,14 +3431,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>إخفاء هذا التحديث</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>ليس الآن</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>الخروج من Tovra</translation>
     </message>
     <message>
@@ -3351,6 +3450,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>فتح رابط التنزيل</translation>
     </message>
     <message>
@@ -3409,6 +3509,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>التنزيل في الخلفية</translation>
     </message>
     <message>
@@ -3421,6 +3522,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>جارٍ الإلغاء...</translation>
     </message>
     <message>
@@ -3429,14 +3531,17 @@ Available version: %2</source>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>إلغاء التنزيل</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>جارٍ فتح المثبّت...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>إعادة التنزيل</translation>
     </message>
     <message>
@@ -3445,11 +3550,16 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>تنزيل التحديث</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>تنزيل تحديث Tovra وتثبيته</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>جارٍ إعادة محاولة التنزيل...</translation>
     </message>
 </context>
 <context>
@@ -3460,6 +3570,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>التحقق من وجود تحديثات</translation>
     </message>
     <message>
@@ -3490,22 +3601,27 @@ Available version: %2</source>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>اتصال</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>تسجيل الدخول</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>إلغاء</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>قطع الاتصال</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>جارٍ قطع الاتصال…</translation>
     </message>
     <message>
@@ -3572,11 +3688,20 @@ Available version: %2</source>
         <source>Your traffic is not protected.</source>
         <translation>حركة المرور غير محمية.</translation>
     </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>متصل بـ %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>فشل الاتصال: %1</translation>
+    </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>مسح</translation>
     </message>
     <message>
@@ -3627,7 +3752,8 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>فشلت عملية الحساب</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>تعذّر إكمال إجراء الحساب</translation>
     </message>
 </context>
 </TS>

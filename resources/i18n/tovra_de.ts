@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Kontovorgang fehlgeschlagen</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Kontoaktion konnte nicht ausgeführt werden</translation>
     </message>
 </context>
 <context>
@@ -20,6 +21,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>Anmelden</translation>
     </message>
     <message>
@@ -40,14 +42,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>Registrieren</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>Passwort vergessen?</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>Anmeldung läuft...</translation>
     </message>
 </context>
@@ -55,10 +60,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>Verlängern</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>Abmelden</translation>
     </message>
     <message>
@@ -83,10 +90,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>Abmeldung läuft...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>Wird geöffnet…</translation>
     </message>
 </context>
@@ -98,6 +107,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>Ändern…</translation>
     </message>
     <message>
@@ -185,6 +195,7 @@
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
         <translation>verbunden</translation>
     </message>
     <message>
@@ -204,6 +215,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Abbrechen</translation>
     </message>
 </context>
@@ -219,14 +231,17 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>Speichern</translation>
     </message>
     <message>
         <source>Reset to default</source>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
         <translation>Auf Standard zurücksetzen</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Auto connect choice: connect to nothing when the service starts</extracomment>
         <translation>Aus</translation>
     </message>
     <message>
@@ -1263,42 +1278,52 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
+        <extracomment>Label of a folder path: where the service keeps its configuration</extracomment>
         <translation>Konfiguration</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation>Laufzeit</translation>
+        <extracomment>Label of a folder path: where the service keeps its running files (socket, PID file); not a duration</extracomment>
+        <translation>Laufzeitordner</translation>
     </message>
     <message>
         <source>Logs</source>
+        <extracomment>Label of a folder path: the service&apos;s log folder</extracomment>
         <translation>Protokolle</translation>
     </message>
     <message>
         <source>State file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Statusdatei</translation>
     </message>
     <message>
         <source>Credentials key</source>
+        <extracomment>Label of a file path: the key file for the stored account credentials</extracomment>
         <translation>Schlüssel für Zugangsdaten</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Label of a file path: the service&apos;s history file</extracomment>
         <translation>Verlauf</translation>
     </message>
     <message>
         <source>Profiles</source>
+        <extracomment>Label of a folder path: the service&apos;s profiles folder</extracomment>
         <translation>Profile</translation>
     </message>
     <message>
         <source>Control socket</source>
+        <extracomment>Label of a file path: the socket this app talks to the service through</extracomment>
         <translation>Steuer-Socket</translation>
     </message>
     <message>
         <source>PID file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>PID-Datei</translation>
     </message>
     <message>
         <source>Control address</source>
+        <extracomment>Label of an address the service listens on for control requests</extracomment>
         <translation>Steueradresse</translation>
     </message>
     <message>
@@ -1307,10 +1332,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>Reparieren</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>Protokolle öffnen</translation>
     </message>
     <message>
@@ -1319,7 +1346,7 @@
     </message>
     <message>
         <source>Resets the kill switch, the local proxy and the tunnel when traffic is stuck.</source>
-        <translation>Setzt Kill Switch, lokalen Proxy und Tunnel zurück, wenn der Datenverkehr hängt.</translation>
+        <translation>Setzt den Kill Switch, den lokalen Proxy und den Tunnel zurück, wenn der Datenverkehr hängt.</translation>
     </message>
     <message>
         <source>The Tovra service&apos;s log folder, for support.</source>
@@ -1327,10 +1354,12 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>Kopieren</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
+        <extracomment>%1 is one of the path labels above, such as &quot;Runtime&quot;</extracomment>
         <translation>Pfad für %1 kopieren</translation>
     </message>
     <message>
@@ -1360,6 +1389,17 @@
     <message>
         <source>%1, not compatible</source>
         <translation>%1, nicht kompatibel</translation>
+    </message>
+</context>
+<context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Text leeren</translation>
     </message>
 </context>
 <context>
@@ -1405,55 +1445,61 @@
     </message>
     <message>
         <source>On</source>
+        <extracomment>State of the kill switch: turned on</extracomment>
         <translation>Ein</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>State of the kill switch: turned off</extracomment>
         <translation>Aus</translation>
     </message>
     <message>
         <source>Kill Switch needs a VPN mode</source>
-        <translation>Kill Switch benötigt einen VPN-Modus</translation>
+        <translation>Der Kill Switch benötigt einen VPN-Modus</translation>
     </message>
     <message>
         <source>Kill Switch can’t run in Tovra Proxy. Switch to Auto (recommended), TovraVPN, or WireGuard to enable it.</source>
-        <translation>Kill Switch funktioniert nicht mit Tovra Proxy. Wechseln Sie zu Auto (empfohlen), TovraVPN oder WireGuard, um ihn einzuschalten.</translation>
+        <translation>Der Kill Switch funktioniert nicht mit Tovra Proxy. Wechseln Sie zu Auto (empfohlen), TovraVPN oder WireGuard, um ihn einzuschalten.</translation>
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>Zu Auto wechseln und einschalten</translation>
     </message>
     <message>
         <source>Switch to Auto and enable Kill Switch</source>
-        <translation>Zu Auto wechseln und Kill Switch einschalten</translation>
+        <translation>Zu Auto wechseln und den Kill Switch einschalten</translation>
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>Modus wählen…</translation>
     </message>
     <message>
         <source>Choose a mode for Kill Switch</source>
-        <translation>Modus für Kill Switch wählen</translation>
+        <translation>Modus für den Kill Switch wählen</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Tovra Proxy needs Kill Switch off</source>
-        <translation>Tovra Proxy erfordert, dass Kill Switch aus ist</translation>
+        <translation>Tovra Proxy erfordert, dass der Kill Switch aus ist</translation>
     </message>
     <message>
         <source>Kill Switch blocks Tovra Proxy. Turn Kill Switch off in Settings first, then switch modes.</source>
-        <translation>Kill Switch blockiert Tovra Proxy. Schalten Sie zuerst Kill Switch in den Einstellungen aus und wechseln Sie dann den Modus.</translation>
+        <translation>Der Kill Switch blockiert Tovra Proxy. Schalten Sie zuerst den Kill Switch in den Einstellungen aus und wechseln Sie dann den Modus.</translation>
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>Einstellungen öffnen</translation>
     </message>
     <message>
         <source>Open Settings to turn off Kill Switch</source>
-        <translation>Einstellungen öffnen, um Kill Switch auszuschalten</translation>
+        <translation>Einstellungen öffnen, um den Kill Switch auszuschalten</translation>
     </message>
 </context>
 <context>
@@ -1480,7 +1526,7 @@
     </message>
     <message>
         <source>Blocks traffic outside the tunnel whenever Kill Switch is on, even while disconnected.</source>
-        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange Kill Switch eingeschaltet ist, auch ohne Verbindung.</translation>
+        <translation>Blockiert Datenverkehr außerhalb des Tunnels, solange der Kill Switch eingeschaltet ist, auch ohne Verbindung.</translation>
     </message>
     <message>
         <source>Lockdown</source>
@@ -1488,7 +1534,7 @@
     </message>
     <message>
         <source>Set by the Tovra service: traffic outside the tunnel stays blocked and Kill Switch cannot be turned off here.</source>
-        <translation>Vom Tovra-Dienst festgelegt: Datenverkehr außerhalb des Tunnels bleibt blockiert und Kill Switch lässt sich hier nicht ausschalten.</translation>
+        <translation>Vom Tovra-Dienst festgelegt: Datenverkehr außerhalb des Tunnels bleibt blockiert und der Kill Switch lässt sich hier nicht ausschalten.</translation>
     </message>
     <message>
         <source>Mode</source>
@@ -1496,7 +1542,7 @@
     </message>
     <message>
         <source>When Kill Switch blocks traffic.</source>
-        <translation>Wann Kill Switch Datenverkehr blockiert.</translation>
+        <translation>Wann der Kill Switch Datenverkehr blockiert.</translation>
     </message>
     <message>
         <source>Local network</source>
@@ -1516,11 +1562,11 @@
     </message>
     <message>
         <source>%1. The Tovra service holds Kill Switch on; it cannot be turned off here.</source>
-        <translation>%1. Der Tovra-Dienst hält Kill Switch eingeschaltet; er lässt sich hier nicht ausschalten.</translation>
+        <translation>%1. Der Tovra-Dienst hält den Kill Switch eingeschaltet; er lässt sich hier nicht ausschalten.</translation>
     </message>
     <message>
         <source>Tovra Proxy is in use: Kill Switch needs a VPN mode.</source>
-        <translation>Tovra Proxy ist aktiv: Kill Switch benötigt einen VPN-Modus.</translation>
+        <translation>Tovra Proxy ist aktiv: Der Kill Switch benötigt einen VPN-Modus.</translation>
     </message>
     <message>
         <source>Reachable</source>
@@ -1567,6 +1613,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>Sprache verwenden</translation>
     </message>
 </context>
@@ -1735,6 +1782,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>Aktualisieren (%1 s)</translation>
     </message>
     <message>
@@ -1769,14 +1817,17 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Vorgang fehlgeschlagen</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>Aktion konnte nicht ausgeführt werden</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
         <translation>Einstellungen konnten nicht geändert werden</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
         <translation>Modus konnte nicht geändert werden</translation>
     </message>
 </context>
@@ -1812,7 +1863,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Kill Switch needs a VPN mode: pick Auto, WireGuard or TovraVPN to turn it on.</source>
-        <translation>Kill Switch benötigt einen VPN-Modus: Wählen Sie Auto, WireGuard oder TovraVPN, um ihn einzuschalten.</translation>
+        <translation>Der Kill Switch benötigt einen VPN-Modus: Wählen Sie Auto, WireGuard oder TovraVPN, um ihn einzuschalten.</translation>
     </message>
     <message>
         <source>Choose a mode</source>
@@ -1901,6 +1952,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network option: devices nearby are reached outside the tunnel</extracomment>
         <translation>Direkt</translation>
     </message>
     <message>
@@ -1909,6 +1961,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network option: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Geschützt</translation>
     </message>
     <message>
@@ -1917,6 +1970,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy option: the desktop proxy settings are left alone</extracomment>
         <translation>Aus</translation>
     </message>
     <message>
@@ -1925,6 +1979,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy option: the desktop proxy settings point at Tovra</extracomment>
         <translation>Ein</translation>
     </message>
     <message>
@@ -1933,6 +1988,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy option, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Gesperrt</translation>
     </message>
     <message>
@@ -1964,6 +2020,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Apply listeners</source>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
         <translation>Listener anwenden</translation>
     </message>
     <message>
@@ -1976,22 +2033,27 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>Server speichern</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>Server leeren</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>Split-DNS zurücksetzen</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy choice: the desktop proxy settings are left alone</extracomment>
         <translation>Aus</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy choice: the desktop proxy settings point at Tovra</extracomment>
         <translation>Ein</translation>
     </message>
     <message>
@@ -2008,10 +2070,12 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network choice: devices nearby are reached outside the tunnel</extracomment>
         <translation>Direkt</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network choice: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Geschützt</translation>
     </message>
     <message>
@@ -2196,6 +2260,14 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
 </context>
 <context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
@@ -2258,6 +2330,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Default route choice: traffic goes straight to the internet, outside the tunnel or proxy</extracomment>
         <translation>Direkt</translation>
     </message>
     <message>
@@ -2266,6 +2339,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>Wählen…</translation>
     </message>
     <message>
@@ -2282,6 +2356,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>Regeln bearbeiten…</translation>
     </message>
     <message>
@@ -2453,7 +2528,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Pick a VPN mode to turn on Kill Switch</source>
-        <translation>Wählen Sie einen VPN-Modus, um Kill Switch einzuschalten</translation>
+        <translation>Wählen Sie einen VPN-Modus, um den Kill Switch einzuschalten</translation>
     </message>
     <message>
         <source>Could not update kill switch</source>
@@ -2626,11 +2701,16 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 ist verfügbar</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Vor dem Verbinden muss ein erforderliches Tovra-Update installiert werden.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>Speichern</translation>
     </message>
     <message>
@@ -2647,6 +2727,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Abbrechen</translation>
     </message>
     <message>
@@ -2682,6 +2763,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>Importieren</translation>
     </message>
     <message>
@@ -2706,6 +2788,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>Schließen</translation>
     </message>
     <message>
@@ -2714,6 +2797,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Name of the rule list whose sites and addresses go straight to the internet</extracomment>
         <translation>Direkt</translation>
     </message>
     <message>
@@ -2793,6 +2877,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: TovraVPN Split wird aktualisiert...</translation>
     </message>
     <message>
@@ -2821,7 +2906,8 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>operation failed</source>
-        <translation>Vorgang fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>Aktion konnte nicht ausgeführt werden</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -2937,14 +3023,17 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings are left alone</extracomment>
         <translation>Aus</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings point at Tovra</extracomment>
         <translation>Ein</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy menu option and value, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Gesperrt</translation>
     </message>
     <message>
@@ -2957,10 +3046,12 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network menu option and value: devices nearby are reached outside the tunnel. Also the route in &quot;Regions use %1: %2&quot;</extracomment>
         <translation>Direkt</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network menu option and value: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Geschützt</translation>
     </message>
     <message>
@@ -3017,7 +3108,8 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: TovraVPN Split wird umgeschaltet...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: Wechsel zu TovraVPN Split...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
@@ -3177,11 +3269,13 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>Kontovorgang fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>Kontoaktion konnte nicht ausgeführt werden</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>Moduswechsel fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>Modus konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3205,10 +3299,12 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>Kill-Switch-Vorgang fehlgeschlagen</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>Kill Switch konnte nicht geändert werden</translation>
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Tunnel state after &quot;Tovra: &quot;: the VPN is connected (not connecting)</extracomment>
         <translation>verbunden</translation>
     </message>
     <message>
@@ -3331,14 +3427,17 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>Dieses Update ausblenden</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>Nicht jetzt</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Tovra beenden</translation>
     </message>
     <message>
@@ -3347,6 +3446,7 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>Download-Link öffnen</translation>
     </message>
     <message>
@@ -3405,6 +3505,7 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>Im Hintergrund laden</translation>
     </message>
     <message>
@@ -3417,6 +3518,7 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>Wird abgebrochen...</translation>
     </message>
     <message>
@@ -3425,14 +3527,17 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>Download abbrechen</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>Installationsprogramm wird geöffnet...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>Erneut versuchen</translation>
     </message>
     <message>
@@ -3441,11 +3546,16 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>Update laden</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Tovra-Update herunterladen und installieren</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Download wird erneut versucht...</translation>
     </message>
 </context>
 <context>
@@ -3456,6 +3566,7 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>Nach Updates suchen</translation>
     </message>
     <message>
@@ -3486,22 +3597,27 @@ Verfügbare Version: %2</translation>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>Verbinden</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>Anmelden</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>Trennen</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>Wird getrennt…</translation>
     </message>
     <message>
@@ -3562,17 +3678,26 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Kill Switch blocks traffic until you connect.</source>
-        <translation>Kill Switch blockiert den Datenverkehr, bis Sie sich verbinden.</translation>
+        <translation>Der Kill Switch blockiert den Datenverkehr, bis Sie sich verbinden.</translation>
     </message>
     <message>
         <source>Your traffic is not protected.</source>
         <translation>Ihr Datenverkehr ist nicht geschützt.</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Verbunden mit %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Verbindung fehlgeschlagen: %1</translation>
     </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>Leeren</translation>
     </message>
     <message>
@@ -3623,7 +3748,8 @@ Verfügbare Version: %2</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Kontovorgang fehlgeschlagen</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Kontoaktion konnte nicht ausgeführt werden</translation>
     </message>
 </context>
 </TS>

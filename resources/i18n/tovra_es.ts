@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Error en la operación de la cuenta</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>No se pudo completar la acción de la cuenta</translation>
     </message>
 </context>
 <context>
@@ -20,6 +21,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>Iniciar sesión</translation>
     </message>
     <message>
@@ -40,14 +42,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>Crear cuenta</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>¿Has olvidado la contraseña?</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>Iniciando sesión...</translation>
     </message>
 </context>
@@ -55,10 +60,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>Renovar</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>Cerrar sesión</translation>
     </message>
     <message>
@@ -83,10 +90,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>Cerrando sesión...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>Abriendo…</translation>
     </message>
 </context>
@@ -98,6 +107,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>Cambiar…</translation>
     </message>
     <message>
@@ -185,6 +195,7 @@
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
         <translation>conectado</translation>
     </message>
     <message>
@@ -204,6 +215,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
 </context>
@@ -219,14 +231,17 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>Guardar</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation>Restablecer valor predeterminado</translation>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
+        <translation>Restablecer</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Auto connect choice: connect to nothing when the service starts</extracomment>
         <translation>Desactivada</translation>
     </message>
     <message>
@@ -1263,42 +1278,52 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
+        <extracomment>Label of a folder path: where the service keeps its configuration</extracomment>
         <translation>Configuración</translation>
     </message>
     <message>
         <source>Runtime</source>
+        <extracomment>Label of a folder path: where the service keeps its running files (socket, PID file); not a duration</extracomment>
         <translation>Datos de ejecución</translation>
     </message>
     <message>
         <source>Logs</source>
+        <extracomment>Label of a folder path: the service&apos;s log folder</extracomment>
         <translation>Registros</translation>
     </message>
     <message>
         <source>State file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Archivo de estado</translation>
     </message>
     <message>
         <source>Credentials key</source>
+        <extracomment>Label of a file path: the key file for the stored account credentials</extracomment>
         <translation>Clave de credenciales</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Label of a file path: the service&apos;s history file</extracomment>
         <translation>Historial</translation>
     </message>
     <message>
         <source>Profiles</source>
+        <extracomment>Label of a folder path: the service&apos;s profiles folder</extracomment>
         <translation>Perfiles</translation>
     </message>
     <message>
         <source>Control socket</source>
+        <extracomment>Label of a file path: the socket this app talks to the service through</extracomment>
         <translation>Socket de control</translation>
     </message>
     <message>
         <source>PID file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Archivo PID</translation>
     </message>
     <message>
         <source>Control address</source>
+        <extracomment>Label of an address the service listens on for control requests</extracomment>
         <translation>Dirección de control</translation>
     </message>
     <message>
@@ -1307,10 +1332,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>Reparar</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>Abrir registros</translation>
     </message>
     <message>
@@ -1327,10 +1354,12 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>Copiar</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
+        <extracomment>%1 is one of the path labels above, such as &quot;Runtime&quot;</extracomment>
         <translation>Copiar ruta: %1</translation>
     </message>
     <message>
@@ -1360,6 +1389,17 @@
     <message>
         <source>%1, not compatible</source>
         <translation>%1, no compatible</translation>
+    </message>
+</context>
+<context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Borrar el texto</translation>
     </message>
 </context>
 <context>
@@ -1405,10 +1445,12 @@
     </message>
     <message>
         <source>On</source>
+        <extracomment>State of the kill switch: turned on</extracomment>
         <translation>Activado</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>State of the kill switch: turned off</extracomment>
         <translation>Desactivado</translation>
     </message>
     <message>
@@ -1421,6 +1463,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>Cambiar a Automático y activar</translation>
     </message>
     <message>
@@ -1429,6 +1472,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>Elegir modo…</translation>
     </message>
     <message>
@@ -1437,6 +1481,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -1449,6 +1494,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>Abrir Configuración</translation>
     </message>
     <message>
@@ -1567,6 +1613,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>Usar idioma</translation>
     </message>
 </context>
@@ -1735,6 +1782,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>Actualizar (%1 s)</translation>
     </message>
     <message>
@@ -1769,15 +1817,18 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Error en la operación</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>No se pudo completar la acción</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>Error en la operación de configuración</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>No se pudo cambiar la configuración</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>Error en la operación de modo</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>No se pudo cambiar el modo</translation>
     </message>
 </context>
 <context>
@@ -1901,6 +1952,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network option: devices nearby are reached outside the tunnel</extracomment>
         <translation>Directa</translation>
     </message>
     <message>
@@ -1909,6 +1961,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network option: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protegida</translation>
     </message>
     <message>
@@ -1917,6 +1970,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy option: the desktop proxy settings are left alone</extracomment>
         <translation>Desactivado</translation>
     </message>
     <message>
@@ -1925,6 +1979,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy option: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activado</translation>
     </message>
     <message>
@@ -1933,6 +1988,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy option, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Bloqueado</translation>
     </message>
     <message>
@@ -1964,7 +2020,8 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation>Aplicar direcciones de escucha</translation>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
+        <translation>Aplicar direcciones</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
@@ -1976,22 +2033,27 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>Guardar servidores</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>Borrar servidores</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>Restablecer el DNS dividido</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy choice: the desktop proxy settings are left alone</extracomment>
         <translation>Desactivado</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy choice: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activado</translation>
     </message>
     <message>
@@ -2008,10 +2070,12 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network choice: devices nearby are reached outside the tunnel</extracomment>
         <translation>Directa</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network choice: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protegida</translation>
     </message>
     <message>
@@ -2196,6 +2260,14 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
 </context>
 <context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
@@ -2258,6 +2330,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Default route choice: traffic goes straight to the internet, outside the tunnel or proxy</extracomment>
         <translation>Directa</translation>
     </message>
     <message>
@@ -2266,6 +2339,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>Elegir…</translation>
     </message>
     <message>
@@ -2282,6 +2356,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>Editar reglas…</translation>
     </message>
     <message>
@@ -2626,11 +2701,16 @@ Prueba con un país, una ciudad o un código como «de».</translation>
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 está disponible</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Hay que instalar una actualización obligatoria de Tovra antes de conectar.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>Guardar</translation>
     </message>
     <message>
@@ -2647,6 +2727,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
@@ -2682,6 +2763,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>Importar</translation>
     </message>
     <message>
@@ -2706,6 +2788,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>Cerrar</translation>
     </message>
     <message>
@@ -2714,6 +2797,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Name of the rule list whose sites and addresses go straight to the internet</extracomment>
         <translation>Directo</translation>
     </message>
     <message>
@@ -2793,6 +2877,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: actualizando TovraVPN dividido...</translation>
     </message>
     <message>
@@ -2821,7 +2906,8 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>error en la operación</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>no se pudo completar la acción</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -2937,14 +3023,17 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings are left alone</extracomment>
         <translation>Desactivado</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activado</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy menu option and value, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Bloqueado</translation>
     </message>
     <message>
@@ -2957,10 +3046,12 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network menu option and value: devices nearby are reached outside the tunnel. Also the route in &quot;Regions use %1: %2&quot;</extracomment>
         <translation>Directa</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network menu option and value: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protegida</translation>
     </message>
     <message>
@@ -3017,7 +3108,8 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: cambiando TovraVPN dividido...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: cambiando a TovraVPN dividido...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
@@ -3177,11 +3269,13 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>error en la operación de la cuenta</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>no se pudo completar la acción de la cuenta</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>error en la operación de modo</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>no se pudo cambiar el modo</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3205,10 +3299,12 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>error en la operación del Kill Switch</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>no se pudo cambiar el Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Tunnel state after &quot;Tovra: &quot;: the VPN is connected (not connecting)</extracomment>
         <translation>conectado</translation>
     </message>
     <message>
@@ -3331,14 +3427,17 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>Ocultar esta actualización</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>Ahora no</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Salir de Tovra</translation>
     </message>
     <message>
@@ -3347,6 +3446,7 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>Abrir enlace de descarga</translation>
     </message>
     <message>
@@ -3405,6 +3505,7 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>Descargar en segundo plano</translation>
     </message>
     <message>
@@ -3417,6 +3518,7 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>Cancelando...</translation>
     </message>
     <message>
@@ -3425,14 +3527,17 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>Cancelar descarga</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>Abriendo el instalador...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>Reintentar descarga</translation>
     </message>
     <message>
@@ -3441,11 +3546,16 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>Descargar actualización</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Descargar e instalar la actualización de Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Reintentando la descarga...</translation>
     </message>
 </context>
 <context>
@@ -3456,6 +3566,7 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>Buscar actualizaciones</translation>
     </message>
     <message>
@@ -3486,22 +3597,27 @@ Versión disponible: %2</translation>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>Conectar</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>Iniciar sesión</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>Cancelar</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>Desconectar</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>Desconectando…</translation>
     </message>
     <message>
@@ -3568,11 +3684,20 @@ Versión disponible: %2</translation>
         <source>Your traffic is not protected.</source>
         <translation>Tu tráfico no está protegido.</translation>
     </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Conectado a %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Error de conexión: %1</translation>
+    </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>Borrar</translation>
     </message>
     <message>
@@ -3623,7 +3748,8 @@ Versión disponible: %2</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Error en la operación de la cuenta</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>No se pudo completar la acción de la cuenta</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Échec de l’opération sur le compte</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Impossible d’effectuer l’action sur le compte</translation>
     </message>
 </context>
 <context>
@@ -20,6 +21,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>Se connecter</translation>
     </message>
     <message>
@@ -40,14 +42,17 @@
     </message>
     <message>
         <source>Sign Up</source>
-        <translation>Créer un compte</translation>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
+        <translation>S’inscrire</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>Mot de passe oublié&#xa0;?</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>Connexion au compte...</translation>
     </message>
 </context>
@@ -55,10 +60,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>Renouveler</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>Se déconnecter</translation>
     </message>
     <message>
@@ -83,10 +90,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>Déconnexion du compte...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>Ouverture…</translation>
     </message>
 </context>
@@ -98,6 +107,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>Modifier…</translation>
     </message>
     <message>
@@ -185,6 +195,7 @@
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
         <translation>connecté</translation>
     </message>
     <message>
@@ -204,6 +215,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler</translation>
     </message>
 </context>
@@ -219,14 +231,17 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Reset to default</source>
-        <translation>Rétablir la valeur par défaut</translation>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Auto connect choice: connect to nothing when the service starts</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
@@ -1263,42 +1278,52 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
+        <extracomment>Label of a folder path: where the service keeps its configuration</extracomment>
         <translation>Configuration</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation>Exécution</translation>
+        <extracomment>Label of a folder path: where the service keeps its running files (socket, PID file); not a duration</extracomment>
+        <translation>Dossier d’exécution</translation>
     </message>
     <message>
         <source>Logs</source>
+        <extracomment>Label of a folder path: the service&apos;s log folder</extracomment>
         <translation>Journaux</translation>
     </message>
     <message>
         <source>State file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Fichier d’état</translation>
     </message>
     <message>
         <source>Credentials key</source>
+        <extracomment>Label of a file path: the key file for the stored account credentials</extracomment>
         <translation>Clé des identifiants</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Label of a file path: the service&apos;s history file</extracomment>
         <translation>Historique</translation>
     </message>
     <message>
         <source>Profiles</source>
+        <extracomment>Label of a folder path: the service&apos;s profiles folder</extracomment>
         <translation>Profils</translation>
     </message>
     <message>
         <source>Control socket</source>
+        <extracomment>Label of a file path: the socket this app talks to the service through</extracomment>
         <translation>Socket de contrôle</translation>
     </message>
     <message>
         <source>PID file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Fichier PID</translation>
     </message>
     <message>
         <source>Control address</source>
+        <extracomment>Label of an address the service listens on for control requests</extracomment>
         <translation>Adresse de contrôle</translation>
     </message>
     <message>
@@ -1307,11 +1332,13 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>Réparer</translation>
     </message>
     <message>
         <source>Open logs</source>
-        <translation>Ouvrir les journaux</translation>
+        <extracomment>Button that opens the log folder</extracomment>
+        <translation>Voir les journaux</translation>
     </message>
     <message>
         <source>Repair connection</source>
@@ -1327,10 +1354,12 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>Copier</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
+        <extracomment>%1 is one of the path labels above, such as &quot;Runtime&quot;</extracomment>
         <translation>Copier le chemin&#xa0;: %1</translation>
     </message>
     <message>
@@ -1360,6 +1389,17 @@
     <message>
         <source>%1, not compatible</source>
         <translation>%1, non compatible</translation>
+    </message>
+</context>
+<context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Effacer le texte</translation>
     </message>
 </context>
 <context>
@@ -1405,10 +1445,12 @@
     </message>
     <message>
         <source>On</source>
+        <extracomment>State of the kill switch: turned on</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>State of the kill switch: turned off</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
@@ -1421,6 +1463,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>Passer en Auto et activer</translation>
     </message>
     <message>
@@ -1429,6 +1472,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>Choisir un mode…</translation>
     </message>
     <message>
@@ -1437,6 +1481,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
@@ -1449,6 +1494,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>Ouvrir les Paramètres</translation>
     </message>
     <message>
@@ -1567,6 +1613,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>Utiliser cette langue</translation>
     </message>
 </context>
@@ -1735,6 +1782,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>Actualiser (%1 s)</translation>
     </message>
     <message>
@@ -1769,15 +1817,18 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Échec de l’opération</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>Impossible d’effectuer l’action</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>Échec de la modification des paramètres</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>Impossible de modifier les paramètres</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>Échec du changement de mode</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>Impossible de changer de mode</translation>
     </message>
 </context>
 <context>
@@ -1901,6 +1952,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network option: devices nearby are reached outside the tunnel</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
@@ -1909,6 +1961,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network option: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protégé</translation>
     </message>
     <message>
@@ -1917,6 +1970,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy option: the desktop proxy settings are left alone</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
@@ -1925,6 +1979,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy option: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
@@ -1933,6 +1988,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy option, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Verrouillé</translation>
     </message>
     <message>
@@ -1964,7 +2020,8 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Apply listeners</source>
-        <translation>Appliquer les adresses d’écoute</translation>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
+        <translation>Appliquer les adresses</translation>
     </message>
     <message>
         <source>Local DNS servers</source>
@@ -1976,22 +2033,27 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>Enregistrer les serveurs</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>Effacer les serveurs</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
-        <translation>Réinitialiser le DNS fractionné</translation>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
+        <translation>Rétablir le DNS fractionné</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy choice: the desktop proxy settings are left alone</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy choice: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
@@ -2008,10 +2070,12 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network choice: devices nearby are reached outside the tunnel</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network choice: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protégé</translation>
     </message>
     <message>
@@ -2196,6 +2260,14 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
 </context>
 <context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1 : %2</translation>
+    </message>
+</context>
+<context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
@@ -2258,6 +2330,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Default route choice: traffic goes straight to the internet, outside the tunnel or proxy</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
@@ -2266,6 +2339,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>Choisir…</translation>
     </message>
     <message>
@@ -2282,6 +2356,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>Modifier les règles…</translation>
     </message>
     <message>
@@ -2626,11 +2701,16 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 est disponible</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Une mise à jour obligatoire de Tovra doit être installée avant la connexion.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>Enregistrer</translation>
     </message>
     <message>
@@ -2647,6 +2727,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
@@ -2682,6 +2763,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>Importer</translation>
     </message>
     <message>
@@ -2706,6 +2788,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>Fermer</translation>
     </message>
     <message>
@@ -2714,6 +2797,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Name of the rule list whose sites and addresses go straight to the internet</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
@@ -2793,6 +2877,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra&#xa0;: mise à jour de TovraVPN Split...</translation>
     </message>
     <message>
@@ -2821,7 +2906,8 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>échec de l’opération</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>impossible d’effectuer l’action</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -2937,14 +3023,17 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings are left alone</extracomment>
         <translation>Désactivé</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings point at Tovra</extracomment>
         <translation>Activé</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy menu option and value, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>Verrouillé</translation>
     </message>
     <message>
@@ -2957,10 +3046,12 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network menu option and value: devices nearby are reached outside the tunnel. Also the route in &quot;Regions use %1: %2&quot;</extracomment>
         <translation>Direct</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network menu option and value: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Protégé</translation>
     </message>
     <message>
@@ -3017,7 +3108,8 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra&#xa0;: changement de TovraVPN Split...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra : passage à TovraVPN Split...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
@@ -3177,11 +3269,13 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>échec de l’opération sur le compte</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>impossible d’effectuer l’action sur le compte</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>échec du changement de mode</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>impossible de changer de mode</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3205,10 +3299,12 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>échec de l’opération sur le Kill Switch</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>impossible de modifier le Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Tunnel state after &quot;Tovra: &quot;: the VPN is connected (not connecting)</extracomment>
         <translation>connecté</translation>
     </message>
     <message>
@@ -3331,14 +3427,17 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>Masquer cette mise à jour</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>Plus tard</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Quitter Tovra</translation>
     </message>
     <message>
@@ -3347,6 +3446,7 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>Ouvrir le lien</translation>
     </message>
     <message>
@@ -3405,6 +3505,7 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>Télécharger en arrière-plan</translation>
     </message>
     <message>
@@ -3417,6 +3518,7 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>Annulation...</translation>
     </message>
     <message>
@@ -3425,14 +3527,17 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>Annuler le téléchargement</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
-        <translation>Ouverture du programme d’installation...</translation>
+        <extracomment>Button while the downloaded installer opens</extracomment>
+        <translation>Lancement de l’installation...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>Réessayer</translation>
     </message>
     <message>
@@ -3441,11 +3546,16 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>Télécharger la mise à jour</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Télécharger et installer la mise à jour de Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Nouvelle tentative de téléchargement...</translation>
     </message>
 </context>
 <context>
@@ -3456,6 +3566,7 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>Rechercher des mises à jour</translation>
     </message>
     <message>
@@ -3486,22 +3597,27 @@ Version disponible&#xa0;: %2</translation>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>Connecter</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>Se connecter</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>Annuler</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>Déconnecter</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>Déconnexion…</translation>
     </message>
     <message>
@@ -3568,11 +3684,20 @@ Version disponible&#xa0;: %2</translation>
         <source>Your traffic is not protected.</source>
         <translation>Votre trafic n’est pas protégé.</translation>
     </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Connecté à %1</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Échec de la connexion : %1</translation>
+    </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>Effacer</translation>
     </message>
     <message>
@@ -3623,7 +3748,8 @@ Version disponible&#xa0;: %2</translation>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Échec de l’opération sur le compte</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Impossible d’effectuer l’action sur le compte</translation>
     </message>
 </context>
 </TS>

@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>アカウントの操作に失敗しました</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>アカウントの操作を完了できませんでした</translation>
     </message>
 </context>
 <context>
@@ -20,6 +21,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>サインイン</translation>
     </message>
     <message>
@@ -40,14 +42,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>新規登録</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>パスワードをお忘れですか？</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>サインインしています...</translation>
     </message>
 </context>
@@ -55,10 +60,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>契約を更新</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>サインアウト</translation>
     </message>
     <message>
@@ -83,10 +90,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>サインアウトしています...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>開いています…</translation>
     </message>
 </context>
@@ -98,6 +107,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>変更…</translation>
     </message>
     <message>
@@ -106,7 +116,7 @@
     </message>
     <message>
         <source>Start Tovra in the tray when you sign in to the desktop.</source>
-        <translation>デスクトップにサインインしたときに Tovra をトレイで起動します。</translation>
+        <translation>デスクトップにログインしたときに Tovra をトレイで起動します。</translation>
     </message>
     <message>
         <source>Show window at launch</source>
@@ -185,7 +195,8 @@
     </message>
     <message>
         <source>connected</source>
-        <translation>接続中</translation>
+        <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
+        <translation>接続済み</translation>
     </message>
     <message>
         <source>not in your plan</source>
@@ -204,6 +215,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>キャンセル</translation>
     </message>
 </context>
@@ -219,14 +231,17 @@
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>保存</translation>
     </message>
     <message>
         <source>Reset to default</source>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
         <translation>既定値に戻す</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Auto connect choice: connect to nothing when the service starts</extracomment>
         <translation>オフ</translation>
     </message>
     <message>
@@ -313,7 +328,7 @@
     </message>
     <message>
         <source>Tovra daemon access denied. Add this user to the tovracli group, then sign out and back in.</source>
-        <translation>Tovra サービスへのアクセスが拒否されました。このユーザーを tovracli グループに追加してから、サインアウトして再度サインインしてください。</translation>
+        <translation>Tovra サービスへのアクセスが拒否されました。このユーザーを tovracli グループに追加してから、デスクトップからログアウトして再度ログインしてください。</translation>
     </message>
     <message>
         <source>Could not connect to Tovra daemon.</source>
@@ -1263,42 +1278,52 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
+        <extracomment>Label of a folder path: where the service keeps its configuration</extracomment>
         <translation>設定ファイル</translation>
     </message>
     <message>
         <source>Runtime</source>
-        <translation>ランタイム</translation>
+        <extracomment>Label of a folder path: where the service keeps its running files (socket, PID file); not a duration</extracomment>
+        <translation>ランタイムディレクトリ</translation>
     </message>
     <message>
         <source>Logs</source>
+        <extracomment>Label of a folder path: the service&apos;s log folder</extracomment>
         <translation>ログ</translation>
     </message>
     <message>
         <source>State file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>状態ファイル</translation>
     </message>
     <message>
         <source>Credentials key</source>
+        <extracomment>Label of a file path: the key file for the stored account credentials</extracomment>
         <translation>認証情報キー</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Label of a file path: the service&apos;s history file</extracomment>
         <translation>履歴</translation>
     </message>
     <message>
         <source>Profiles</source>
+        <extracomment>Label of a folder path: the service&apos;s profiles folder</extracomment>
         <translation>プロファイル</translation>
     </message>
     <message>
         <source>Control socket</source>
+        <extracomment>Label of a file path: the socket this app talks to the service through</extracomment>
         <translation>制御ソケット</translation>
     </message>
     <message>
         <source>PID file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>PID ファイル</translation>
     </message>
     <message>
         <source>Control address</source>
+        <extracomment>Label of an address the service listens on for control requests</extracomment>
         <translation>制御アドレス</translation>
     </message>
     <message>
@@ -1307,10 +1332,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>修復</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>ログを開く</translation>
     </message>
     <message>
@@ -1327,10 +1354,12 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>コピー</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
+        <extracomment>%1 is one of the path labels above, such as &quot;Runtime&quot;</extracomment>
         <translation>%1 のパスをコピー</translation>
     </message>
     <message>
@@ -1360,6 +1389,17 @@
     <message>
         <source>%1, not compatible</source>
         <translation>%1 (互換性なし)</translation>
+    </message>
+</context>
+<context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>テキストをクリア</translation>
     </message>
 </context>
 <context>
@@ -1405,10 +1445,12 @@
     </message>
     <message>
         <source>On</source>
+        <extracomment>State of the kill switch: turned on</extracomment>
         <translation>オン</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>State of the kill switch: turned off</extracomment>
         <translation>オフ</translation>
     </message>
     <message>
@@ -1421,6 +1463,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>自動に切り替えて有効化</translation>
     </message>
     <message>
@@ -1429,6 +1472,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>モードを選択…</translation>
     </message>
     <message>
@@ -1437,6 +1481,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
@@ -1449,6 +1494,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>設定を開く</translation>
     </message>
     <message>
@@ -1472,7 +1518,7 @@
     </message>
     <message>
         <source>Blocks traffic outside the tunnel while Tovra is connected or connecting.</source>
-        <translation>Tovra の接続中および接続処理中に、トンネル外の通信をブロックします。</translation>
+        <translation>Tovra が接続済みまたは接続中のとき、トンネル外の通信をブロックします。</translation>
     </message>
     <message>
         <source>Always</source>
@@ -1567,6 +1613,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>この言語を使用</translation>
     </message>
 </context>
@@ -1735,6 +1782,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>更新 (%1 秒)</translation>
     </message>
     <message>
@@ -1769,15 +1817,18 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>操作に失敗しました</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>操作を完了できませんでした</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
-        <translation>設定の操作に失敗しました</translation>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
+        <translation>設定を変更できませんでした</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
-        <translation>モードの操作に失敗しました</translation>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
+        <translation>モードを変更できませんでした</translation>
     </message>
 </context>
 <context>
@@ -1901,6 +1952,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network option: devices nearby are reached outside the tunnel</extracomment>
         <translation>直接</translation>
     </message>
     <message>
@@ -1909,6 +1961,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network option: local traffic goes through the tunnel like the rest</extracomment>
         <translation>保護</translation>
     </message>
     <message>
@@ -1917,6 +1970,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy option: the desktop proxy settings are left alone</extracomment>
         <translation>オフ</translation>
     </message>
     <message>
@@ -1925,6 +1979,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy option: the desktop proxy settings point at Tovra</extracomment>
         <translation>オン</translation>
     </message>
     <message>
@@ -1933,6 +1988,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy option, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>ロック</translation>
     </message>
     <message>
@@ -1964,6 +2020,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Apply listeners</source>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
         <translation>リスナーを適用</translation>
     </message>
     <message>
@@ -1976,22 +2033,27 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>サーバーを保存</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>サーバーをクリア</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>スプリット DNS をリセット</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy choice: the desktop proxy settings are left alone</extracomment>
         <translation>オフ</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy choice: the desktop proxy settings point at Tovra</extracomment>
         <translation>オン</translation>
     </message>
     <message>
@@ -2008,10 +2070,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network choice: devices nearby are reached outside the tunnel</extracomment>
         <translation>直接</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network choice: local traffic goes through the tunnel like the rest</extracomment>
         <translation>保護</translation>
     </message>
     <message>
@@ -2196,6 +2260,14 @@ Try a country, a city or a code such as “de”.</source>
     </message>
 </context>
 <context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1：%2</translation>
+    </message>
+</context>
+<context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
@@ -2258,6 +2330,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Default route choice: traffic goes straight to the internet, outside the tunnel or proxy</extracomment>
         <translation>直接</translation>
     </message>
     <message>
@@ -2266,6 +2339,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>選択…</translation>
     </message>
     <message>
@@ -2282,6 +2356,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>ルールを編集…</translation>
     </message>
     <message>
@@ -2625,11 +2700,16 @@ Try a country, a city or a code such as “de”.</source>
         <source>Tovra %1 is available</source>
         <translation>Tovra %1 が利用可能です</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>接続する前に、必須の Tovra アップデートをインストールする必要があります。</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>保存</translation>
     </message>
     <message>
@@ -2646,6 +2726,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
@@ -2681,6 +2762,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>インポート</translation>
     </message>
     <message>
@@ -2705,6 +2787,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>閉じる</translation>
     </message>
     <message>
@@ -2713,6 +2796,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Name of the rule list whose sites and addresses go straight to the internet</extracomment>
         <translation>直接</translation>
     </message>
     <message>
@@ -2792,6 +2876,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: TovraVPN スプリットを変更しています...</translation>
     </message>
     <message>
@@ -2820,7 +2905,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>操作に失敗しました</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>操作を完了できませんでした</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -2936,14 +3022,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings are left alone</extracomment>
         <translation>オフ</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings point at Tovra</extracomment>
         <translation>オン</translation>
     </message>
     <message>
         <source>Lock</source>
+        <extracomment>System proxy menu option and value, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
         <translation>ロック</translation>
     </message>
     <message>
@@ -2956,10 +3045,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network menu option and value: devices nearby are reached outside the tunnel. Also the route in &quot;Regions use %1: %2&quot;</extracomment>
         <translation>直接</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network menu option and value: local traffic goes through the tunnel like the rest</extracomment>
         <translation>保護</translation>
     </message>
     <message>
@@ -3016,7 +3107,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
-        <translation>Tovra: TovraVPN スプリットを切り替えています...</translation>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
+        <translation>Tovra: TovraVPN スプリットに切り替えています...</translation>
     </message>
     <message>
         <source>Tovra: switching to Tovra Proxy...</source>
@@ -3176,11 +3268,13 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>アカウントの操作に失敗しました</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>アカウントの操作を完了できませんでした</translation>
     </message>
     <message>
         <source>mode operation failed</source>
-        <translation>モードの操作に失敗しました</translation>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
+        <translation>モードを変更できませんでした</translation>
     </message>
     <message>
         <source>Mode updated</source>
@@ -3204,10 +3298,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>キルスイッチの操作に失敗しました</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>キルスイッチを変更できませんでした</translation>
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Tunnel state after &quot;Tovra: &quot;: the VPN is connected (not connecting)</extracomment>
         <translation>接続済み</translation>
     </message>
     <message>
@@ -3330,14 +3426,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>このアップデートを表示しない</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>後で</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Tovra を終了</translation>
     </message>
     <message>
@@ -3346,6 +3445,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>ダウンロードリンクを開く</translation>
     </message>
     <message>
@@ -3404,6 +3504,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>バックグラウンドでダウンロード</translation>
     </message>
     <message>
@@ -3416,6 +3517,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>キャンセルしています...</translation>
     </message>
     <message>
@@ -3424,14 +3526,17 @@ Available version: %2</source>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>ダウンロードをキャンセル</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>インストーラーを開いています...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>ダウンロードを再試行</translation>
     </message>
     <message>
@@ -3440,11 +3545,16 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>アップデートをダウンロード</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Tovra のアップデートをダウンロードしてインストールします</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>ダウンロードを再試行しています...</translation>
     </message>
 </context>
 <context>
@@ -3455,6 +3565,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>アップデートを確認</translation>
     </message>
     <message>
@@ -3485,22 +3596,27 @@ Available version: %2</source>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>接続</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>サインイン</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>キャンセル</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>切断</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>切断しています…</translation>
     </message>
     <message>
@@ -3567,11 +3683,20 @@ Available version: %2</source>
         <source>Your traffic is not protected.</source>
         <translation>通信は保護されていません。</translation>
     </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>%1 に接続しました</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>接続に失敗しました: %1</translation>
+    </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>クリア</translation>
     </message>
     <message>
@@ -3622,7 +3747,8 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>アカウントの操作に失敗しました</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>アカウントの操作を完了できませんでした</translation>
     </message>
 </context>
 </TS>

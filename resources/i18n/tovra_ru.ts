@@ -9,7 +9,8 @@
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Не удалось выполнить операцию с аккаунтом</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Не удалось выполнить действие с аккаунтом</translation>
     </message>
 </context>
 <context>
@@ -20,6 +21,7 @@
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that signs in to the Tovra account</extracomment>
         <translation>Войти</translation>
     </message>
     <message>
@@ -40,14 +42,17 @@
     </message>
     <message>
         <source>Sign Up</source>
+        <extracomment>Button that opens the page to create a Tovra account</extracomment>
         <translation>Регистрация</translation>
     </message>
     <message>
         <source>Forgot password?</source>
+        <extracomment>Button (shown as a link) that opens the password reset page</extracomment>
         <translation>Забыли пароль?</translation>
     </message>
     <message>
         <source>Signing in...</source>
+        <extracomment>Button while the sign-in runs</extracomment>
         <translation>Вход...</translation>
     </message>
 </context>
@@ -55,10 +60,12 @@
     <name>AccountSummaryCard</name>
     <message>
         <source>Renew</source>
+        <extracomment>Button that opens the page to renew the plan</extracomment>
         <translation>Продлить</translation>
     </message>
     <message>
         <source>Sign Out</source>
+        <extracomment>Button that signs out of the Tovra account</extracomment>
         <translation>Выйти</translation>
     </message>
     <message>
@@ -83,10 +90,12 @@
     </message>
     <message>
         <source>Signing out...</source>
+        <extracomment>Button while the sign-out runs</extracomment>
         <translation>Выход...</translation>
     </message>
     <message>
         <source>Opening…</source>
+        <extracomment>Button while the renewal page opens</extracomment>
         <translation>Открытие…</translation>
     </message>
 </context>
@@ -98,6 +107,7 @@
     </message>
     <message>
         <source>Change…</source>
+        <extracomment>Button that opens the language picker</extracomment>
         <translation>Изменить…</translation>
     </message>
     <message>
@@ -185,6 +195,7 @@
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Said of a location in the list: it is the one the VPN is connected to now (not connecting)</extracomment>
         <translation>подключено</translation>
     </message>
     <message>
@@ -204,6 +215,7 @@
     <name>ConfirmDialog</name>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Отмена</translation>
     </message>
 </context>
@@ -215,18 +227,21 @@
     </message>
     <message>
         <source>API URL</source>
-        <translation>Адрес API</translation>
+        <translation>URL API</translation>
     </message>
     <message>
         <source>Save</source>
+        <extracomment>Button that saves the API URL typed in the field</extracomment>
         <translation>Сохранить</translation>
     </message>
     <message>
         <source>Reset to default</source>
+        <extracomment>Button that puts the API URL back to the default address</extracomment>
         <translation>Сбросить</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>Auto connect choice: connect to nothing when the service starts</extracomment>
         <translation>Выкл.</translation>
     </message>
     <message>
@@ -247,11 +262,11 @@
     </message>
     <message>
         <source>Save API URL</source>
-        <translation>Сохранить адрес API</translation>
+        <translation>Сохранить URL API</translation>
     </message>
     <message>
         <source>Reset API URL to default</source>
-        <translation>Сбросить адрес API на стандартный</translation>
+        <translation>Сбросить URL API на стандартный</translation>
     </message>
     <message>
         <source>Where the Tovra service reaches the account and location servers. Change it only when support asks you to.</source>
@@ -1263,42 +1278,52 @@
     <name>DiagnosticsSection</name>
     <message>
         <source>Configuration</source>
+        <extracomment>Label of a folder path: where the service keeps its configuration</extracomment>
         <translation>Конфигурация</translation>
     </message>
     <message>
         <source>Runtime</source>
+        <extracomment>Label of a folder path: where the service keeps its running files (socket, PID file); not a duration</extracomment>
         <translation>Рабочая папка</translation>
     </message>
     <message>
         <source>Logs</source>
+        <extracomment>Label of a folder path: the service&apos;s log folder</extracomment>
         <translation>Журналы</translation>
     </message>
     <message>
         <source>State file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>Файл состояния</translation>
     </message>
     <message>
         <source>Credentials key</source>
+        <extracomment>Label of a file path: the key file for the stored account credentials</extracomment>
         <translation>Ключ учётных данных</translation>
     </message>
     <message>
         <source>History</source>
+        <extracomment>Label of a file path: the service&apos;s history file</extracomment>
         <translation>История</translation>
     </message>
     <message>
         <source>Profiles</source>
+        <extracomment>Label of a folder path: the service&apos;s profiles folder</extracomment>
         <translation>Профили</translation>
     </message>
     <message>
         <source>Control socket</source>
+        <extracomment>Label of a file path: the socket this app talks to the service through</extracomment>
         <translation>Управляющий сокет</translation>
     </message>
     <message>
         <source>PID file</source>
+        <extracomment>Label of a file path</extracomment>
         <translation>PID-файл</translation>
     </message>
     <message>
         <source>Control address</source>
+        <extracomment>Label of an address the service listens on for control requests</extracomment>
         <translation>Адрес управления</translation>
     </message>
     <message>
@@ -1307,10 +1332,12 @@
     </message>
     <message>
         <source>Repair</source>
+        <extracomment>Button that resets the kill switch, local proxy and tunnel</extracomment>
         <translation>Восстановить</translation>
     </message>
     <message>
         <source>Open logs</source>
+        <extracomment>Button that opens the log folder</extracomment>
         <translation>Открыть журналы</translation>
     </message>
     <message>
@@ -1327,10 +1354,12 @@
     </message>
     <message>
         <source>Copy</source>
+        <extracomment>Button that copies the path next to it</extracomment>
         <translation>Копировать</translation>
     </message>
     <message>
         <source>Copy %1 path</source>
+        <extracomment>%1 is one of the path labels above, such as &quot;Runtime&quot;</extracomment>
         <translation>Копировать путь: %1</translation>
     </message>
     <message>
@@ -1360,6 +1389,17 @@
     <message>
         <source>%1, not compatible</source>
         <translation>%1, несовместима</translation>
+    </message>
+</context>
+<context>
+    <name>FieldClearButton</name>
+    <message>
+        <source>Clear search</source>
+        <translation>Очистить поиск</translation>
+    </message>
+    <message>
+        <source>Clear text</source>
+        <translation>Очистить текст</translation>
     </message>
 </context>
 <context>
@@ -1405,10 +1445,12 @@
     </message>
     <message>
         <source>On</source>
+        <extracomment>State of the kill switch: turned on</extracomment>
         <translation>Вкл.</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>State of the kill switch: turned off</extracomment>
         <translation>Выкл.</translation>
     </message>
     <message>
@@ -1421,6 +1463,7 @@
     </message>
     <message>
         <source>Switch to Auto and enable</source>
+        <extracomment>Button that switches to the Auto mode and turns the kill switch on</extracomment>
         <translation>Перейти в «Авто» и включить</translation>
     </message>
     <message>
@@ -1429,6 +1472,7 @@
     </message>
     <message>
         <source>Choose mode…</source>
+        <extracomment>Button that opens the Mode page to pick a VPN mode</extracomment>
         <translation>Выбрать режим…</translation>
     </message>
     <message>
@@ -1437,6 +1481,7 @@
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Отмена</translation>
     </message>
     <message>
@@ -1449,6 +1494,7 @@
     </message>
     <message>
         <source>Open Settings</source>
+        <extracomment>Button that opens the Settings page</extracomment>
         <translation>Открыть настройки</translation>
     </message>
     <message>
@@ -1567,6 +1613,7 @@
     </message>
     <message>
         <source>Use language</source>
+        <extracomment>Button that switches to the chosen language</extracomment>
         <translation>Выбрать</translation>
     </message>
 </context>
@@ -1735,6 +1782,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Refresh (%1s)</source>
+        <extracomment>Button, disabled for %1 more seconds before the list can be fetched again</extracomment>
         <translation>Обновить (%1 с)</translation>
     </message>
     <message>
@@ -1769,14 +1817,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Operation failed</source>
-        <translation>Операция не выполнена</translation>
+        <extracomment>Shown when a request to the Tovra service failed without a reason. Word it as a user would understand it: &quot;Could not complete the action&quot;</extracomment>
+        <translation>Не удалось выполнить действие</translation>
     </message>
     <message>
         <source>Settings operation failed</source>
+        <extracomment>Shown when changing a setting failed without a reason. Word it as a user would understand it: &quot;Could not change the settings&quot;</extracomment>
         <translation>Не удалось изменить настройки</translation>
     </message>
     <message>
         <source>Mode operation failed</source>
+        <extracomment>Shown when changing the mode failed without a reason. Word it as a user would understand it: &quot;Could not change the mode&quot;</extracomment>
         <translation>Не удалось сменить режим</translation>
     </message>
 </context>
@@ -1901,6 +1952,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network option: devices nearby are reached outside the tunnel</extracomment>
         <translation>Напрямую</translation>
     </message>
     <message>
@@ -1909,6 +1961,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network option: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Защищённая</translation>
     </message>
     <message>
@@ -1917,6 +1970,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy option: the desktop proxy settings are left alone</extracomment>
         <translation>Выкл.</translation>
     </message>
     <message>
@@ -1925,6 +1979,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy option: the desktop proxy settings point at Tovra</extracomment>
         <translation>Вкл.</translation>
     </message>
     <message>
@@ -1933,7 +1988,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Lock</source>
-        <translation>Закрепить</translation>
+        <extracomment>System proxy option, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
+        <translation>Закреплён</translation>
     </message>
     <message>
         <source>The desktop&apos;s proxy settings point at Tovra and are kept so</source>
@@ -1964,6 +2020,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Apply listeners</source>
+        <extracomment>Button that applies the SOCKS5 and HTTP listen addresses typed above</extracomment>
         <translation>Применить</translation>
     </message>
     <message>
@@ -1976,22 +2033,27 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Save servers</source>
+        <extracomment>Button that saves the local DNS servers typed in the field</extracomment>
         <translation>Сохранить серверы</translation>
     </message>
     <message>
         <source>Clear servers</source>
+        <extracomment>Button that empties the list of local DNS servers</extracomment>
         <translation>Очистить серверы</translation>
     </message>
     <message>
         <source>Reset split DNS</source>
+        <extracomment>Button that puts the split DNS settings back to their defaults</extracomment>
         <translation>Сбросить раздельный DNS</translation>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy choice: the desktop proxy settings are left alone</extracomment>
         <translation>Выкл.</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy choice: the desktop proxy settings point at Tovra</extracomment>
         <translation>Вкл.</translation>
     </message>
     <message>
@@ -2008,10 +2070,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network choice: devices nearby are reached outside the tunnel</extracomment>
         <translation>Напрямую</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network choice: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Защищённая</translation>
     </message>
     <message>
@@ -2196,6 +2260,14 @@ Try a country, a city or a code such as “de”.</source>
     </message>
 </context>
 <context>
+    <name>SettingsRow</name>
+    <message>
+        <source>%1: %2</source>
+        <comment>row title: help text</comment>
+        <translation>%1: %2</translation>
+    </message>
+</context>
+<context>
     <name>SettingsValidator</name>
     <message>
         <source>Add a port: host:port, for example 127.0.0.1:1080.</source>
@@ -2227,15 +2299,15 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Enter an API URL, or reset it to the default.</source>
-        <translation>Введите адрес API или сбросьте его на стандартный.</translation>
+        <translation>Введите URL API или сбросьте его на стандартный.</translation>
     </message>
     <message>
         <source>The API URL must start with http:// or https://.</source>
-        <translation>Адрес API должен начинаться с http:// или https://.</translation>
+        <translation>URL API должен начинаться с http:// или https://.</translation>
     </message>
     <message>
         <source>The API URL needs a host, for example https://api.example.com.</source>
-        <translation>В адресе API нужен хост, например https://api.example.com.</translation>
+        <translation>В URL API нужен хост, например https://api.example.com.</translation>
     </message>
     <message>
         <source>Enter at least one DNS server, or clear the list.</source>
@@ -2258,6 +2330,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Default route choice: traffic goes straight to the internet, outside the tunnel or proxy</extracomment>
         <translation>Напрямую</translation>
     </message>
     <message>
@@ -2266,6 +2339,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Choose…</source>
+        <extracomment>Button that opens the region picker</extracomment>
         <translation>Выбрать…</translation>
     </message>
     <message>
@@ -2282,6 +2356,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Edit rules…</source>
+        <extracomment>Button that opens the custom split rules editor</extracomment>
         <translation>Изменить правила…</translation>
     </message>
     <message>
@@ -2485,19 +2560,19 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Could not update API URL</source>
-        <translation>Не удалось изменить адрес API</translation>
+        <translation>Не удалось изменить URL API</translation>
     </message>
     <message>
         <source>API URL reset to default</source>
-        <translation>Адрес API сброшен на стандартный</translation>
+        <translation>URL API сброшен на стандартный</translation>
     </message>
     <message>
         <source>API URL validated and saved</source>
-        <translation>Адрес API проверен и сохранён</translation>
+        <translation>URL API проверен и сохранён</translation>
     </message>
     <message>
         <source>API URL saved but not validated</source>
-        <translation>Адрес API сохранён, но не проверен</translation>
+        <translation>URL API сохранён, но не проверен</translation>
     </message>
     <message>
         <source>Could not update auto connect</source>
@@ -2605,7 +2680,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Could not load API URL</source>
-        <translation>Не удалось загрузить адрес API</translation>
+        <translation>Не удалось загрузить URL API</translation>
     </message>
     <message>
         <source>Could not load split DNS</source>
@@ -2627,11 +2702,16 @@ Try a country, a city or a code such as “de”.</source>
         <source>Tovra %1 is available</source>
         <translation>Доступна Tovra %1</translation>
     </message>
+    <message>
+        <source>A required Tovra update must be installed before connecting.</source>
+        <translation>Перед подключением нужно установить обязательное обновление Tovra.</translation>
+    </message>
 </context>
 <context>
     <name>TovraRegionPickerDialog</name>
     <message>
         <source>Save</source>
+        <extracomment>Button</extracomment>
         <translation>Сохранить</translation>
     </message>
     <message>
@@ -2648,6 +2728,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button</extracomment>
         <translation>Отмена</translation>
     </message>
     <message>
@@ -2683,6 +2764,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Import</source>
+        <extracomment>Button that replaces the chosen rule list with the lines typed</extracomment>
         <translation>Импорт</translation>
     </message>
     <message>
@@ -2707,6 +2789,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Close</source>
+        <extracomment>Button</extracomment>
         <translation>Закрыть</translation>
     </message>
     <message>
@@ -2715,6 +2798,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Name of the rule list whose sites and addresses go straight to the internet</extracomment>
         <translation>Напрямую</translation>
     </message>
     <message>
@@ -2794,6 +2878,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: updating TovraVPN split...</source>
+        <extracomment>Changing the default route of the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: обновление раздельного режима TovraVPN...</translation>
     </message>
     <message>
@@ -2822,7 +2907,8 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>operation failed</source>
-        <translation>операция не выполнена</translation>
+        <extracomment>Follows &quot;Error: &quot; when a request to the service failed without a reason. Word it as a user would understand it: &quot;could not complete the action&quot;</extracomment>
+        <translation>не удалось выполнить действие</translation>
     </message>
     <message>
         <source>log directory</source>
@@ -2938,15 +3024,18 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Off</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings are left alone</extracomment>
         <translation>Выкл.</translation>
     </message>
     <message>
         <source>On</source>
+        <extracomment>System proxy menu option and value: the desktop proxy settings point at Tovra</extracomment>
         <translation>Вкл.</translation>
     </message>
     <message>
         <source>Lock</source>
-        <translation>Закрепить</translation>
+        <extracomment>System proxy menu option and value, a state rather than an action: the desktop proxy settings point at Tovra and other programs cannot change them</extracomment>
+        <translation>Закреплён</translation>
     </message>
     <message>
         <source>Local Network</source>
@@ -2958,10 +3047,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Direct</source>
+        <extracomment>Local network menu option and value: devices nearby are reached outside the tunnel. Also the route in &quot;Regions use %1: %2&quot;</extracomment>
         <translation>Напрямую</translation>
     </message>
     <message>
         <source>Protected</source>
+        <extracomment>Local network menu option and value: local traffic goes through the tunnel like the rest</extracomment>
         <translation>Защищённая</translation>
     </message>
     <message>
@@ -3018,6 +3109,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Tovra: switching TovraVPN split...</source>
+        <extracomment>Switching to the TovraVPN Split mode; name the mode as the Mode page does</extracomment>
         <translation>Tovra: переход в режим TovraVPN (раздельный)...</translation>
     </message>
     <message>
@@ -3110,7 +3202,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Current: %1 (stale)</source>
-        <translation>Текущая: %1 (устарело)</translation>
+        <translation>Текущая: %1 (данные устарели)</translation>
     </message>
     <message>
         <source>Group</source>
@@ -3178,10 +3270,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>account operation failed</source>
-        <translation>операция с аккаунтом не выполнена</translation>
+        <extracomment>Follows &quot;Error: &quot; when signing out failed and the service gave no reason. Word it as a user would understand it: &quot;could not complete the account action&quot;</extracomment>
+        <translation>не удалось выполнить действие с аккаунтом</translation>
     </message>
     <message>
         <source>mode operation failed</source>
+        <extracomment>Follows &quot;Error: &quot; when changing the mode failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the mode&quot;</extracomment>
         <translation>не удалось сменить режим</translation>
     </message>
     <message>
@@ -3206,10 +3300,12 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>kill-switch operation failed</source>
-        <translation>операция с Kill Switch не выполнена</translation>
+        <extracomment>Follows &quot;Error: &quot; when turning the kill switch on or off failed and the service gave no reason. Word it as a user would understand it: &quot;could not change the kill switch&quot;</extracomment>
+        <translation>не удалось изменить Kill Switch</translation>
     </message>
     <message>
         <source>connected</source>
+        <extracomment>Tunnel state after &quot;Tovra: &quot;: the VPN is connected (not connecting)</extracomment>
         <translation>подключено</translation>
     </message>
     <message>
@@ -3332,14 +3428,17 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Hide this update</source>
+        <extracomment>Button (shown as a link) that stops offering this update</extracomment>
         <translation>Пропустить это обновление</translation>
     </message>
     <message>
         <source>Not Now</source>
+        <extracomment>Button that closes the dialog and keeps the update for later</extracomment>
         <translation>Не сейчас</translation>
     </message>
     <message>
         <source>Exit Tovra</source>
+        <extracomment>Button that quits Tovra when the update is required</extracomment>
         <translation>Закрыть Tovra</translation>
     </message>
     <message>
@@ -3348,6 +3447,7 @@ Try a country, a city or a code such as “de”.</source>
     </message>
     <message>
         <source>Open Download Link</source>
+        <extracomment>Button that opens the installer download page in the browser</extracomment>
         <translation>Открыть ссылку</translation>
     </message>
     <message>
@@ -3406,6 +3506,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download in Background</source>
+        <extracomment>Button that hides the dialog while the installer downloads</extracomment>
         <translation>Скачать в фоне</translation>
     </message>
     <message>
@@ -3418,6 +3519,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Canceling...</source>
+        <extracomment>Button while the download is being cancelled</extracomment>
         <translation>Отмена...</translation>
     </message>
     <message>
@@ -3426,14 +3528,17 @@ Available version: %2</source>
     </message>
     <message>
         <source>Cancel Download</source>
+        <extracomment>Button</extracomment>
         <translation>Отменить</translation>
     </message>
     <message>
         <source>Opening Installer...</source>
+        <extracomment>Button while the downloaded installer opens</extracomment>
         <translation>Открытие установщика...</translation>
     </message>
     <message>
         <source>Retry Download</source>
+        <extracomment>Button</extracomment>
         <translation>Повторить</translation>
     </message>
     <message>
@@ -3442,11 +3547,16 @@ Available version: %2</source>
     </message>
     <message>
         <source>Download Update</source>
+        <extracomment>Button that downloads and opens the installer</extracomment>
         <translation>Скачать обновление</translation>
     </message>
     <message>
         <source>Download and install the Tovra update</source>
         <translation>Скачать и установить обновление Tovra</translation>
+    </message>
+    <message>
+        <source>Retrying the download...</source>
+        <translation>Повторная попытка скачивания...</translation>
     </message>
 </context>
 <context>
@@ -3457,6 +3567,7 @@ Available version: %2</source>
     </message>
     <message>
         <source>Check for updates</source>
+        <extracomment>Button</extracomment>
         <translation>Проверить обновления</translation>
     </message>
     <message>
@@ -3487,22 +3598,27 @@ Available version: %2</source>
     <name>VpnPage</name>
     <message>
         <source>Connect</source>
+        <extracomment>Button that connects the VPN</extracomment>
         <translation>Подключиться</translation>
     </message>
     <message>
         <source>Sign In</source>
+        <extracomment>Button that opens the account page to sign in</extracomment>
         <translation>Войти</translation>
     </message>
     <message>
         <source>Cancel</source>
+        <extracomment>Button that stops a connection attempt</extracomment>
         <translation>Отмена</translation>
     </message>
     <message>
         <source>Disconnect</source>
+        <extracomment>Button that disconnects the VPN</extracomment>
         <translation>Отключиться</translation>
     </message>
     <message>
         <source>Disconnecting…</source>
+        <extracomment>Button while the VPN disconnects</extracomment>
         <translation>Отключение…</translation>
     </message>
     <message>
@@ -3569,11 +3685,20 @@ Available version: %2</source>
         <source>Your traffic is not protected.</source>
         <translation>Ваш трафик не защищён.</translation>
     </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Подключено к «%1»</translation>
+    </message>
+    <message>
+        <source>Connection failed: %1</source>
+        <translation>Не удалось подключиться: %1</translation>
+    </message>
 </context>
 <context>
     <name>VpnRecentLocations</name>
     <message>
         <source>Clear</source>
+        <extracomment>Button that empties the list of recent locations</extracomment>
         <translation>Очистить</translation>
     </message>
     <message>
@@ -3624,7 +3749,8 @@ Available version: %2</source>
     </message>
     <message>
         <source>Account operation failed</source>
-        <translation>Не удалось выполнить операцию с аккаунтом</translation>
+        <extracomment>Shown when signing in or out failed without a reason. Word it as a user would understand it: &quot;Could not complete the account action&quot;</extracomment>
+        <translation>Не удалось выполнить действие с аккаунтом</translation>
     </message>
 </context>
 </TS>

@@ -121,6 +121,7 @@ void GuiPreferences::setRecentNodes(const QList<RecentLocation> &nodes)
     }
     m_settings->endArray();
     persist();
+    Q_EMIT recentNodesChanged();
 }
 
 QStringList GuiPreferences::recentSearches() const
@@ -131,6 +132,7 @@ QStringList GuiPreferences::recentSearches() const
 void GuiPreferences::setRecentSearches(const QStringList &searches)
 {
     write(kRecentSearches, searches);
+    Q_EMIT recentSearchesChanged();
 }
 
 bool GuiPreferences::recentNodesCleared() const

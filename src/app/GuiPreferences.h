@@ -51,6 +51,11 @@ public:
     GuiUpdateBookkeeping updateBookkeeping(const QString &runningVersion) const;
     void setUpdateBookkeeping(const QString &runningVersion, const GuiUpdateBookkeeping &state);
 
+Q_SIGNALS:
+    // Whoever wrote them: every reader of the lists hears of every change.
+    void recentNodesChanged();
+    void recentSearchesChanged();
+
 private:
     bool readBool(const QString &key, bool fallback) const;
     qint64 readInt64(const QString &key) const;

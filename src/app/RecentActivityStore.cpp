@@ -5,7 +5,13 @@
 RecentActivityStore::RecentActivityStore(GuiPreferences *preferences, QObject *parent)
     : QObject(parent)
     , m_preferences(preferences)
-{}
+{
+    // Another store on the same preferences (the shell's, a page's) may be the one that wrote.
+    connect(preferences, &GuiPreferences::recentSearchesChanged, this,
+            &RecentActivityStore::recentSearchesChanged);
+    connect(preferences, &GuiPreferences::recentNodesChanged, this,
+            &RecentActivityStore::recentLocationsChanged);
+}
 
 QStringList RecentActivityStore::recentSearches() const
 {
@@ -31,7 +37,6 @@ void RecentActivityStore::addSearch(const QString &text)
     searches.removeAll(trimmed);
     searches.prepend(trimmed);
     m_preferences->setRecentSearches(searches.mid(0, kSearchesKept));
-    Q_EMIT recentSearchesChanged();
 }
 
 void RecentActivityStore::clearSearches()
@@ -39,7 +44,6 @@ void RecentActivityStore::clearSearches()
     if (m_preferences->recentSearches().isEmpty())
         return;
     m_preferences->setRecentSearches({});
-    Q_EMIT recentSearchesChanged();
 }
 
 QList<RecentLocation> RecentActivityStore::recentLocations() const
@@ -65,16 +69,13 @@ void RecentActivityStore::addLocation(const RecentLocation &location)
     // The user cleared an old history, not all future ones: a new visit starts a new list.
     if (m_preferences->recentNodesCleared())
         m_preferences->setRecentNodesCleared(false);
-    Q_EMIT recentLocationsChanged();
 }
 
 void RecentActivityStore::clearLocations()
 {
-    const bool hadEntries = !recentLocations().isEmpty();
-    m_preferences->setRecentNodes({});
+    if (!m_preferences->recentNodes(1).isEmpty())
+        m_preferences->setRecentNodes({});
     m_preferences->setRecentNodesCleared(true);
-    if (hadEntries)
-        Q_EMIT recentLocationsChanged();
 }
 
 bool RecentActivityStore::locationsCleared() const

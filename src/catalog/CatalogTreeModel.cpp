@@ -3,7 +3,6 @@
 #include "Countries.h"
 #include "LocationRoles.h"
 
-#include <QCoreApplication>
 #include <QSet>
 
 #include <algorithm>
@@ -15,76 +14,6 @@ const QList<int> kStateRoles = {
     LocationPingMsRole,    LocationSignalLevelRole, LocationFavoriteRole,
     LocationConnectedRole, LocationSelectedRole,    LocationStaleRole,
     LocationLockedRole,    Qt::AccessibleTextRole,  Qt::ToolTipRole};
-
-} // namespace
-
-struct CatalogTreeModel::Item
-{
-    Item *parent = nullptr;
-    int row = 0;
-    bool group = false;
-    QString id;
-    NodeEntry node;    // nodes: the entry the texts were made from
-    QString groupName; // groups: the daemon's name and code the texts were made from
-    QString groupCode;
-    QString label;
-    QString searchText;
-    QString region;
-    QString tier;
-    bool country = false;
-    int pingMs = -1;
-    int signalLevel = -1;
-    int nodeCount = 0;
-    qsizetype nodeIndex = -1; // nodes: the entry's position in the nodes record
-    bool pingChanged = false; // groups: the fastest ping below changed, not yet announced
-    bool favorite = false;
-    bool connected = false;
-    bool selected = false;
-    bool locked = false;
-    bool stale = false;
-    std::vector<std::unique_ptr<Item>> children;
-
-    QString key() const { return group ? QLatin1String("g:") + id : QLatin1String("n:") + id; }
-};
-
-namespace {
-
-QString blueprintKey(const CatalogBlueprint &row)
-{
-    return row.group ? QLatin1String("g:") + row.id : QLatin1String("n:") + row.id;
-}
-
-QString searchTextFor(const CatalogBlueprint &row, const QString &tier,
-                      QHash<QString, QStringList> &countryWords)
-{
-    QStringList words{row.label};
-    if (row.group && row.entry) {
-        words << row.entry->name << row.entry->code;
-    } else if (row.node) {
-        words << row.node->name;
-        for (const QString &tag : row.node->tags) {
-            if (tag.compare(QLatin1String("FAVORITE"), Qt::CaseInsensitive) != 0)
-                words << tag;
-        }
-        words << tier;
-        if (tier == QLatin1String("SVIP"))
-            words << QCoreApplication::translate("CatalogTreeModel", "Premium");
-    }
-    if (!row.region.isEmpty() && (!row.group || row.country)) {
-        // The table is scanned once per country, not once per node.
-        auto found = countryWords.constFind(row.region);
-        if (found == countryWords.cend()) {
-            found = countryWords.insert(
-                row.region, {row.region, countryEnglishName(row.region), countryName(row.region)});
-        }
-        words << found.value();
-    }
-    for (QString &word : words)
-        word = word.trimmed().toLower();
-    words.removeAll(QString());
-    words.removeDuplicates();
-    return words.join(QLatin1Char(' '));
-}
 
 } // namespace
 
@@ -143,23 +72,17 @@ void CatalogTreeModel::updateStates(Item *parent)
     for (size_t i = 0; i < parent->children.size(); ++i) {
         Item *item = parent->children[i].get();
         bool changed = false;
-        const auto set = [&changed](auto &field, const auto &value) {
-            if (field != value) {
-                field = value;
-                changed = true;
-            }
-        };
         if (item->group) {
             updateStates(item);
         } else {
             const NodeEntry &node = m_nodes.nodes.at(item->nodeIndex);
             item->node = node;
-            set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1);
-            set(item->signalLevel, node.signalLevel >= 0 ? node.signalLevel : -1);
-            set(item->connected, m_nodes.connected.valid && m_nodes.connected.id == node.id);
-            set(item->selected, m_nodes.selected.valid && m_nodes.selected.id == node.id);
+            changed = m_writer.applyNodeState(item, node);
         }
-        set(item->stale, stale);
+        if (item->stale != stale) {
+            item->stale = stale;
+            changed = true;
+        }
         if (item->group)
             changed = changed || item->pingChanged;
         item->pingChanged = false;
@@ -226,8 +149,8 @@ void CatalogTreeModel::rebuild()
         m_root->children.clear();
         m_root->children.reserve(rows.size());
         for (size_t i = 0; i < rows.size(); ++i)
-            m_root->children.push_back(makeItem(m_root.get(), int(i), rows[i]));
-        m_lookupValid = false;
+            m_root->children.push_back(m_writer.make(m_root.get(), int(i), rows[i]));
+        m_lookup.invalidate();
         endResetModel();
         return;
     }
@@ -252,7 +175,7 @@ void CatalogTreeModel::sync(Item *parent, std::vector<CatalogBlueprint> &rows)
         removeMissing(parent, rows);
         reorder(parent, rows);
         insertNew(parent, rows);
-        m_lookupValid = false;
+        m_lookup.invalidate();
     }
     updateRows(parent, rows);
 }
@@ -262,7 +185,7 @@ void CatalogTreeModel::removeMissing(Item *parent, const std::vector<CatalogBlue
     QSet<QString> wanted;
     wanted.reserve(qsizetype(rows.size()));
     for (const CatalogBlueprint &row : rows)
-        wanted.insert(blueprintKey(row));
+        wanted.insert(Item::keyOf(row.group, row.id));
     auto &children = parent->children;
     const QModelIndex parentIndex = indexOf(parent);
     // From the end, one signal per run of neighbours that go.
@@ -289,7 +212,7 @@ void CatalogTreeModel::reorder(Item *parent, const std::vector<CatalogBlueprint>
     QHash<QString, int> position;
     position.reserve(qsizetype(rows.size()));
     for (size_t i = 0; i < rows.size(); ++i)
-        position.insert(blueprintKey(rows[i]), int(i));
+        position.insert(Item::keyOf(rows[i].group, rows[i].id), int(i));
     auto &children = parent->children;
     const auto before = [&position](const std::unique_ptr<Item> &a,
                                     const std::unique_ptr<Item> &b) {
@@ -342,7 +265,7 @@ void CatalogTreeModel::insertNew(Item *parent, std::vector<CatalogBlueprint> &ro
         std::vector<std::unique_ptr<Item>> fresh;
         fresh.reserve(end - i);
         for (size_t k = i; k < end; ++k)
-            fresh.push_back(makeItem(parent, int(k), rows[k]));
+            fresh.push_back(m_writer.make(parent, int(k), rows[k]));
         children.insert(children.begin() + qptrdiff(i), std::make_move_iterator(fresh.begin()),
                         std::make_move_iterator(fresh.end()));
         for (size_t k = end; k < children.size(); ++k)
@@ -355,24 +278,24 @@ void CatalogTreeModel::insertNew(Item *parent, std::vector<CatalogBlueprint> &ro
 void CatalogTreeModel::updateRows(Item *parent, std::vector<CatalogBlueprint> &rows)
 {
     auto &children = parent->children;
-    const QModelIndex parentIndex = indexOf(parent);
     int runStart = -1;
-    int runChange = NoChange;
+    int runChange = CatalogItemWriter::NoChange;
     const auto flush = [&](int end) {
         if (runStart < 0)
             return;
         const QModelIndex first = createIndex(runStart, 0, children[size_t(runStart)].get());
         const QModelIndex last = createIndex(end, 0, children[size_t(end)].get());
-        Q_EMIT dataChanged(first, last, runChange & TextChange ? QList<int>() : kStateRoles);
+        Q_EMIT dataChanged(first, last,
+                           runChange & CatalogItemWriter::TextChange ? QList<int>() : kStateRoles);
         runStart = -1;
-        runChange = NoChange;
+        runChange = CatalogItemWriter::NoChange;
     };
     for (size_t i = 0; i < rows.size(); ++i) {
         Item *item = children[i].get();
         if (item->group)
             sync(item, rows[i].children);
-        const int change = apply(item, rows[i]);
-        if (change == NoChange) {
+        const int change = m_writer.apply(item, rows[i]);
+        if (change == CatalogItemWriter::NoChange) {
             flush(int(i) - 1);
             continue;
         }
@@ -381,75 +304,6 @@ void CatalogTreeModel::updateRows(Item *parent, std::vector<CatalogBlueprint> &r
         runChange |= change;
     }
     flush(int(rows.size()) - 1);
-    Q_UNUSED(parentIndex);
-}
-
-std::unique_ptr<CatalogTreeModel::Item>
-CatalogTreeModel::makeItem(Item *parent, int row, CatalogBlueprint &blueprint) const
-{
-    auto item = std::make_unique<Item>();
-    item->parent = parent;
-    item->row = row;
-    item->group = blueprint.group;
-    item->id = blueprint.id;
-    apply(item.get(), blueprint);
-    item->children.reserve(blueprint.children.size());
-    for (size_t i = 0; i < blueprint.children.size(); ++i)
-        item->children.push_back(makeItem(item.get(), int(i), blueprint.children[i]));
-    return item;
-}
-
-int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
-{
-    int change = NoChange;
-    const auto set = [&change](auto &field, const auto &value, Change kind) {
-        if (field != value) {
-            field = value;
-            change |= kind;
-        }
-    };
-    if (blueprint.node) {
-        const NodeEntry &node = *blueprint.node;
-        item->nodeIndex = blueprint.node - m_nodes.nodes.constData();
-        const bool textsStale = item->searchText.isEmpty() || item->node.name != node.name ||
-                                item->node.region != node.region || item->node.tags != node.tags ||
-                                item->node.type != node.type;
-        if (textsStale) {
-            item->node = node;
-            item->tier = CatalogTreeBuilder::tierOf(node);
-            item->label = blueprint.label;
-            item->region = blueprint.region;
-            item->searchText = searchTextFor(blueprint, item->tier, m_countryWords);
-            change |= TextChange;
-        }
-        set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1, StateChange);
-        set(item->signalLevel, node.signalLevel >= 0 ? node.signalLevel : -1, StateChange);
-        set(item->favorite, CatalogTreeBuilder::isFavorite(node), StateChange);
-        set(item->connected, m_nodes.connected.valid && m_nodes.connected.id == node.id,
-            StateChange);
-        set(item->selected, m_nodes.selected.valid && m_nodes.selected.id == node.id, StateChange);
-        set(item->locked, blueprint.lockedCount > 0, StateChange);
-    } else {
-        const QString name = blueprint.entry ? blueprint.entry->name : QString();
-        const QString code = blueprint.entry ? blueprint.entry->code : QString();
-        if (item->searchText.isEmpty() || item->label != blueprint.label ||
-            item->region != blueprint.region || item->groupName != name ||
-            item->groupCode != code || item->country != blueprint.country) {
-            item->label = blueprint.label;
-            item->region = blueprint.region;
-            item->groupName = name;
-            item->groupCode = code;
-            item->country = blueprint.country;
-            item->searchText = searchTextFor(blueprint, QString(), m_countryWords);
-            change |= TextChange;
-        }
-        set(item->pingMs, blueprint.bestPingMs, StateChange);
-        set(item->nodeCount, blueprint.nodeCount, StateChange);
-        set(item->locked, blueprint.nodeCount > 0 && blueprint.lockedCount == blueprint.nodeCount,
-            StateChange);
-    }
-    set(item->stale, m_nodes.stale || m_groups.stale, StateChange);
-    return change;
 }
 
 QModelIndex CatalogTreeModel::indexOf(const Item *item) const
@@ -524,6 +378,8 @@ QString CatalogTreeModel::accessibleText(const Item *item) const
         if (item->favorite)
             parts << tr("favourite");
         if (item->connected)
+            //: Said of a location in the list: it is the one the VPN is connected to now (not
+            //: connecting)
             parts << tr("connected");
     }
     if (item->locked)
@@ -566,10 +422,7 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
     case LocationConnectedRole:
         return item->connected;
     case LocationSelectorRole:
-        if (!item->group)
-            return item->id;
-        // Our own region groups are reached by their country code.
-        return item->id.startsWith(QLatin1String("region:")) ? item->region : item->id;
+        return item->selector();
     case LocationRegionRole:
         return item->region;
     case LocationSelectedRole:
@@ -583,52 +436,17 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
     }
 }
 
-void CatalogTreeModel::buildLookup() const
-{
-    if (m_lookupValid)
-        return;
-    m_byNode.clear();
-    m_bySelector.clear();
-    std::vector<const Item *> stack{m_root.get()};
-    // Pre-order, so the first row of a node listed twice wins.
-    while (!stack.empty()) {
-        const Item *item = stack.back();
-        stack.pop_back();
-        if (item != m_root.get()) {
-            if (item->group) {
-                const QString selector = data(indexOf(item), LocationSelectorRole).toString();
-                if (!m_bySelector.contains(selector.toLower()))
-                    m_bySelector.insert(selector.toLower(), item);
-                const QString code = item->groupCode.trimmed().toLower();
-                if (!code.isEmpty() && !m_bySelector.contains(code))
-                    m_bySelector.insert(code, item);
-            } else if (!m_byNode.contains(item->id)) {
-                m_byNode.insert(item->id, item);
-            }
-        }
-        for (auto it = item->children.rbegin(); it != item->children.rend(); ++it)
-            stack.push_back(it->get());
-    }
-    m_lookupValid = true;
-}
-
 QModelIndex CatalogTreeModel::indexForNode(const QString &nodeId) const
 {
-    buildLookup();
-    return indexOf(m_byNode.value(nodeId.trimmed()));
+    return indexOf(m_lookup.node(*m_root, nodeId));
 }
 
 QModelIndex CatalogTreeModel::indexForSelector(const QString &selector) const
 {
-    buildLookup();
-    const QString key = selector.trimmed();
-    if (const Item *group = m_bySelector.value(key.toLower()))
-        return indexOf(group);
-    return indexOf(m_byNode.value(key));
+    return indexOf(m_lookup.selector(*m_root, selector));
 }
 
 int CatalogTreeModel::nodeCount() const
 {
-    buildLookup();
-    return int(m_byNode.size());
+    return m_lookup.nodeCount(*m_root);
 }

@@ -1,11 +1,12 @@
 #pragma once
 
+#include "CatalogItemWriter.h"
+#include "CatalogLookup.h"
 #include "CatalogTreeBuilder.h"
 #include "NodeGroupsInfo.h"
 #include "NodesInfo.h"
 
 #include <QAbstractItemModel>
-#include <QHash>
 #include <QIcon>
 
 #include <memory>
@@ -14,6 +15,7 @@
 // The catalogue as a tree: the daemon's groups (continent > country > city in practice) with
 // the nodes as leaves; nodes no group lists still appear. Updates are incremental: new pings,
 // signal levels or favourites change rows in place, so views keep selection and expansion.
+// CatalogItemWriter fills the rows; this class keeps them in place and tells views what moved.
 class CatalogTreeModel : public QAbstractItemModel
 {
     Q_OBJECT
@@ -54,8 +56,7 @@ public:
     bool hasChildren(const QModelIndex &parent = {}) const override;
 
 private:
-    struct Item;
-    enum Change : int { NoChange = 0, StateChange = 1, TextChange = 2 };
+    using Item = CatalogItem;
 
     void rebuild();
     bool sameNodes(const NodesInfo &nodes) const;
@@ -66,11 +67,8 @@ private:
     void reorder(Item *parent, const std::vector<CatalogBlueprint> &rows);
     void insertNew(Item *parent, std::vector<CatalogBlueprint> &rows);
     void updateRows(Item *parent, std::vector<CatalogBlueprint> &rows);
-    std::unique_ptr<Item> makeItem(Item *parent, int row, CatalogBlueprint &blueprint) const;
-    int apply(Item *item, const CatalogBlueprint &blueprint) const;
     QModelIndex indexOf(const Item *item) const;
     Item *itemAt(const QModelIndex &index) const;
-    void buildLookup() const;
     QString accessibleText(const Item *item) const;
 
     NodeGroupsInfo m_groups;
@@ -80,8 +78,6 @@ private:
     CatalogSort m_sort = CatalogSort::Daemon;
     QIcon m_regionlessIcon;
     std::unique_ptr<Item> m_root;
-    mutable QHash<QString, const Item *> m_byNode;
-    mutable QHash<QString, const Item *> m_bySelector;
-    mutable bool m_lookupValid = false;
-    mutable QHash<QString, QStringList> m_countryWords; // region -> its words for the search
+    CatalogItemWriter m_writer{m_groups, m_nodes};
+    mutable CatalogLookup m_lookup;
 };

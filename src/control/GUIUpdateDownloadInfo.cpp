@@ -6,10 +6,13 @@
 
 bool GUIUpdateDownloadInfo::isKnownState(const QString &state)
 {
+    // "queued" and "retrying" are the daemon's words for a download waiting its turn and one
+    // trying again after a network error.
     static const QStringList states{
-        QStringLiteral("idle"),      QStringLiteral("checking"),  QStringLiteral("downloading"),
-        QStringLiteral("verifying"), QStringLiteral("canceling"), QStringLiteral("ready"),
-        QStringLiteral("failed"),    QStringLiteral("canceled"),
+        QStringLiteral("idle"),        QStringLiteral("queued"),    QStringLiteral("checking"),
+        QStringLiteral("downloading"), QStringLiteral("verifying"), QStringLiteral("retrying"),
+        QStringLiteral("canceling"),   QStringLiteral("ready"),     QStringLiteral("failed"),
+        QStringLiteral("canceled"),
     };
     return states.contains(state);
 }

@@ -55,3 +55,19 @@ QString ModeInfo::summary() const
         parts.append(region);
     return parts.join(QLatin1Char(' '));
 }
+
+QJsonObject ModeInfo::requestBody() const
+{
+    QJsonObject body;
+    if (!transport.isEmpty())
+        body.insert(QLatin1String("transport"), transport);
+    if (!policy.isEmpty())
+        body.insert(QLatin1String("policy"), policy);
+    if (!region.isEmpty())
+        body.insert(QLatin1String("region"), region);
+    if (splitProfile.valid && splitProfile.hasAnyField())
+        body.insert(QLatin1String("split_profile"), splitProfile.toJson());
+    if (proxySplitProfile.valid && proxySplitProfile.hasAnyField())
+        body.insert(QLatin1String("proxy_split_profile"), proxySplitProfile.toJson());
+    return body;
+}

@@ -30,6 +30,9 @@ struct ModeInfo
     // "transport [policy] [region]" for display; a global policy is never named.
     QString summary() const;
     static ModeInfo parse(const QByteArray &body, QString *errorOut);
+    // What a mode change sends: the fields that are set, and a split profile only when it holds
+    // any field.
+    QJsonObject requestBody() const;
 
     friend bool operator==(const ModeInfo &, const ModeInfo &) = default;
 };

@@ -10,7 +10,9 @@ const char *const kUnavailable = QT_TRANSLATE_NOOP("KillSwitchConfirm", "Unavail
 const char *const kLockdown = QT_TRANSLATE_NOOP("KillSwitchConfirm", "Lockdown");
 const char *const kLockdownUnavailable =
     QT_TRANSLATE_NOOP("KillSwitchConfirm", "Lockdown unavailable");
+//: State of the kill switch: turned on
 const char *const kOn = QT_TRANSLATE_NOOP("KillSwitchConfirm", "On");
+//: State of the kill switch: turned off
 const char *const kOff = QT_TRANSLATE_NOOP("KillSwitchConfirm", "Off");
 
 QString translated(const char *context, const char *text)

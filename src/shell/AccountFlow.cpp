@@ -1,5 +1,6 @@
 #include "AccountFlow.h"
 
+#include "AccountSession.h"
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "RequestLedger.h"
@@ -7,7 +8,6 @@
 #include "ShellText.h"
 #include "ShellWorkers.h"
 #include "TovraTrayApp.h"
-#include "TrayStatusFormatter.h"
 #include "WindowController.h"
 
 #include <QUrl>
@@ -125,9 +125,14 @@ void AccountFlow::followRuntime(const RuntimeInfo &runtime)
 {
     if (!runtime.valid || runtime.authState == m_lastAuthState)
         return;
+    const bool wasSignedIn = AccountSession::isSignedIn(m_lastAuthState);
     m_lastAuthState = runtime.authState;
-    // The tray's rule, so that the menu and the account record never disagree.
-    if (TrayStatusFormatter::isSignedIn(runtime))
+    const bool signedIn = AccountSession::isSignedIn(runtime.authState);
+    // A message about signing in (or out) ends with the state it was about, however that
+    // ended: here, from another client or the command line.
+    if (signedIn != wasSignedIn)
+        m_context.window->clearAccountMessage();
+    if (signedIn)
         fetchUser(false);
     else
         m_context.state->clearUser();

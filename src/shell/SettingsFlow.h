@@ -8,22 +8,19 @@
 #include "ConfigPaths.h"
 #include "KillSwitchInfo.h"
 #include "LanguageConfigInfo.h"
-#include "ModeInfo.h"
 #include "ProxyListenResultInfo.h"
 #include "RepairResultInfo.h"
 #include "RuntimeInfo.h"
 #include "SplitDNSInfo.h"
-#include "SplitRuleMutationInfo.h"
-#include "SplitRulesInfo.h"
 #include "UpdateInfo.h"
 
 #include <QObject>
 #include <QStringList>
 #include <QTimer>
 
-// Everything the mode and settings pages ask of the daemon: routing mode, local network, system
-// proxy, the kill switch with its rules, API URL, auto connect, proxy listeners, split DNS and
-// rules, repairs, and the daemon's paths (for the log directory).
+// What the Settings page asks of the daemon beyond the routing (RoutingFlow): API URL, auto
+// connect, proxy listeners, split DNS, repairs and the daemon's paths (for the log directory),
+// and the fresh records the page loads whenever it comes into view.
 class SettingsFlow : public QObject
 {
     Q_OBJECT
@@ -31,22 +28,6 @@ class SettingsFlow : public QObject
 public:
     explicit SettingsFlow(const ShellContext &context, QObject *parent = nullptr);
 
-    // An operation that changes the routing or the kill switch is running.
-    bool busy() const;
-
-    void setMode(const ModeInfo &mode);
-    void setLocalNetwork(const QString &value);
-    void setSystemProxy(const QString &value);
-
-    void setKillSwitchEnabled(bool enabled);
-    void setKillSwitchMode(const QString &mode);
-    void switchToAutoAndEnableKillSwitch();
-    void chooseModeForKillSwitch();
-    void cancelPendingKillSwitchEnable();
-    bool killSwitchEnablePending() const { return m_pendingKillSwitchEnable; }
-
-    void refreshSplitRules();
-    void importSplitRules(const QString &kind, const QString &content);
     void refreshConfigPaths(bool openLogs);
 
     void setAPIURL(const QString &apiURL);
@@ -70,14 +51,9 @@ public:
     bool handleStatus(quint64 requestId, const RuntimeInfo &info, const QString &errorMessage);
     bool handleLanguageLoad(quint64 requestId, const LanguageConfigInfo &info,
                             const QString &errorMessage);
+    bool handleKillSwitchLoad(quint64 requestId, const KillSwitchInfo &info,
+                              const QString &errorMessage);
 
-    void handleMode(quint64 requestId, const ModeInfo &info, const QString &errorMessage);
-    void handleKillSwitch(quint64 requestId, const KillSwitchInfo &info,
-                          const QString &errorMessage);
-    void handleSplitRules(quint64 requestId, const SplitRulesInfo &info,
-                          const QString &errorMessage);
-    void handleSplitRuleImport(quint64 requestId, const SplitRuleMutationInfo &info,
-                               const QString &errorMessage);
     void handleConfigPaths(quint64 requestId, const ConfigPaths &paths,
                            const QString &errorMessage);
     void handleAPIURL(quint64 requestId, const APIURLConfigInfo &info, const QString &errorMessage);
@@ -89,20 +65,13 @@ public:
     void handleRepair(quint64 requestId, const RepairResultInfo &info, const QString &errorMessage);
 
 private:
-    void sendKillSwitchEnabled(bool enabled);
-    void settingsBusyChanged();
-    void modeBusyChanged();
-    void applyMode(const ModeInfo &mode);
     void load(RequestLedger::Kind kind, const char *method);
     // Records a load's outcome as the page's note: empty on success, else the load text.
     void noteLoad(const QString &key, const QString &errorMessage, const char *fallback);
 
     ShellContext m_context;
-    bool m_pendingKillSwitchEnable = false;
-    bool m_importRefreshPending = false;
     bool m_openLogsPending = false;
     bool m_apiURLReset = false;
-    bool m_killSwitchModeChange = false;
     // While the page is open and the service away, the status is asked for again now and then,
     // so the page comes back by itself.
     QTimer m_statusRetry;

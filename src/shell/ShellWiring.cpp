@@ -81,9 +81,15 @@ void ShellWiring::connectTray(TovraAppShell *shell, const ShellContext &context)
                      &TovraAppShell::switchToAutoAndEnableKillSwitch);
     QObject::connect(tray, &TovraTrayApp::chooseModeForKillSwitchRequested, shell,
                      &TovraAppShell::chooseModeForKillSwitch);
-    // The tray polls the status; the window shows the same verdict on its pages.
+    // The tray polls the status; the window shows the same verdict on its pages. The version
+    // check at start is no outage: the window goes on as usual meanwhile (signing in stays
+    // possible), while the tray holds its actions until the verdict.
     QObject::connect(tray, &TovraTrayApp::daemonReachabilityChanged, window,
-                     &WindowController::setDaemonUnavailableReason);
+                     [shell, window](const QString &reason) {
+                         const bool checking =
+                             shell->compatibilityState() == TovraAppShell::CompatibilityChecking;
+                         window->setDaemonUnavailableReason(checking ? QString() : reason);
+                     });
 }
 
 void ShellWiring::connectWindow(TovraAppShell *shell, const ShellContext &context,

@@ -3,14 +3,16 @@
 #include "AccountFlow.h"
 #include "AppState.h"
 #include "CatalogFlow.h"
+#include "CompatibilityFlow.h"
 #include "ConnectionFlow.h"
 #include "ControlWorker.h"
 #include "GuiPreferences.h"
 #include "LanguageFlow.h"
+#include "RecentLocationRecorder.h"
 #include "RequestLedger.h"
+#include "RoutingFlow.h"
 #include "SettingsFlow.h"
 #include "ShellNotifier.h"
-#include "ShellText.h"
 #include "ShellWiring.h"
 #include "ShellWorkers.h"
 #include "TovraTrayApp.h"
@@ -18,12 +20,11 @@
 #include "UpdateFlow.h"
 #include "WindowController.h"
 
+#include <QCoreApplication>
 #include <QTimer>
 
 namespace {
 
-constexpr int kVersionTimeoutMs = 3000;
-constexpr int kIncompatibleRecheckMs = 10000;
 constexpr int kFirstUpdateCheckDelayMs = 30000;
 
 } // namespace
@@ -46,9 +47,12 @@ TovraAppShell::TovraAppShell(QObject *parent, const QString &socketPath,
     m_connection = new ConnectionFlow(
         m_context, m_update, [this] { return busy(); }, this);
     m_catalog = new CatalogFlow(m_context, this);
+    m_routing = new RoutingFlow(m_context, this);
     m_settings = new SettingsFlow(m_context, this);
     m_account = new AccountFlow(m_context, this);
     m_language = new LanguageFlow(m_context, this);
+    m_compatibility = new CompatibilityFlow(m_context, this);
+    new RecentLocationRecorder(m_context.state, m_context.preferences, this);
 
     ShellWiring::connectWorkers(this, m_context);
     ShellWiring::connectTray(this, m_context);
@@ -111,8 +115,7 @@ void TovraAppShell::start()
         return;
     }
     m_started = true;
-    setCompatibility(CompatibilityChecking);
-    requestVersion();
+    m_compatibility->start();
 
     m_context.window->setSystemTrayAvailable(trayAvailable);
     // A tray host that comes or goes later decides whether closing the window hides it.
@@ -125,41 +128,18 @@ void TovraAppShell::start()
     m_update->scheduleAtStart(kFirstUpdateCheckDelayMs);
 }
 
-void TovraAppShell::setCompatibility(CompatibilityState state, const QString &text)
-{
-    m_compatibility = state;
-    QString reason = text;
-    if (reason.isEmpty() && state == CompatibilityChecking)
-        reason = ShellText::tr("Checking Tovra service compatibility...");
-    else if (reason.isEmpty() && state == Incompatible)
-        reason =
-            ShellText::tr("Tovra GUI and daemon are incompatible. Update Tovra before continuing.");
-    m_context.tray->setControlAvailable(state == CompatibilityUnknown || state == Compatible,
-                                        reason);
-}
-
-void TovraAppShell::requestVersion()
-{
-    if (m_context.ledger->inFlight(RequestLedger::Kind::Version))
-        return;
-    const quint64 id = m_context.ledger->issue(RequestLedger::Kind::Version);
-    QMetaObject::invokeMethod(m_context.workers->control(), "fetchVersion", Qt::QueuedConnection,
-                              Q_ARG(quint64, id), Q_ARG(int, kVersionTimeoutMs));
-}
-
 bool TovraAppShell::busy() const
 {
     return m_connection->connectInProgress() || m_connection->disconnectInProgress() ||
-           m_settings->busy() || m_account->busy();
+           m_routing->busy() || m_account->busy();
 }
 
 void TovraAppShell::handleRuntimeChanged(const RuntimeInfo &runtime)
 {
     if (!runtime.valid)
         return;
-    // The daemon was away when we asked; now that it answers, ask again.
-    if (m_started && m_compatibility == CompatibilityUnknown)
-        requestVersion();
+    if (m_started)
+        m_compatibility->followRuntime();
     m_language->checkSystemLanguage();
     m_language->followEffectiveLanguage(runtime.effectiveLanguage);
     m_account->followRuntime(runtime);
@@ -214,12 +194,12 @@ void TovraAppShell::disconnectRuntimeFromTray()
 
 void TovraAppShell::setModePreference(ModeInfo mode)
 {
-    m_settings->setMode(mode);
+    m_routing->setMode(mode);
 }
 
 void TovraAppShell::setLocalNetworkPreference(QString mode)
 {
-    m_settings->setLocalNetwork(mode);
+    m_routing->setLocalNetwork(mode);
 }
 
 void TovraAppShell::refreshLocations()
@@ -249,12 +229,12 @@ void TovraAppShell::setLocationFavorite(QString nodeID, bool favorite)
 
 void TovraAppShell::refreshModeSplitRules()
 {
-    m_settings->refreshSplitRules();
+    m_routing->refreshSplitRules();
 }
 
 void TovraAppShell::importModeSplitRules(QString kind, QString content)
 {
-    m_settings->importSplitRules(kind, content);
+    m_routing->importSplitRules(kind, content);
 }
 
 void TovraAppShell::openLogs()
@@ -311,27 +291,27 @@ void TovraAppShell::pollGUIUpdateDownload()
 
 void TovraAppShell::setSettingsKillSwitchEnabled(bool enabled)
 {
-    m_settings->setKillSwitchEnabled(enabled);
+    m_routing->setKillSwitchEnabled(enabled);
 }
 
 void TovraAppShell::setSettingsKillSwitchMode(QString mode)
 {
-    m_settings->setKillSwitchMode(mode);
+    m_routing->setKillSwitchMode(mode);
 }
 
 void TovraAppShell::switchToAutoAndEnableKillSwitch()
 {
-    m_settings->switchToAutoAndEnableKillSwitch();
+    m_routing->switchToAutoAndEnableKillSwitch();
 }
 
 void TovraAppShell::chooseModeForKillSwitch()
 {
-    m_settings->chooseModeForKillSwitch();
+    m_routing->chooseModeForKillSwitch();
 }
 
 void TovraAppShell::cancelPendingKillSwitchEnable()
 {
-    m_settings->cancelPendingKillSwitchEnable();
+    m_routing->cancelPendingKillSwitchEnable();
 }
 
 void TovraAppShell::setSettingsProxyListeners(QString socksAddress, QString httpAddress)
@@ -366,7 +346,7 @@ void TovraAppShell::repairSettingsDiagnostics()
 
 void TovraAppShell::setSettingsSystemProxyPreference(QString mode)
 {
-    m_settings->setSystemProxy(mode);
+    m_routing->setSystemProxy(mode);
 }
 
 void TovraAppShell::loginAccount(QString username, QString password, bool rememberMe)
@@ -397,174 +377,4 @@ void TovraAppShell::pollWindowNodePing()
 void TovraAppShell::pollWindowCatalogRefresh()
 {
     m_catalog->pollCatalogRefresh();
-}
-
-void TovraAppShell::handleWindowStatusFinished(quint64 requestId, RuntimeInfo info,
-                                               QString errorMessage)
-{
-    if (!m_connection->handleStatus(requestId, info, errorMessage) &&
-        !m_settings->handleStatus(requestId, info, errorMessage))
-        m_catalog->handleStatus(requestId, info, errorMessage);
-    // Every status answer, the tray's polls included, failed or not: while the daemon is away
-    // this keeps the language sync retrying with its back-off.
-    m_language->checkSystemLanguage();
-}
-
-void TovraAppShell::handleWindowNodesFinished(quint64 requestId, NodesInfo info,
-                                              QString errorMessage)
-{
-    m_catalog->handleNodes(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowNodeGroupsFinished(quint64 requestId, NodeGroupsInfo info,
-                                                   QString errorMessage)
-{
-    m_catalog->handleNodeGroups(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowConnectFinished(quint64 requestId, RuntimeInfo info,
-                                                QString errorMessage)
-{
-    m_connection->handleConnectFinished(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowDisconnectFinished(quint64 requestId, RuntimeInfo info,
-                                                   QString errorMessage)
-{
-    m_connection->handleDisconnectFinished(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowModeFinished(quint64 requestId, ModeInfo info, QString errorMessage)
-{
-    m_settings->handleMode(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowVersionFinished(quint64 requestId, VersionInfo info,
-                                                QString errorMessage)
-{
-    if (!m_context.ledger->accept(RequestLedger::Kind::Version, requestId))
-        return;
-    if (!errorMessage.isEmpty() && !(info.valid && !info.compatible)) {
-        setCompatibility(CompatibilityUnknown, errorMessage);
-        m_context.notifier->error(failureText(
-            errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not load version")));
-        return;
-    }
-    m_context.state->setVersion(info);
-    if (info.compatible) {
-        setCompatibility(Compatible);
-        return;
-    }
-    const bool wasIncompatible = m_compatibility == Incompatible;
-    setCompatibility(Incompatible);
-    // The daemon may be updated under a running client: ask again until it speaks our version.
-    QTimer::singleShot(kIncompatibleRecheckMs, this, [this] {
-        if (m_compatibility == Incompatible)
-            requestVersion();
-    });
-    if (wasIncompatible)
-        return;
-    m_context.window->showOrRaise();
-    m_context.notifier->error(
-        ShellText::tr("Tovra GUI and daemon are incompatible. Update Tovra before continuing."));
-}
-
-void TovraAppShell::handleWindowAPIURLFinished(quint64 requestId, APIURLConfigInfo info,
-                                               QString errorMessage)
-{
-    m_settings->handleAPIURL(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowAutoConnectFinished(quint64 requestId, AutoConnectConfigInfo info,
-                                                    QString errorMessage)
-{
-    m_settings->handleAutoConnect(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowLanguageFinished(quint64 requestId, LanguageConfigInfo info,
-                                                 QString errorMessage)
-{
-    if (!m_settings->handleLanguageLoad(requestId, info, errorMessage))
-        m_language->handleLanguage(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowUpdateFinished(quint64 requestId, UpdateInfo info,
-                                               QString errorMessage)
-{
-    const bool latest = m_context.ledger->isLatest(RequestLedger::Kind::UpdateCheck, requestId);
-    m_update->handleUpdateFinished(requestId, info, errorMessage);
-    if (latest)
-        m_settings->noteUpdateCheckFinished(info, errorMessage);
-}
-
-void TovraAppShell::handleGUIUpdateDownloadFinished(quint64 requestId, GUIUpdateDownloadInfo info,
-                                                    QString errorMessage)
-{
-    m_update->handleDownloadFinished(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowProxyListenFinished(quint64 requestId, ProxyListenResultInfo info,
-                                                    QString errorMessage)
-{
-    m_settings->handleProxyListen(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowSplitDNSFinished(quint64 requestId, SplitDNSInfo info,
-                                                 QString errorMessage)
-{
-    m_settings->handleSplitDNS(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowSplitRulesFinished(quint64 requestId, SplitRulesInfo info,
-                                                   QString errorMessage)
-{
-    m_settings->handleSplitRules(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowSplitRuleImportFinished(quint64 requestId,
-                                                        SplitRuleMutationInfo info,
-                                                        QString errorMessage)
-{
-    m_settings->handleSplitRuleImport(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowRepairFinished(quint64 requestId, RepairResultInfo info,
-                                               QString errorMessage)
-{
-    m_settings->handleRepair(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowConfigPathsFinished(quint64 requestId, ConfigPaths paths,
-                                                    QString errorMessage)
-{
-    m_settings->handleConfigPaths(requestId, paths, errorMessage);
-}
-
-void TovraAppShell::handleWindowKillSwitchFinished(quint64 requestId, KillSwitchInfo info,
-                                                   QString errorMessage)
-{
-    m_settings->handleKillSwitch(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowLoginFinished(quint64 requestId, RuntimeInfo info,
-                                              QString errorMessage)
-{
-    m_account->handleLogin(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowLogoutFinished(quint64 requestId, RuntimeInfo info,
-                                               QString errorMessage)
-{
-    m_account->handleLogout(requestId, info, errorMessage);
-}
-
-void TovraAppShell::handleWindowUserFinished(quint64 requestId, UserInfo user, QString errorMessage)
-{
-    m_account->handleUser(requestId, user, errorMessage);
-}
-
-void TovraAppShell::handleWindowPurchaseURLFinished(quint64 requestId, PurchaseURLInfo info,
-                                                    QString errorMessage)
-{
-    m_account->handlePurchaseURL(requestId, info, errorMessage);
 }

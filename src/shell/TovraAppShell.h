@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CompatibilityFlow.h"
 #include "ShellContext.h"
 
 #include "ControlEndpoints.h"
@@ -16,6 +17,7 @@ class ConnectionFlow;
 class GuiPreferences;
 class LanguageFlow;
 class RequestLedger;
+class RoutingFlow;
 class SettingsFlow;
 class ShellNotifier;
 class ShellWorkers;
@@ -25,17 +27,19 @@ class WindowController;
 
 // Turns the user's intents from the tray and the window into daemon requests, and the daemon's
 // answers into state and messages. A coordinator: each flow lives in a collaborator of its own.
+// The intents are in TovraAppShell.cpp, the worker's answers in TovraAppShellAnswers.cpp.
 class TovraAppShell : public QObject
 {
     Q_OBJECT
 
 public:
-    enum CompatibilityState {
-        CompatibilityUnknown = 0,
-        CompatibilityChecking = 1,
-        Compatible = 2,
-        Incompatible = 3
-    };
+    using CompatibilityState = CompatibilityFlow::State;
+    static constexpr CompatibilityState CompatibilityUnknown =
+        CompatibilityFlow::CompatibilityUnknown;
+    static constexpr CompatibilityState CompatibilityChecking =
+        CompatibilityFlow::CompatibilityChecking;
+    static constexpr CompatibilityState Compatible = CompatibilityFlow::Compatible;
+    static constexpr CompatibilityState Incompatible = CompatibilityFlow::Incompatible;
 
     explicit TovraAppShell(QObject *parent = nullptr, const QString &socketPath = QString(),
                            GuiPreferences *preferences = nullptr);
@@ -50,7 +54,7 @@ public:
     // Stops the workers and waits for their threads; safe to call more than once.
     void shutdown();
 
-    CompatibilityState compatibilityState() const { return m_compatibility; }
+    CompatibilityState compatibilityState() const { return m_compatibility->state(); }
     AppState *state() const { return m_context.state; }
     TovraTrayApp *tray() const { return m_context.tray; }
     WindowController *windowController() const { return m_context.window; }
@@ -59,6 +63,7 @@ public:
     RequestLedger *ledger() const { return m_context.ledger; }
     CatalogFlow *catalogFlow() const { return m_catalog; }
     ConnectionFlow *connectionFlow() const { return m_connection; }
+    RoutingFlow *routingFlow() const { return m_routing; }
     LanguageFlow *languageFlow() const { return m_language; }
     UpdateFlow *updateFlow() const { return m_update; }
     SettingsFlow *settingsFlow() const { return m_settings; }
@@ -151,8 +156,6 @@ public Q_SLOTS:
                                          QString errorMessage);
 
 private:
-    void setCompatibility(CompatibilityState state, const QString &text = QString());
-    void requestVersion();
     void handleRuntimeChanged(const RuntimeInfo &runtime);
     bool busy() const;
 
@@ -160,11 +163,12 @@ private:
     bool m_ownsPreferences = false;
     ConnectionFlow *m_connection = nullptr;
     CatalogFlow *m_catalog = nullptr;
+    RoutingFlow *m_routing = nullptr;
     SettingsFlow *m_settings = nullptr;
     AccountFlow *m_account = nullptr;
     LanguageFlow *m_language = nullptr;
     UpdateFlow *m_update = nullptr;
-    CompatibilityState m_compatibility = CompatibilityUnknown;
+    CompatibilityFlow *m_compatibility = nullptr;
     bool m_launchedByAutostart = false;
     int m_trayAvailable = -1; // -1: ask the desktop
     bool m_shutDown = false;

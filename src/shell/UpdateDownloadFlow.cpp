@@ -30,8 +30,9 @@ bool isUnanswered(const QString &error)
 
 bool isActiveState(const QString &state)
 {
-    return state == QLatin1String("checking") || state == QLatin1String("downloading") ||
-           state == QLatin1String("verifying") || state == QLatin1String("canceling");
+    return state == QLatin1String("queued") || state == QLatin1String("checking") ||
+           state == QLatin1String("downloading") || state == QLatin1String("verifying") ||
+           state == QLatin1String("retrying") || state == QLatin1String("canceling");
 }
 
 bool isWebLink(const QUrl &url)
@@ -204,8 +205,9 @@ void UpdateDownloadFlow::apply(Request request, const GUIUpdateDownloadInfo &inf
         m_tracking = true;
         if (!(m_cancelRequested && state != QLatin1String("canceling")))
             dialog()->setDownload(info);
-        // Bytes move quickly; a cancel winds down at the daemon's pace.
-        armPoll(state == QLatin1String("canceling") ? kSlowPollMs : kFastPollMs);
+        // Bytes move quickly; a cancel or a retry goes at the daemon's pace.
+        const bool slow = state == QLatin1String("canceling") || state == QLatin1String("retrying");
+        armPoll(slow ? kSlowPollMs : kFastPollMs);
         return;
     }
     m_tracking = false;

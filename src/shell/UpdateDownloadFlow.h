@@ -51,6 +51,8 @@ public:
 
     void handleFinished(quint64 requestId, const GUIUpdateDownloadInfo &info,
                         const QString &errorMessage);
+    // In the dialog while it is on screen, else as a notification.
+    void tell(const QString &text, const QString &kind);
 
 Q_SIGNALS:
     void downloadChanged(const GUIUpdateDownloadInfo &info);
@@ -68,8 +70,6 @@ private:
     void applyFailed(const GUIUpdateDownloadInfo &info);
     void fail(const QString &message, UpdateDialog::Remedy remedy,
               const QString &detail = QString());
-    // In the dialog while it is on screen, else as a notification.
-    void tell(const QString &text, const QString &kind);
 
     ShellContext m_context;
     DialogSource m_dialog;

@@ -207,8 +207,12 @@ bool UpdateFlow::blocksConnect()
     m_context.window->showOrRaise();
     if (!updateComplete()) {
         check(false);
+        // Without its own version the GUI cannot ask for the update: no check is on its way.
         m_context.notifier->warning(
-            ShellText::tr("A required Tovra update is being checked before connecting."), 5000);
+            checkInFlight()
+                ? ShellText::tr("A required Tovra update is being checked before connecting.")
+                : ShellText::tr("A required Tovra update must be installed before connecting."),
+            5000);
     } else {
         presentOffer(true);
     }
@@ -234,9 +238,9 @@ void UpdateFlow::startDownload()
         // Wait for the check to land, then go on with the offer it brings.
         m_downloadAfterCheck = true;
         dialog->showPreparing();
-        dialog->showNotice(ShellText::tr("Finishing the latest update check before starting the "
-                                         "download..."),
-                           QStringLiteral("info"));
+        m_download->tell(ShellText::tr("Finishing the latest update check before starting the "
+                                       "download..."),
+                         QStringLiteral("info"));
         return;
     }
     if (m_recheckBeforeDownload) {

@@ -36,6 +36,8 @@ class TrayNotifier;
 // The system-tray face of the program: one icon, its menu and a status poll. It asks the
 // worker itself for what it can do alone and asks the shell, by signals, for anything that
 // needs a window or the shell's connect and sign-out flows.
+// Construction, status and drawing are in TovraTrayApp.cpp; the actions it takes and the
+// worker's answers in TovraTrayAppActions.cpp.
 class TovraTrayApp : public QObject
 {
     Q_OBJECT

@@ -46,6 +46,8 @@ void TrayLogOpener::handleConfigPathsFinished(quint64 requestId, const ConfigPat
     if (!m_ids->isLatest(Kind::ConfigPaths, requestId))
         return;
     if (!errorMessage.isEmpty()) {
+        //: Follows "Error: " when a request to the service failed without a reason. Word it as a
+        //: user would understand it: "could not complete the action"
         m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("operation failed"));
         return;
     }

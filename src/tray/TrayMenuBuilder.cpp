@@ -150,8 +150,12 @@ TrayMenu TrayMenuBuilder::build()
 
     m.systemProxyMenu = menu->addMenu(TrayMenuText::tr("System Proxy"));
     auto *proxyGroup = new QActionGroup(m.systemProxyMenu);
+    //: System proxy menu option and value: the desktop proxy settings are left alone
     m.systemProxyOff = exclusive(proxyGroup, m.systemProxyMenu, TrayMenuText::tr("Off"));
+    //: System proxy menu option and value: the desktop proxy settings point at Tovra
     m.systemProxyOn = exclusive(proxyGroup, m.systemProxyMenu, TrayMenuText::tr("On"));
+    //: System proxy menu option and value, a state rather than an action: the desktop proxy
+    //: settings point at Tovra and other programs cannot change them
     m.systemProxyLock = exclusive(proxyGroup, m.systemProxyMenu, TrayMenuText::tr("Lock"));
 
     QMenu *localInto = menu;
@@ -163,7 +167,10 @@ TrayMenu TrayMenuBuilder::build()
         m.localNetworkTitle = addSection(menu, TrayMenuText::tr("LAN Access"));
     }
     auto *localGroup = new QActionGroup(localInto);
+    //: Local network menu option and value: devices nearby are reached outside the tunnel. Also the
+    //: route in "Regions use %1: %2"
     m.localDirect = exclusive(localGroup, localInto, TrayMenuText::tr("Direct"));
+    //: Local network menu option and value: local traffic goes through the tunnel like the rest
     m.localProtected = exclusive(localGroup, localInto, TrayMenuText::tr("Protected"));
 
     menu->addSeparator();

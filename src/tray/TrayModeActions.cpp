@@ -59,6 +59,7 @@ TrayModeActions::TrayModeActions(const TrayMenu &menu, QObject *parent)
     connectChoice(m_menu.tunnelGlobal, ModeChoice::TovraVpnGlobal,
                   QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching to TovraVPN..."));
     connectChoice(m_menu.tunnelSplit, ModeChoice::TovraVpnSplit,
+                  //: Switching to the TovraVPN Split mode; name the mode as the Mode page does
                   QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching TovraVPN split..."));
     connectChoice(m_menu.proxyGlobal, ModeChoice::ProxyGlobal,
                   QT_TRANSLATE_NOOP("TrayMenuText", "Tovra: switching to Tovra Proxy..."));

@@ -172,6 +172,8 @@ void TrayOperations::handleLogoutFinished(quint64 requestId, const QString &erro
     if (errorMessage.isEmpty())
         m_notifier->notify(TrayMenuText::tr("Logged out"));
     else
+        //: Follows "Error: " when signing out failed and the service gave no reason. Word it as a
+        //: user would understand it: "could not complete the account action"
         m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("account operation failed"));
     finish();
 }
@@ -183,6 +185,8 @@ void TrayOperations::handleModeFinished(quint64 requestId, const ModeInfo &mode,
         return;
     m_modeInFlight = false;
     if (!errorMessage.isEmpty()) {
+        //: Follows "Error: " when changing the mode failed and the service gave no reason. Word it
+        //: as a user would understand it: "could not change the mode"
         m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("mode operation failed"));
     } else {
         if (mode.valid) {
@@ -223,6 +227,8 @@ void TrayOperations::handleKillSwitchFinished(quint64 requestId, const KillSwitc
         m_notifier->notify(info.enabled ? TrayMenuText::tr("Kill switch enabled")
                                         : TrayMenuText::tr("Kill switch disabled"));
     } else {
+        //: Follows "Error: " when turning the kill switch on or off failed and the service gave no
+        //: reason. Word it as a user would understand it: "could not change the kill switch"
         m_notifier->notifyFailure(errorMessage, TrayMenuText::tr("kill-switch operation failed"));
     }
     finish();

@@ -1,5 +1,6 @@
 #include "TrayStatusFormatter.h"
 
+#include "AccountSession.h"
 #include "BidiText.h"
 #include "KillSwitchState.h"
 #include "TrayMenuText.h"
@@ -28,6 +29,7 @@ bool TrayStatusFormatter::isConnecting(const RuntimeInfo &runtime)
 QString TrayStatusFormatter::stateWord(const RuntimeInfo &runtime)
 {
     if (isConnected(runtime))
+        //: Tunnel state after "Tovra: ": the VPN is connected (not connecting)
         return TrayMenuText::tr("connected");
     QString word = normalized(runtime.tunnelState);
     if (word.isEmpty())
@@ -71,7 +73,7 @@ QString TrayStatusFormatter::daemonLine(const RuntimeInfo &runtime)
 
 bool TrayStatusFormatter::isSignedIn(const RuntimeInfo &runtime)
 {
-    return normalized(runtime.authState) == u"logged_in";
+    return AccountSession::isSignedIn(runtime.authState);
 }
 
 QString TrayStatusFormatter::accountLine(const RuntimeInfo &runtime, const UserInfo &user,

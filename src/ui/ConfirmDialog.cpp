@@ -34,6 +34,7 @@ ConfirmDialog::ConfirmDialog(QWidget *parent)
     m_accept->setDefault(true);
     m_accept->setProperty("tovraDestructive", QStringLiteral("false"));
     m_alternate->hide();
+    //: Button
     m_cancel->setText(tr("Cancel"));
 
     auto *buttons = new QHBoxLayout;

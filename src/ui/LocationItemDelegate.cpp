@@ -160,6 +160,12 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
         painter->setBrush(fill);
         painter->drawRoundedRect(QRectF(opt.rect).adjusted(2, 1, -2, -1), 6, 6);
     }
+    if (opt.state & QStyle::State_HasFocus) {
+        // The keyboard's row in a focused list: the same ring as every other control.
+        painter->setPen(QPen(pick(m_accent, pal.color(QPalette::Highlight)), 2));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(QRectF(opt.rect).adjusted(3, 2, -3, -2), 5, 5);
+    }
 
     const QVariant decoration = index.data(Qt::DecorationRole);
     QPixmap flag;

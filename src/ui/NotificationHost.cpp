@@ -1,5 +1,7 @@
 #include "NotificationHost.h"
 
+#include "AccessibleAnnouncer.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QStyle>
@@ -26,6 +28,7 @@ NotificationHost::NotificationHost(QWidget *parent)
     , m_message(new QLabel(this))
     , m_close(new QToolButton(this))
     , m_timer(new QTimer(this))
+    , m_announcer(new AccessibleAnnouncer(this))
 {
     setObjectName(QStringLiteral("TovraNotificationHost"));
     setProperty("tovraNotificationKind", QStringLiteral("info"));
@@ -122,6 +125,10 @@ void NotificationHost::showMessage(const QString &text, const QString &kind, int
     }
     show();
     raise();
+    // Read out as it appears; an error interrupts whatever is being read.
+    m_announcer->announce(message, normalized == QLatin1String("error")
+                                       ? AccessibleAnnouncer::Politeness::Assertive
+                                       : AccessibleAnnouncer::Politeness::Polite);
 }
 
 void NotificationHost::dismiss()

@@ -2,6 +2,7 @@
 
 #include <QFrame>
 
+class AccessibleAnnouncer;
 class QLabel;
 class QTimer;
 class QToolButton;
@@ -33,4 +34,5 @@ private:
     QLabel *m_message = nullptr;
     QToolButton *m_close = nullptr;
     QTimer *m_timer = nullptr;
+    AccessibleAnnouncer *m_announcer = nullptr;
 };

@@ -1,5 +1,6 @@
 #include "ThemeEngine.h"
 
+#include "LayoutAlignedLabels.h"
 #include "StyleTemplate.h"
 #include "ThemedScrollBar.h"
 #include "ToggleSwitch.h"
@@ -181,6 +182,8 @@ void ThemeEngine::applyToWindow(QWidget *window, const ThemeColors &colors)
     if (!window) {
         return;
     }
+    // The themed look follows the layout's direction, the labels' alignment included.
+    LayoutAlignedLabels::install();
     applyPaletteRecursively(window, buildPalette(colors));
     window->setStyleSheet(renderStyleSheet(colors, window->layoutDirection()));
     applySwitchColors(window, colors);

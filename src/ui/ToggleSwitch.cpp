@@ -1,5 +1,7 @@
 #include "ToggleSwitch.h"
 
+#include "AccessibleControl.h"
+
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -15,6 +17,7 @@ constexpr qreal kThumbDiameter = kTrackHeight - 2 * kInset;
 ToggleSwitch::ToggleSwitch(QWidget *parent)
     : QAbstractButton(parent)
 {
+    AccessibleControl::attach(this, QAccessible::CheckBox);
     setCheckable(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Fixed, QSizePolicy::Fixed);

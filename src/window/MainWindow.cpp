@@ -1,24 +1,21 @@
 #include "MainWindow.h"
 
-#include "AccountPage.h"
 #include "AppState.h"
-#include "DelayedBusyIndicator.h"
 #include "DesktopColorScheme.h"
 #include "GuiMemLog.h"
 #include "GuiPreferences.h"
 #include "GuiTextLog.h"
+#include "LayoutAlignedLabels.h"
 #include "LocationsPage.h"
 #include "ModePage.h"
 #include "NavigationSidebar.h"
 #include "NotificationHost.h"
-#include "PageSignals.h"
 #include "PageStack.h"
-#include "SettingsPage.h"
 #include "ThemeEngine.h"
-#include "TranslationManager.h"
 #include "UnifiedTitleBar.h"
 #include "VpnPage.h"
 #include "WindowCloseAccessible.h"
+#include "WindowPages.h"
 
 #include <QAction>
 #include <QCloseEvent>
@@ -28,7 +25,6 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QMouseEvent>
-#include <QUrlQuery>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -37,12 +33,6 @@ namespace {
 const QString kErrorKind = QStringLiteral("error");
 
 } // namespace
-
-template<typename T>
-T *MainWindow::builtPage(int index)
-{
-    return static_cast<T *>(m_stack->page(index));
-}
 
 MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *parent)
     : QMainWindow(parent)
@@ -56,6 +46,8 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
 
     setWindowTitle(tr("Tovra"));
     setMinimumSize(780, 620);
+    // Every label starts where the layout starts, whatever its text's own direction.
+    LayoutAlignedLabels::install();
     // Themed before the pages exist: each widget inherits the palette and is polished once,
     // with the sheet, instead of being restyled after construction.
     const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
@@ -89,28 +81,11 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     rootLayout->addWidget(buildContentColumn(root), 1);
     setCentralWidget(root);
 
-    PageSignals::forward(m_vpnPage, this);
     applyTitleBarHooks();
 
     m_notifications = new NotificationHost(m_content);
     m_notifications->hide();
 
-    m_modeBusy = new DelayedBusyIndicator(
-        [this](bool shown) {
-            if (m_modePage)
-                m_modePage->setModeBusy(shown);
-        },
-        this);
-    m_settingsBusy = new DelayedBusyIndicator(
-        [this](bool shown) {
-            if (m_settingsPage)
-                m_settingsPage->setBusy(shown);
-            if (m_modePage)
-                m_modePage->setSettingsBusy(shown);
-        },
-        this);
-
-    connectState();
     connect(m_desktopScheme, &DesktopColorScheme::changed, this, [this] {
         // Only the "system" preference follows the desktop.
         if (m_appearance == QLatin1String("system")) {
@@ -139,117 +114,15 @@ QWidget *MainWindow::buildContentColumn(QWidget *root)
     m_pageTitle->setObjectName(QStringLiteral("TovraCurrentPageTitle"));
     column->addWidget(m_pageTitle);
 
-    m_stack = new PageStack(m_content);
-    // The order is the meaning of the page index everywhere. The first page is built now; the
-    // others when first needed, or once the window has painted (see showEvent).
-    m_vpnPage = new VpnPage(m_preferences, m_stack);
-    m_stack->addWidget(m_vpnPage);
-    m_stack->addPage([](QWidget *parent) { return new LocationsPage(parent); });
-    m_stack->addPage([](QWidget *parent) { return new ModePage(parent); });
-    m_stack->addPage([preferences = m_preferences](QWidget *parent) {
-        return new SettingsPage(preferences, parent);
-    });
-    m_stack->addPage([](QWidget *parent) { return new AccountPage(parent); });
-    connect(m_stack, &PageStack::pageBuilt, this, &MainWindow::wirePage);
+    m_pages = new WindowPages(this, m_state, m_preferences, m_content);
+    m_stack = m_pages->stack();
     column->addWidget(m_stack, 1);
     return m_content;
 }
 
-void MainWindow::wirePage(int index, QWidget *built)
-{
-    const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
-    switch (index) {
-    case LocationsPageIndex:
-        m_locationsPage = static_cast<LocationsPage *>(built);
-        m_locationsPage->setPreferences(m_preferences);
-        m_locationsPage->applyTheme(colors);
-        PageSignals::forward(m_locationsPage, this);
-        break;
-    case ModePageIndex:
-        m_modePage = static_cast<ModePage *>(built);
-        m_modePage->applyTheme(colors);
-        m_modePage->setModeBusy(m_modeBusy->isShown());
-        m_modePage->setSettingsBusy(m_settingsBusy->isShown());
-        m_modePage->setSplitRulesFetchInProgress(m_splitRulesFetch);
-        m_modePage->setSplitRulesImportInProgress(m_splitRulesImport);
-        PageSignals::forward(m_modePage, this);
-        break;
-    case SettingsPageIndex:
-        m_settingsPage = static_cast<SettingsPage *>(built);
-        m_settingsPage->applyTheme(colors);
-        m_settingsPage->setBusy(m_settingsBusy->isShown());
-        PageSignals::forward(m_settingsPage, this);
-        break;
-    case AccountPageIndex:
-        m_accountPage = static_cast<AccountPage *>(built);
-        connectAccountPage(m_accountPage);
-        break;
-    default:
-        return;
-    }
-    ThemeEngine::applySwitchColors(built, colors);
-    ThemeEngine::applyScrollBarColors(built, colors);
-    refreshPages({static_cast<WindowPage *>(built)});
-}
-
-void MainWindow::connectAccountPage(AccountPage *page)
-{
-    connect(page, &AccountPage::loginRequested, this, &MainWindow::loginRequested);
-    connect(page, &AccountPage::logoutRequested, this, &MainWindow::logoutRequested);
-    connect(page, &AccountPage::renewRequested, this,
-            [this] { Q_EMIT purchaseURLRequested(linkLanguage()); });
-    connect(page, &AccountPage::signUpRequested, this,
-            [this] { Q_EMIT openExternalURLRequested(accountLink(QStringLiteral("/signup"))); });
-    connect(page, &AccountPage::forgotPasswordRequested, this, [this] {
-        Q_EMIT openExternalURLRequested(accountLink(QStringLiteral("/password-reset")));
-    });
-}
-
-void MainWindow::connectState()
-{
-    if (!m_state) {
-        return;
-    }
-    AppState *state = m_state;
-    const auto all = [this] {
-        refreshPages({m_locationsPage, m_modePage, m_vpnPage, m_settingsPage, m_accountPage});
-    };
-    const auto catalogue = [this] { refreshPages({m_locationsPage, m_vpnPage}); };
-    const auto settings = [this] { refreshPages({m_settingsPage}); };
-    connect(state, &AppState::runtimeChanged, this, all);
-    connect(state, &AppState::userChanged, this, [this] {
-        refreshPages({m_vpnPage, m_accountPage});
-    });
-    connect(state, &AppState::nodesChanged, this, catalogue);
-    connect(state, &AppState::nodeGroupsChanged, this, catalogue);
-    connect(state, &AppState::nodesRefreshCooldownChanged, this, catalogue);
-    connect(state, &AppState::killSwitchChanged, this, [this] {
-        refreshPages({m_modePage, m_vpnPage, m_settingsPage});
-    });
-    connect(state, &AppState::splitRulesChanged, this, [this] { refreshPages({m_modePage}); });
-    connect(state, &AppState::configPathsChanged, this, settings);
-    connect(state, &AppState::versionChanged, this, settings);
-    connect(state, &AppState::apiURLConfigChanged, this, settings);
-    connect(state, &AppState::languageConfigChanged, this, settings);
-    connect(state, &AppState::updateChanged, this, settings);
-    connect(state, &AppState::splitDNSChanged, this, settings);
-}
-
-void MainWindow::refreshPages(std::initializer_list<WindowPage *> pages)
-{
-    if (!m_state) {
-        return;
-    }
-    for (WindowPage *page : pages) {
-        if (page) // not built yet: it reads the state when it is
-            page->refresh(*m_state);
-    }
-}
-
 void MainWindow::refreshFromState()
 {
-    // The catalogue and mode first: the VPN page's summary reads from them.
-    refreshPages({m_locationsPage, m_modePage, m_vpnPage, m_settingsPage, m_accountPage});
+    m_pages->refreshAll();
 }
 
 int MainWindow::currentPage() const
@@ -267,7 +140,7 @@ void MainWindow::showPage(int index)
     m_stack->setCurrentIndex(index);
 
     if (previous == VpnPageIndex && index != VpnPageIndex) {
-        m_vpnPage->closeQuickEntryPopup();
+        m_pages->vpn()->closeQuickEntryPopup();
     } else if (previous == ModePageIndex && index != ModePageIndex) {
         Q_EMIT modePageLeft();
     }
@@ -283,13 +156,12 @@ void MainWindow::showPage(int index)
         Q_EMIT settingsVisibleRequested();
         return;
     case ModePageIndex:
-        if (m_state && m_state->splitRules().rules.isEmpty() && !m_splitRulesFetch &&
-            !m_splitRulesImport) {
+        if (m_state && m_state->splitRules().rules.isEmpty() && !m_pages->splitRulesBusy()) {
             Q_EMIT splitRulesRequested();
         }
         return;
     case LocationsPageIndex:
-        m_locationsPage->pageShown();
+        m_pages->locations()->pageShown();
         return;
     default:
         return;
@@ -309,64 +181,32 @@ void MainWindow::setDeleteOnClose(bool remove)
 
 void MainWindow::setModeOperationBusy(bool busy)
 {
-    m_modeBusy->setBusy(busy);
-    if (!busy) {
-        // Settings shows the system proxy and local network too.
-        settleSettingsPage();
-    }
+    m_pages->setModeOperationBusy(busy);
 }
 
 void MainWindow::setSettingsOperationBusy(bool busy)
 {
-    m_settingsBusy->setBusy(busy);
-    if (!busy) {
-        settleSettingsPage();
-    }
-}
-
-void MainWindow::settleSettingsPage()
-{
-    // An answered or failed change leaves every Settings control on the daemon's value.
-    if (!m_settingsPage) {
-        return;
-    }
-    m_settingsPage->settle();
-    refreshPages({m_settingsPage});
-}
-
-void MainWindow::setSettingsNote(const QString &key, const QString &text)
-{
-    builtPage<SettingsPage>(SettingsPageIndex)->setNote(key, text);
-}
-
-void MainWindow::setRepairResult(const RepairResultInfo &result)
-{
-    // A page built later starts from the defaults: a default value needs no page built for it.
-    if (m_settingsPage || result != RepairResultInfo()) {
-        builtPage<SettingsPage>(SettingsPageIndex)->setRepairResult(result);
-    }
+    m_pages->setSettingsOperationBusy(busy);
 }
 
 void MainWindow::setSplitRulesFetchInProgress(bool inProgress)
 {
-    if (m_splitRulesFetch == inProgress) {
-        return;
-    }
-    m_splitRulesFetch = inProgress;
-    if (m_modePage) {
-        m_modePage->setSplitRulesFetchInProgress(inProgress);
-    }
+    m_pages->setSplitRulesFetchInProgress(inProgress);
 }
 
 void MainWindow::setSplitRulesImportInProgress(bool inProgress)
 {
-    if (m_splitRulesImport == inProgress) {
-        return;
-    }
-    m_splitRulesImport = inProgress;
-    if (m_modePage) {
-        m_modePage->setSplitRulesImportInProgress(inProgress);
-    }
+    m_pages->setSplitRulesImportInProgress(inProgress);
+}
+
+void MainWindow::setSettingsNote(const QString &key, const QString &text)
+{
+    m_pages->setSettingsNote(key, text);
+}
+
+void MainWindow::setRepairResult(const RepairResultInfo &result)
+{
+    m_pages->setRepairResult(result);
 }
 
 void MainWindow::showError(const QString &message, const QString &fallback)
@@ -377,25 +217,31 @@ void MainWindow::showError(const QString &message, const QString &fallback)
 
 void MainWindow::showOperationError(const QString &message)
 {
+    //: Shown when a request to the Tovra service failed without a reason. Word it as a user would
+    //: understand it: "Could not complete the action"
     showError(message, tr("Operation failed"));
 }
 
 void MainWindow::showSettingsOperationError(const QString &message)
 {
+    //: Shown when changing a setting failed without a reason. Word it as a user would understand
+    //: it: "Could not change the settings"
     showError(message, tr("Settings operation failed"));
-    settleSettingsPage();
+    m_pages->settleSettingsPage();
 }
 
 void MainWindow::showModeOperationError(const QString &message)
 {
     QString text = message.trimmed();
     if (text.isEmpty()) {
+        //: Shown when changing the mode failed without a reason. Word it as a user would understand
+        //: it: "Could not change the mode"
         text = tr("Mode operation failed");
     }
-    if (!m_modePage || !m_modePage->offerInlineError(text)) {
+    if (!m_pages->mode() || !m_pages->mode()->offerInlineError(text)) {
         showNotification(text, kErrorKind, ErrorDurationMs);
     }
-    settleSettingsPage();
+    m_pages->settleSettingsPage();
 }
 
 void MainWindow::showNotification(const QString &text, const QString &kind, int durationMs)
@@ -407,52 +253,43 @@ void MainWindow::showNotification(const QString &text, const QString &kind, int 
 
 void MainWindow::setAccountOperationInProgress(bool inProgress)
 {
-    if (m_accountPage || inProgress) {
-        builtPage<AccountPage>(AccountPageIndex)->setAccountOperationInProgress(inProgress);
-    }
+    m_pages->setAccountOperationInProgress(inProgress);
 }
 
 void MainWindow::setRenewalOpening(bool opening)
 {
-    if (m_accountPage || opening) {
-        builtPage<AccountPage>(AccountPageIndex)->setRenewalOpening(opening);
-    }
+    m_pages->setRenewalOpening(opening);
 }
 
 void MainWindow::showAccountError(const QString &message)
 {
-    builtPage<AccountPage>(AccountPageIndex)->showError(message);
+    m_pages->showAccountError(message);
 }
 
 void MainWindow::clearAccountMessage()
 {
-    if (m_accountPage) {
-        m_accountPage->clearMessage();
-    }
+    m_pages->clearAccountMessage();
 }
 
 void MainWindow::setDaemonUnavailableReason(const QString &reason)
 {
-    if (m_accountPage || !reason.isEmpty()) {
-        builtPage<AccountPage>(AccountPageIndex)->setDaemonUnavailableReason(reason);
-    }
-    m_vpnPage->setDaemonUnavailableReason(reason);
+    m_pages->setDaemonUnavailableReason(reason);
 }
 
 void MainWindow::setConnectInProgress(bool inProgress, const QString &targetId,
                                       const QString &label)
 {
-    m_vpnPage->setConnectInProgress(inProgress, targetId, label);
+    m_pages->setConnectInProgress(inProgress, targetId, label);
 }
 
 void MainWindow::showSplitRulesResult(const QString &text, const QString &kind)
 {
-    builtPage<ModePage>(ModePageIndex)->showSplitRulesResult(text, kind);
+    m_pages->showSplitRulesResult(text, kind);
 }
 
 void MainWindow::highlightKillSwitchModes()
 {
-    builtPage<ModePage>(ModePageIndex)->highlightKillSwitchModes();
+    m_pages->highlightKillSwitchModes();
 }
 
 void MainWindow::placeNotificationHost()
@@ -500,36 +337,10 @@ void MainWindow::applyTheme()
 
 void MainWindow::applyPageColors(const ThemeColors &colors)
 {
-    m_vpnPage->applyTheme(colors);
     m_sidebar->applyTheme(colors);
-    // Pages not built yet take the colours when they are.
-    if (m_locationsPage)
-        m_locationsPage->applyTheme(colors);
-    if (m_modePage)
-        m_modePage->applyTheme(colors);
-    if (m_settingsPage)
-        m_settingsPage->applyTheme(colors);
+    m_pages->applyTheme(colors);
     ThemeEngine::applySwitchColors(this, colors);
     ThemeEngine::applyScrollBarColors(this, colors);
-}
-
-QString MainWindow::linkLanguage() const
-{
-    const QString effective = m_state ? m_state->runtime().effectiveLanguage : QString();
-    return TranslationManager::normalize(effective.isEmpty() ? TranslationManager::systemLanguage()
-                                                             : effective);
-}
-
-QUrl MainWindow::accountLink(const QString &path) const
-{
-    QUrl url;
-    url.setScheme(QStringLiteral("https"));
-    url.setHost(QStringLiteral(TOVRA_VENDOR_HOST));
-    url.setPath(path);
-    QUrlQuery query;
-    query.addQueryItem(QStringLiteral("lang"), linkLanguage());
-    url.setQuery(query);
-    return url;
 }
 
 void MainWindow::closeEvent(QCloseEvent *event)
@@ -540,7 +351,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         QCoreApplication::quit();
         return;
     }
-    m_vpnPage->closeQuickEntryPopup();
+    m_pages->vpn()->closeQuickEntryPopup();
     if (currentPage() == ModePageIndex) {
         Q_EMIT modePageLeft();
     }
@@ -550,9 +361,7 @@ void MainWindow::closeEvent(QCloseEvent *event)
         hide();
         return;
     }
-    if (m_state) {
-        disconnect(m_state, nullptr, this, nullptr);
-    }
+    m_pages->disconnectState();
     event->accept();
 }
 

@@ -9,20 +9,14 @@
 #include <QStringList>
 #include <QUrl>
 
-class AccountPage;
 class AppState;
-class DelayedBusyIndicator;
 class DesktopColorScheme;
 class GuiPreferences;
-class LocationsPage;
-class ModePage;
 class NavigationSidebar;
 class NotificationHost;
 class QLabel;
 class PageStack;
-class SettingsPage;
-class VpnPage;
-class WindowPage;
+class WindowPages;
 
 // The full interface beside the tray: a sidebar and five pages. It never talks to the daemon;
 // every user action leaves as an intent signal and the pages redraw from the state store.
@@ -140,22 +134,12 @@ protected:
 
 private:
     QWidget *buildContentColumn(QWidget *root);
-    void wirePage(int index, QWidget *built);
-    void connectAccountPage(AccountPage *page);
-    // The page, built first if it was not yet.
-    template<typename T>
-    T *builtPage(int index);
-    void connectState();
-    void refreshPages(std::initializer_list<WindowPage *> pages);
-    void settleSettingsPage();
     void applyTheme();
     void applyPageColors(const ThemeColors &colors);
     void applyTitleBarHooks();
     bool inUnifiedTitleBar(const QMouseEvent *event) const;
     void placeNotificationHost();
     void showError(const QString &message, const QString &fallback);
-    QString linkLanguage() const;
-    QUrl accountLink(const QString &path) const;
 
     QPointer<AppState> m_state;
     GuiPreferences *m_preferences;
@@ -166,17 +150,8 @@ private:
     QWidget *m_content = nullptr;
     QLabel *m_pageTitle = nullptr;
     PageStack *m_stack = nullptr;
-    VpnPage *m_vpnPage = nullptr;
-    LocationsPage *m_locationsPage = nullptr;
-    ModePage *m_modePage = nullptr;
-    SettingsPage *m_settingsPage = nullptr;
-    AccountPage *m_accountPage = nullptr;
+    WindowPages *m_pages = nullptr;
     NotificationHost *m_notifications = nullptr;
-
-    DelayedBusyIndicator *m_modeBusy = nullptr;
-    DelayedBusyIndicator *m_settingsBusy = nullptr;
-    bool m_splitRulesFetch = false;
-    bool m_splitRulesImport = false;
 
     bool m_hideOnClose = true;
     bool m_deleteOnClose = false;

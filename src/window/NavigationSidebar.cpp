@@ -1,7 +1,7 @@
 #include "NavigationSidebar.h"
 
+#include "AccessibleControl.h"
 #include "IconTinter.h"
-#include "SidebarEntryAccessible.h"
 #include "ThemeColors.h"
 
 #include <QButtonGroup>
@@ -22,7 +22,8 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
     : QWidget(parent)
     , m_group(new QButtonGroup(this))
 {
-    SidebarEntryAccessible::installFactory();
+    // The entries are page navigation, not check boxes: "page tab, selected" in a tab list.
+    AccessibleControl::setRole(this, QAccessible::PageTabList);
     setObjectName(QStringLiteral("TovraSidebar"));
     setAttribute(Qt::WA_StyledBackground, true);
     setMinimumWidth(kMinimumWidth);
@@ -53,7 +54,7 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
         }
         auto *button = new QToolButton(this);
         // Before anything else: the first change event already settles the accessible role.
-        button->setProperty("tovraSidebarEntry", true);
+        AccessibleControl::attach(button, QAccessible::PageTab);
         button->setObjectName(QString::fromLatin1(entry.objectName));
         button->setText(entry.text);
         button->setAccessibleName(entry.text);
@@ -71,8 +72,6 @@ NavigationSidebar::NavigationSidebar(QWidget *parent)
         m_buttons.append(button);
         connect(button, &QToolButton::clicked, this,
                 [this, index] { Q_EMIT pageRequested(index); });
-        connect(button, &QToolButton::toggled, this,
-                [button] { SidebarEntryAccessible::notifySelectionChanged(button); });
     }
 }
 

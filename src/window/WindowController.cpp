@@ -7,7 +7,8 @@
 #include "GuiPreferences.h"
 #include "MainWindow.h"
 #include "ThemeEngine.h"
-#include "UpdateDialog.h"
+#include "UpdateDialogHost.h"
+#include "WindowIntents.h"
 
 #include <QApplication>
 #include <QDesktopServices>
@@ -31,6 +32,12 @@ WindowController::WindowController(AppState *state, GuiPreferences *preferences,
     , m_state(state)
     , m_preferences(preferences)
     , m_desktopScheme(new DesktopColorScheme(this))
+    , m_updateDialogs(new UpdateDialogHost(
+          [this] {
+              return ThemeEngine::resolveAppearance(appearancePreference(),
+                                                    m_desktopScheme->scheme());
+          },
+          this))
     , m_urlOpener(openWithDesktop)
 {
     // The window hides to the tray or quits on purpose; a released window that closes must
@@ -38,9 +45,15 @@ WindowController::WindowController(AppState *state, GuiPreferences *preferences,
     QApplication::setQuitOnLastWindowClosed(false);
     connect(m_desktopScheme, &DesktopColorScheme::changed, this, [this] {
         if (appearancePreference() == QLatin1String("system")) {
-            applyUpdateDialogTheme();
+            m_updateDialogs->applyTheme();
         }
     });
+    connect(m_updateDialogs, &UpdateDialogHost::downloadRequested, this,
+            &WindowController::updateDownloadRequested);
+    connect(m_updateDialogs, &UpdateDialogHost::cancelDownloadRequested, this,
+            &WindowController::updateDownloadCancelRequested);
+    connect(m_updateDialogs, &UpdateDialogHost::exitRequested, this,
+            &WindowController::forceUpdateExitRequested);
     connect(m_desktopScheme, &DesktopColorScheme::settled, this, [this] {
         if (m_showPending) {
             finishShow();
@@ -53,7 +66,7 @@ WindowController::~WindowController()
     delete m_window.data();
     // The flags were drawn for the window; the tray shows none.
     clearFlagCache();
-    delete m_ownUpdateDialog.data();
+    delete m_updateDialogs;
 }
 
 MainWindow *WindowController::window() const
@@ -71,104 +84,19 @@ MainWindow *WindowController::ensureWindow()
     ++m_windowsCreated;
     window->setHideOnClose(effectiveHideOnClose());
     window->setDeleteOnClose(m_releaseOnHide);
-    replayTo(window);
+    m_replay.replayTo(window);
     // Only the current window stays connected here (a released one is cut off first), so a
     // destroyed window is always the one to forget.
     connect(window, &QObject::destroyed, this, [this] { m_window.clear(); });
-    forwardIntents(window);
+    WindowIntents::forward(window, this);
     connect(window, &MainWindow::hiddenToTray, this, &WindowController::handleHiddenToTray);
     connect(window, &MainWindow::openExternalURLRequested, this,
             &WindowController::openExternalURL);
-    connect(window, &MainWindow::appearancePreferenceChanged, this,
-            &WindowController::applyUpdateDialogTheme);
+    connect(window, &MainWindow::appearancePreferenceChanged, m_updateDialogs,
+            &UpdateDialogHost::applyTheme);
     connect(window, &MainWindow::pendingConnectTargetChanged, this,
             &WindowController::rememberAnnouncedTarget);
     return window;
-}
-
-void WindowController::replayTo(MainWindow *window) const
-{
-    window->setModeOperationBusy(m_replay.modeBusy);
-    window->setSettingsOperationBusy(m_replay.settingsBusy);
-    window->setSplitRulesFetchInProgress(m_replay.splitRulesFetch);
-    window->setSplitRulesImportInProgress(m_replay.splitRulesImport);
-    window->setAccountOperationInProgress(m_replay.accountBusy);
-    window->setRenewalOpening(m_replay.renewalOpening);
-    if (!m_replay.accountError.isEmpty())
-        window->showAccountError(m_replay.accountError);
-    window->setDaemonUnavailableReason(m_replay.daemonUnavailableReason);
-    window->setConnectInProgress(m_replay.connecting, m_replay.connectTargetId,
-                                 m_replay.connectTargetLabel);
-    for (auto note = m_replay.settingsNotes.cbegin(); note != m_replay.settingsNotes.cend();
-         ++note) {
-        window->setSettingsNote(note.key(), note.value());
-    }
-    window->setRepairResult(m_replay.repairResult);
-}
-
-void WindowController::forwardIntents(MainWindow *window)
-{
-    connect(window, &MainWindow::connectRuntimeRequested, this,
-            &WindowController::connectRuntimeRequested);
-    connect(window, &MainWindow::cancelConnectRequested, this,
-            &WindowController::cancelConnectRequested);
-    connect(window, &MainWindow::disconnectRuntimeRequested, this,
-            &WindowController::disconnectRuntimeRequested);
-    connect(window, &MainWindow::setModeRequested, this, &WindowController::setModeRequested);
-    connect(window, &MainWindow::splitRulesRequested, this, &WindowController::splitRulesRequested);
-    connect(window, &MainWindow::importSplitRulesRequested, this,
-            &WindowController::importSplitRulesRequested);
-    connect(window, &MainWindow::setLocalNetworkRequested, this,
-            &WindowController::setLocalNetworkRequested);
-    connect(window, &MainWindow::refreshLocationsRequested, this,
-            &WindowController::refreshLocationsRequested);
-    connect(window, &MainWindow::connectNodeRequested, this,
-            &WindowController::connectNodeRequested);
-    connect(window, &MainWindow::recentConnectionsCleared, this,
-            &WindowController::recentConnectionsCleared);
-    connect(window, &MainWindow::connectSmartRequested, this,
-            &WindowController::connectSmartRequested);
-    connect(window, &MainWindow::setNodeFavoriteRequested, this,
-            &WindowController::setNodeFavoriteRequested);
-    connect(window, &MainWindow::openLogsRequested, this, &WindowController::openLogsRequested);
-    connect(window, &MainWindow::settingsVisibleRequested, this,
-            &WindowController::settingsVisibleRequested);
-    connect(window, &MainWindow::setKillSwitchEnabledRequested, this,
-            &WindowController::setKillSwitchEnabledRequested);
-    connect(window, &MainWindow::setKillSwitchModeRequested, this,
-            &WindowController::setKillSwitchModeRequested);
-    connect(window, &MainWindow::switchToAutoAndEnableKillSwitchRequested, this,
-            &WindowController::switchToAutoAndEnableKillSwitchRequested);
-    connect(window, &MainWindow::chooseModeForKillSwitchRequested, this,
-            &WindowController::chooseModeForKillSwitchRequested);
-    connect(window, &MainWindow::modePageLeft, this, &WindowController::modePageLeft);
-    connect(window, &MainWindow::setSystemProxyRequested, this,
-            &WindowController::setSystemProxyRequested);
-    connect(window, &MainWindow::setAPIURLRequested, this, &WindowController::setAPIURLRequested);
-    connect(window, &MainWindow::resetAPIURLRequested, this,
-            &WindowController::resetAPIURLRequested);
-    connect(window, &MainWindow::setAutoConnectRequested, this,
-            &WindowController::setAutoConnectRequested);
-    connect(window, &MainWindow::setLanguageRequested, this,
-            &WindowController::setLanguageRequested);
-    connect(window, &MainWindow::checkUpdateRequested, this,
-            &WindowController::checkUpdateRequested);
-    connect(window, &MainWindow::setProxyListenersRequested, this,
-            &WindowController::setProxyListenersRequested);
-    connect(window, &MainWindow::setSplitDNSLocalRequested, this,
-            &WindowController::setSplitDNSLocalRequested);
-    connect(window, &MainWindow::setSplitDNSPolicyRequested, this,
-            &WindowController::setSplitDNSPolicyRequested);
-    connect(window, &MainWindow::clearSplitDNSLocalRequested, this,
-            &WindowController::clearSplitDNSLocalRequested);
-    connect(window, &MainWindow::resetSplitDNSRequested, this,
-            &WindowController::resetSplitDNSRequested);
-    connect(window, &MainWindow::repairDiagnosticsRequested, this,
-            &WindowController::repairDiagnosticsRequested);
-    connect(window, &MainWindow::loginRequested, this, &WindowController::loginRequested);
-    connect(window, &MainWindow::logoutRequested, this, &WindowController::logoutRequested);
-    connect(window, &MainWindow::purchaseURLRequested, this,
-            &WindowController::purchaseURLRequested);
 }
 
 void WindowController::showOrRaise()
@@ -203,10 +131,7 @@ void WindowController::finishShow()
     }
     window->raise();
     window->activateWindow();
-    if (m_replay.updateDialogShown) {
-        m_replay.updateDialogShown = false;
-        showUpdateDialog();
-    }
+    m_updateDialogs->returnWithWindow(window);
 }
 
 void WindowController::showPageOfWindow(int index)
@@ -277,10 +202,7 @@ void WindowController::setUrlOpener(UrlOpener opener)
 
 void WindowController::handleHiddenToTray()
 {
-    if (m_ownUpdateDialog && m_ownUpdateDialog->isVisible()) {
-        m_ownUpdateDialog->hide();
-        m_replay.updateDialogShown = true;
-    }
+    m_updateDialogs->hideWithWindow();
     if (!m_releaseOnHide) {
         return;
     }
@@ -360,6 +282,8 @@ void WindowController::setRenewalOpening(bool opening)
 void WindowController::showAccountError(const QString &message)
 {
     m_replay.accountError =
+        //: Shown when signing in or out failed without a reason. Word it as a user would understand
+        //: it: "Could not complete the account action"
         message.trimmed().isEmpty() ? tr("Account operation failed") : message.trimmed();
     if (m_window)
         m_window->showAccountError(m_replay.accountError);
@@ -469,63 +393,27 @@ void WindowController::setAppearancePreference(const QString &preference)
     if (m_preferences) {
         m_preferences->setAppearance(value);
     }
-    applyUpdateDialogTheme();
+    m_updateDialogs->applyTheme();
 }
 
 void WindowController::setUpdateDialog(QWidget *dialog)
 {
-    m_updateDialog = dialog;
-    applyUpdateDialogTheme();
+    m_updateDialogs->setThemedDialog(dialog);
 }
 
 UpdateDialog *WindowController::updateDialog()
 {
-    if (m_ownUpdateDialog) {
-        return m_ownUpdateDialog;
-    }
-    // No parent: a window that is released on hide must not take the dialog with it.
-    auto *dialog = new UpdateDialog;
-    m_ownUpdateDialog = dialog;
-    connect(dialog, &UpdateDialog::downloadRequested, this,
-            &WindowController::updateDownloadRequested);
-    connect(dialog, &UpdateDialog::cancelDownloadRequested, this,
-            &WindowController::updateDownloadCancelRequested);
-    connect(dialog, &UpdateDialog::exitRequested, this,
-            &WindowController::forceUpdateExitRequested);
-    setUpdateDialog(dialog);
-    return dialog;
+    return m_updateDialogs->dialog();
 }
 
 void WindowController::showUpdateDialog()
 {
-    UpdateDialog *dialog = updateDialog();
-    m_replay.updateDialogShown = false;
-    if (!dialog->isVisible() && m_window && m_window->isVisible()) {
-        // It has no parent to be placed by: open it over the window.
-        dialog->adjustSize();
-        dialog->move(m_window->frameGeometry().center() - dialog->rect().center());
-    }
-    dialog->show();
-    dialog->raise();
-    dialog->activateWindow();
+    m_updateDialogs->show(m_window);
 }
 
 void WindowController::hideUpdateDialog()
 {
-    m_replay.updateDialogShown = false;
-    if (m_ownUpdateDialog) {
-        m_ownUpdateDialog->hide();
-    }
-}
-
-void WindowController::applyUpdateDialogTheme()
-{
-    if (!m_updateDialog) {
-        return;
-    }
-    const Appearance appearance =
-        ThemeEngine::resolveAppearance(appearancePreference(), m_desktopScheme->scheme());
-    ThemeEngine::applyToWindow(m_updateDialog, ThemeEngine::buildColors(appearance));
+    m_updateDialogs->hide();
 }
 
 bool WindowController::openExternalURL(const QUrl &url)

@@ -16,6 +16,7 @@ class GuiPreferences;
 class MainWindow;
 class QWidget;
 class UpdateDialog;
+class UpdateDialogHost;
 
 // Creates the main window when it is first needed, may let it go when it hides to the tray,
 // and keeps every value the shell passed down so that a new window starts where the old one
@@ -143,21 +144,17 @@ private:
     MainWindow *ensureWindow();
     // Shows and raises the current window; the second half of showOrRaise.
     void finishShow();
-    void replayTo(MainWindow *window) const;
-    void forwardIntents(MainWindow *window);
     void showPageOfWindow(int index);
     bool effectiveHideOnClose() const;
     void handleHiddenToTray();
     void rememberAnnouncedTarget(const QString &targetId, const QString &label);
-    void applyUpdateDialogTheme();
     void showErrorNotification(const QString &text);
 
     AppState *m_state;
     GuiPreferences *m_preferences;
     DesktopColorScheme *m_desktopScheme;
     QPointer<MainWindow> m_window;
-    QPointer<QWidget> m_updateDialog;
-    QPointer<UpdateDialog> m_ownUpdateDialog;
+    UpdateDialogHost *m_updateDialogs;
     UrlOpener m_urlOpener;
     int m_windowsCreated = 0;
 

@@ -36,6 +36,11 @@ void WindowPage::refresh(const AppState &state)
     Q_UNUSED(state)
 }
 
+WindowPage::Records WindowPage::reads() const
+{
+    return {};
+}
+
 void WindowPage::applyTheme(const ThemeColors &colors)
 {
     m_colors = colors;

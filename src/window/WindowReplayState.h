@@ -5,8 +5,11 @@
 #include <QMap>
 #include <QString>
 
+class MainWindow;
+
 // What the shell passed down that a window created later must start with. The controller keeps
-// one of these and replays it whole to each new window; add a field here, not a loose member.
+// one of these and replays it whole to each new window; add a field here, and to replayTo, not
+// a loose member.
 struct WindowReplayState
 {
     bool modeBusy = false;
@@ -24,6 +27,7 @@ struct WindowReplayState
     // Lines the Settings page shows beside its sections, by note key (SettingsNotes.h).
     QMap<QString, QString> settingsNotes;
     RepairResultInfo repairResult;
-    // The update dialog was on screen when the window hid; it comes back with the window.
-    bool updateDialogShown = false;
+
+    // Hands every value to a new window.
+    void replayTo(MainWindow *window) const;
 };

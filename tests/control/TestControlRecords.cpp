@@ -150,8 +150,8 @@ void TestControlRecords::downloadState_data()
 {
     QTest::addColumn<QString>("state");
     QTest::addColumn<bool>("valid");
-    for (const char *state : {"idle", "checking", "downloading", "verifying", "canceling", "ready",
-                              "failed", "canceled"})
+    for (const char *state : {"idle", "queued", "checking", "downloading", "verifying", "retrying",
+                              "canceling", "ready", "failed", "canceled"})
         QTest::addRow("%s", state) << QString::fromLatin1(state) << true;
     QTest::addRow("Ready") << QStringLiteral("Ready") << false;
     QTest::addRow("empty") << QString() << false;

@@ -2,20 +2,26 @@
 #include "AppState.h"
 #include "ConnectionFlow.h"
 #include "ControlEndpoints.h"
+#include "ControlWorker.h"
 #include "DemoDaemon.h"
+#include "LocationRoles.h"
 #include "MainWindow.h"
 #include "NotificationHost.h"
+#include "ShellWorkers.h"
 #include "TempXdgDirs.h"
 #include "TovraAppShell.h"
 #include "TovraTrayApp.h"
+#include "TrayStatusPoller.h"
 #include "WindowController.h"
 
+#include <QAbstractItemModelTester>
 #include <QAction>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTreeView>
 
 namespace {
 
@@ -106,7 +112,72 @@ private Q_SLOTS:
             QTRY_VERIFY(run.shell->state()->user().valid);
         } else {
             QCOMPARE(user->text(), QStringLiteral("demo@tovra.invalid"));
+            // Signed in elsewhere: the error is over, here and in any later window.
+            ControlEndpoints::login(run.daemon.socketPath(), QStringLiteral("demo@tovra.invalid"),
+                                    QStringLiteral("demo"), false, 3000);
+            run.shell->tray()->refreshStatus();
+            QTRY_VERIFY_WITH_TIMEOUT(run.controller()->replayState().accountError.isEmpty(),
+                                     TrayStatusPoller::kIntervalMs + 2000);
+            QVERIFY(label->isHidden());
         }
+    }
+
+    // A session the daemon restored from memory is a signed-in one: its account is looked up,
+    // and kept, for the page and the tray alike.
+    void rememberedSessionShowsTheAccount()
+    {
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start({QStringLiteral("--remembered"), QStringLiteral("free@tovra.invalid")},
+                           false),
+                 qPrintable(run.daemon.errorString()));
+        QCOMPARE(run.shell->state()->runtime().authState, QStringLiteral("cached"));
+        run.controller()->showAccount();
+        auto *summary = run.find<QLabel>(QStringLiteral("TovraAccountSummary"));
+        const QString free = QStringLiteral("User ID: 81020988\nPlan: Free\n"
+                                            "Max simultaneous devices: 1");
+        QTRY_COMPARE(summary->text(), free);
+        // The tray's next look at the status leaves the record where it is. (A poll already on
+        // its way makes the tray skip this one; the next is due within the interval.)
+        QSignalSpy answered(run.shell->workers()->control(), &ControlWorker::statusFinished);
+        run.shell->tray()->refreshStatus();
+        QTRY_VERIFY_WITH_TIMEOUT(!answered.isEmpty(), TrayStatusPoller::kIntervalMs + 2000);
+        QCoreApplication::processEvents();
+        QVERIFY(run.shell->state()->user().valid);
+        QCOMPARE(summary->text(), free);
+        QCOMPARE(run.shell->tray()->menu().account->text(), QStringLiteral("Account: cached"));
+    }
+
+    // Signed out with the catalogue on screen, then signed in on the Free plan: the plan's
+    // locks reach the Locations page, and a locked row connects nowhere.
+    void freeSignInLocksPremiumLocations()
+    {
+        TempXdgDirs dirs;
+        Running run;
+        QVERIFY2(run.start({}, false), qPrintable(run.daemon.errorString()));
+        run.controller()->showLocations();
+        QTRY_VERIFY(run.shell->state()->nodes().valid && run.shell->state()->nodeGroups().valid);
+        auto *tree = run.find<QTreeView>(QStringLiteral("TovraLocationsTree"));
+        QAbstractItemModelTester tester(tree->model(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        run.shell->loginAccount(QStringLiteral("free@tovra.invalid"), QStringLiteral("demo"),
+                                false);
+        QTRY_VERIFY(run.shell->state()->user().valid);
+
+        const QModelIndexList premium =
+            tree->model()->match(tree->model()->index(0, 0), LocationTierRole,
+                                 QStringLiteral("SVIP"), 1, Qt::MatchExactly | Qt::MatchRecursive);
+        QCOMPARE(premium.size(), 1);
+        QVERIFY(premium.first().data(LocationLockedRole).toBool());
+
+        QSignalSpy connects(run.controller(), &WindowController::connectNodeRequested);
+        tree->scrollTo(premium.first());
+        tree->setCurrentIndex(premium.first());
+        QTest::keyClick(tree, Qt::Key_Return);
+        QTest::mouseDClick(tree->viewport(), Qt::LeftButton, {},
+                           tree->visualRect(premium.first()).center());
+        QCOMPARE(connects.size(), 0);
+        QVERIFY(!run.shell->connectionFlow()->connectInProgress());
     }
 
     // The window is marked while a connect runs; a refused connect renames nothing.

@@ -2,7 +2,9 @@
 #include "ConnectionFlow.h"
 #include "ControlEndpoints.h"
 #include "DemoDaemon.h"
+#include "GuiPreferences.h"
 #include "MainWindow.h"
+#include "RecentActivityStore.h"
 #include "RequestLedger.h"
 #include "ShellNotifier.h"
 #include "TempXdgDirs.h"
@@ -43,6 +45,8 @@ void TestTovraAppShell::compatibleDaemon()
     QCOMPARE(shell.ledger()->latest(RequestLedger::Kind::Version), Q_UINT64_C(4294967296));
     QCOMPARE(shell.compatibilityState(), TovraAppShell::CompatibilityChecking);
     QVERIFY(!shell.tray()->isControlAvailable());
+    // The check is no outage: the window (Sign In above all) does not wait for it.
+    QCOMPARE(shell.windowController()->replayState().daemonUnavailableReason, QString());
     QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
     QVERIFY(shell.tray()->isControlAvailable());
     // Without a tray the window is the way in: shown at start, and closing it quits.
@@ -64,9 +68,10 @@ void TestTovraAppShell::incompatibleDaemonKeepsTrayDisabled()
     QVERIFY(!shell.tray()->isControlAvailable());
     QVERIFY(shell.tray()->isBusy());
     QCOMPARE(shell.notifier()->lastKind(), QStringLiteral("error"));
-    QCOMPARE(
-        shell.notifier()->lastText(),
-        QStringLiteral("Tovra GUI and daemon are incompatible. Update Tovra before continuing."));
+    const QString incompatible =
+        QStringLiteral("Tovra GUI and daemon are incompatible. Update Tovra before continuing.");
+    QCOMPARE(shell.notifier()->lastText(), incompatible);
+    QCOMPARE(shell.windowController()->replayState().daemonUnavailableReason, incompatible);
     QVERIFY(!shell.state()->version().compatible);
     QVERIFY(!shell.state()->version().daemonVersion.isEmpty());
 
@@ -132,8 +137,11 @@ void TestTovraAppShell::trayConnectEndsConnected()
                             QStringLiteral("demo"), false, 3000, &error);
     QCOMPARE(error, QString());
 
-    TovraAppShell shell(nullptr, daemon.socketPath());
-    shell.setSystemTrayAvailable(false);
+    // Living in the tray, with no window made yet.
+    GuiPreferences preferences;
+    preferences.setShowOnLaunch(false);
+    TovraAppShell shell(nullptr, daemon.socketPath(), &preferences);
+    shell.setSystemTrayAvailable(true);
     shell.start();
     QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
     QTRY_VERIFY(shell.tray()->menu().connect->isEnabled());
@@ -149,6 +157,11 @@ void TestTovraAppShell::trayConnectEndsConnected()
     QVERIFY(!menu.connect->isEnabled());
     QVERIFY(menu.disconnect->isEnabled());
     QTRY_COMPARE(menu.account->text(), QStringLiteral("Account: demo@tovra.invalid"));
+    // The window will list it among the recent locations, once.
+    QVERIFY(!shell.windowController()->window());
+    const QList<RecentLocation> recent = RecentActivityStore(&preferences).recentLocations();
+    QCOMPARE(recent.size(), 1);
+    QVERIFY(shell.state()->runtime().connectedNode.contains(recent.first().id));
 }
 
 QTEST_MAIN(TestTovraAppShell)

@@ -1,8 +1,11 @@
 #include "ChevronLabel.h"
 #include "ElidedLabel.h"
 #include "FlowLayout.h"
+#include "LayoutAlignedLabels.h"
 
 #include <QApplication>
+#include <QImage>
+#include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -19,6 +22,8 @@ private Q_SLOTS:
     void chevronSide();
     void chevronLabelIsAKeyboardButton_data();
     void chevronLabelIsAKeyboardButton();
+    void labelStartsWhereTheLayoutStarts_data();
+    void labelStartsWhereTheLayoutStarts();
 };
 
 void TestLayoutWidgets::flowWraps_data()
@@ -139,6 +144,64 @@ void TestLayoutWidgets::chevronLabelIsAKeyboardButton()
     QSignalSpy clicked(&label, &QAbstractButton::clicked);
     QTest::keyClick(&label, Qt::Key(key));
     QCOMPARE(clicked.count(), 1);
+}
+
+void TestLayoutWidgets::labelStartsWhereTheLayoutStarts_data()
+{
+    QTest::addColumn<Qt::LayoutDirection>("shownIn");
+    QTest::addColumn<Qt::LayoutDirection>("thenIn");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<Qt::Alignment>("alignment");
+    QTest::addColumn<QString>("side"); // where the ink is
+    const auto rtl = Qt::RightToLeft;
+    const auto ltr = Qt::LeftToRight;
+    const QString english = QStringLiteral("WireGuard 0.3.0");
+    const QString arabic = QStringLiteral("\u0627\u0644\u0648\u0636\u0639");
+    const Qt::Alignment plain = Qt::AlignLeft | Qt::AlignVCenter;
+    QTest::addRow("English in a right-to-left window") << rtl << rtl << english << plain << "right";
+    QTest::addRow("Arabic in a left-to-right window") << ltr << ltr << arabic << plain << "left";
+    QTest::addRow("trailing, right-to-left")
+        << rtl << rtl << english << Qt::Alignment(Qt::AlignRight) << "left";
+    QTest::addRow("centred stays centred")
+        << rtl << rtl << english << Qt::Alignment(Qt::AlignHCenter) << "centre";
+    QTest::addRow("direction changed while shown") << ltr << rtl << english << plain << "right";
+}
+
+void TestLayoutWidgets::labelStartsWhereTheLayoutStarts()
+{
+    QFETCH(Qt::LayoutDirection, shownIn);
+    QFETCH(Qt::LayoutDirection, thenIn);
+    QFETCH(QString, text);
+    QFETCH(Qt::Alignment, alignment);
+    QFETCH(QString, side);
+    LayoutAlignedLabels::install();
+    QWidget window;
+    window.setLayoutDirection(shownIn);
+    auto *label = new QLabel(text, &window);
+    label->setAlignment(alignment);
+    label->setGeometry(0, 0, 400, 30);
+    window.resize(400, 30);
+    window.show();
+    window.setLayoutDirection(thenIn);
+    // The columns the text's ink covers.
+    const QImage image = label->grab().toImage();
+    const QRgb background = image.pixel(image.width() - 1, image.height() - 1);
+    int first = image.width(), last = -1;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y) {
+            if (image.pixel(x, y) != background) {
+                first = qMin(first, x);
+                last = x;
+                break;
+            }
+        }
+    }
+    QVERIFY(last >= 0);
+    const int middle = (first + last) / 2;
+    const QString inked = middle < image.width() / 3       ? QStringLiteral("left")
+                          : middle > image.width() * 2 / 3 ? QStringLiteral("right")
+                                                           : QStringLiteral("centre");
+    QCOMPARE(inked, side);
 }
 
 QTEST_MAIN(TestLayoutWidgets)

@@ -3,11 +3,14 @@
 #include "ChevronLabel.h"
 #include "ConfirmDialog.h"
 #include "ElidedLabel.h"
+#include "FieldClearButton.h"
 #include "FlowLayout.h"
 #include "GalleryModel.h"
 #include "IconTinter.h"
 #include "LocationItemDelegate.h"
 #include "NotificationHost.h"
+#include "RequestButton.h"
+#include "RequestRadioButton.h"
 #include "ThemeEngine.h"
 #include "ThemedScrollBar.h"
 #include "ToggleSwitch.h"
@@ -168,7 +171,7 @@ QWidget *GalleryWindow::buildControls()
     auto *search = new QLineEdit;
     search->setObjectName(QStringLiteral("TovraLocationsSearch"));
     search->setPlaceholderText(QStringLiteral("Search locations"));
-    search->setClearButtonEnabled(true);
+    FieldClearButton::enable(search, FieldClearButton::Kind::Search);
     // Tinted with the rest of the theme in applyTheme().
     m_searchAction = search->addAction(QIcon(), QLineEdit::LeadingPosition);
     layout->addWidget(search, 1);
@@ -213,6 +216,18 @@ QWidget *GalleryWindow::buildSwitchCard()
     auto *check = new QCheckBox(QStringLiteral("Remember this account"));
     check->setChecked(true);
     body->addWidget(check);
+    // Options that only ask, as the kill switch modes do; the gallery accepts at once.
+    QList<RequestRadioButton *> options;
+    for (const char *text : {"Auto", "Always"})
+        options.append(new RequestRadioButton(QString::fromLatin1(text)));
+    for (RequestRadioButton *option : options) {
+        connect(option, &QRadioButton::clicked, option, [option, options] {
+            for (RequestRadioButton *other : options)
+                other->setChecked(other == option);
+        });
+        body->addWidget(option, 0, Qt::AlignLeading);
+    }
+    options.first()->setChecked(true);
     body->addStretch(1);
     return frame;
 }
@@ -267,8 +282,10 @@ QWidget *GalleryWindow::buildActionCard()
     const char *names[] = {"Global", "Split", "Direct"};
     const char *positions[] = {"start", "", "end"};
     for (int i = 0; i < 3; ++i) {
-        auto *button = new QPushButton(QString::fromLatin1(names[i]));
-        button->setCheckable(true);
+        // Asks like the real segments; the gallery, as owner, accepts at once.
+        auto *button = new RequestButton(QAccessible::RadioButton);
+        button->setText(QString::fromLatin1(names[i]));
+        connect(button, &QPushButton::clicked, button, [button] { button->setChecked(true); });
         if (positions[i][0] != '\0') {
             button->setProperty("tovraSegment", QString::fromLatin1(positions[i]));
         }

@@ -1,33 +1,24 @@
 #include "AccountPage.h"
 
+#include "AccessibleAnnouncer.h"
+#include "AccountSession.h"
 #include "AccountSignInCard.h"
 #include "AccountSummaryCard.h"
 #include "AppState.h"
 
 #include <QLabel>
 
-namespace {
-
-bool countsAsSignedIn(const QString &sessionState)
-{
-    // A remembered session is as good as a fresh one here.
-    return sessionState == QLatin1String("logged_in") || sessionState == QLatin1String("cached");
-}
-
-} // namespace
-
 AccountPage::AccountPage(QWidget *parent)
     : WindowPage(QStringLiteral("TovraAccountPage"), QString(), QString(), parent)
     , m_message(new QLabel(this))
     , m_signInCard(new AccountSignInCard(this))
     , m_summaryCard(new AccountSummaryCard(this))
+    , m_announcer(new AccessibleAnnouncer(this))
 {
     m_message->setObjectName(QStringLiteral("TovraAccountMessage"));
     m_message->setWordWrap(true);
     m_message->setTextInteractionFlags(Qt::TextSelectableByMouse);
     m_message->hide();
-    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
     m_summaryCard->hide();
     addContent(m_message);
     addContent(m_signInCard);
@@ -50,11 +41,17 @@ void AccountPage::signIn()
         return;
     const QString username = m_signInCard->username();
     if (username.trimmed().isEmpty() || m_signInCard->password().isEmpty()) {
-        showError(tr("Enter account and password."));
+        // Nothing was sent: what was typed stays for the missing half to be added.
+        showMessage(tr("Enter account and password."));
         return;
     }
     clearMessage();
     Q_EMIT loginRequested(username, m_signInCard->password(), m_signInCard->rememberMe());
+}
+
+WindowPage::Records AccountPage::reads() const
+{
+    return Record::Runtime | Record::User;
 }
 
 void AccountPage::refresh(const AppState &state)
@@ -64,7 +61,7 @@ void AccountPage::refresh(const AppState &state)
 
 void AccountPage::refresh(const QString &sessionState, const UserInfo &user)
 {
-    const bool signedIn = countsAsSignedIn(sessionState);
+    const bool signedIn = AccountSession::isSignedIn(sessionState);
     m_signInCard->setVisible(!signedIn);
     m_summaryCard->setVisible(signedIn);
     if (signedIn) {
@@ -109,18 +106,24 @@ void AccountPage::setDaemonUnavailableReason(const QString &reason)
 void AccountPage::showError(const QString &message)
 {
     const QString text = message.trimmed();
-    m_message->setText(text.isEmpty() ? tr("Account operation failed") : text);
-    m_message->show();
+    //: Shown when signing in or out failed without a reason. Word it as a user would understand it:
+    //: "Could not complete the account action"
+    showMessage(text.isEmpty() ? tr("Account operation failed") : text);
+    m_announcer->announce(m_message->text(), AccessibleAnnouncer::Politeness::Assertive);
     // A failed sign-in keeps the account name for the next try, never the password.
     m_signInCard->clearPassword();
+}
+
+void AccountPage::showMessage(const QString &text)
+{
+    m_message->setText(text);
+    m_message->show();
 }
 
 void AccountPage::clearMessage()
 {
     m_message->clear();
     m_message->hide();
-    m_message->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                            (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
 }
 
 void AccountPage::updateButtons()

@@ -5,6 +5,7 @@
 
 class AccountSignInCard;
 class AccountSummaryCard;
+class AccessibleAnnouncer;
 class QLabel;
 
 // Page 4: signing in to the service account and out again. It holds no account state: the
@@ -17,6 +18,7 @@ public:
     explicit AccountPage(QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void refresh(const QString &sessionState, const UserInfo &user);
 
     void setAccountOperationInProgress(bool inProgress);
@@ -41,11 +43,13 @@ protected:
 
 private:
     void signIn();
+    void showMessage(const QString &text);
     void updateButtons();
 
     QLabel *m_message;
     AccountSignInCard *m_signInCard;
     AccountSummaryCard *m_summaryCard;
+    AccessibleAnnouncer *m_announcer;
     bool m_operationInProgress = false;
     bool m_renewalOpening = false;
     QString m_unavailableReason;

@@ -7,23 +7,13 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace {
-
-// Text follows the layout's direction even when its words are in a left-to-right script.
-void alignToLayout(QLabel *label)
-{
-    label->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                        (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
-}
-
-} // namespace
-
 AccountSignInCard::AccountSignInCard(QWidget *parent)
     : QFrame(parent)
     , m_username(new QLineEdit(this))
     , m_password(new QLineEdit(this))
     , m_remember(new QCheckBox(tr("Remember this account"), this))
     , m_unavailable(new QLabel(this))
+    //: Button that signs in to the Tovra account
     , m_signIn(new QPushButton(tr("Sign In"), this))
 {
     setObjectName(QStringLiteral("TovraStatusCard"));
@@ -53,8 +43,10 @@ AccountSignInCard::AccountSignInCard(QWidget *parent)
     m_unavailable->setWordWrap(true);
     m_unavailable->hide();
 
+    //: Button that opens the page to create a Tovra account
     auto *signUp = new QPushButton(tr("Sign Up"), this);
     signUp->setObjectName(QStringLiteral("TovraAccountSignUp"));
+    //: Button (shown as a link) that opens the password reset page
     auto *forgot = new QPushButton(tr("Forgot password?"), this);
     forgot->setObjectName(QStringLiteral("TovraAccountForgotPassword"));
     m_signIn->setObjectName(QStringLiteral("TovraAccountSignIn"));
@@ -79,8 +71,6 @@ AccountSignInCard::AccountSignInCard(QWidget *parent)
     layout->addWidget(m_unavailable);
     layout->addLayout(buttons);
 
-    for (QLabel *label : {title, intro, m_unavailable})
-        alignToLayout(label);
     connect(m_username, &QLineEdit::returnPressed, this, &AccountSignInCard::signInRequested);
     connect(m_password, &QLineEdit::returnPressed, this, &AccountSignInCard::signInRequested);
     connect(m_signIn, &QPushButton::clicked, this, &AccountSignInCard::signInRequested);
@@ -122,6 +112,7 @@ void AccountSignInCard::focusFirstEmptyField()
 
 void AccountSignInCard::setSignInState(bool inProgress, const QString &unavailableReason)
 {
+    //: Button while the sign-in runs
     m_signIn->setText(inProgress ? tr("Signing in...") : tr("Sign In"));
     m_signIn->setEnabled(!inProgress && unavailableReason.isEmpty());
     m_unavailable->setText(unavailableReason);

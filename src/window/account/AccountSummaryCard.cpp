@@ -5,21 +5,12 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-namespace {
-
-// Text follows the layout's direction even when its words are in a left-to-right script.
-void alignToLayout(QLabel *label)
-{
-    label->setAlignment(Qt::AlignAbsolute | Qt::AlignVCenter |
-                        (label->isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
-}
-
-} // namespace
-
 AccountSummaryCard::AccountSummaryCard(QWidget *parent)
     : QFrame(parent)
     , m_summary(new QLabel(this))
+    //: Button that opens the page to renew the plan
     , m_renew(new QPushButton(tr("Renew"), this))
+    //: Button that signs out of the Tovra account
     , m_logout(new QPushButton(tr("Sign Out"), this))
 {
     setObjectName(QStringLiteral("TovraStatusCard"));
@@ -48,8 +39,6 @@ AccountSummaryCard::AccountSummaryCard(QWidget *parent)
     layout->addWidget(m_summary);
     layout->addLayout(buttons);
 
-    alignToLayout(title);
-    alignToLayout(m_summary);
     connect(m_renew, &QPushButton::clicked, this, &AccountSummaryCard::renewRequested);
     connect(m_logout, &QPushButton::clicked, this, &AccountSummaryCard::logoutRequested);
 }
@@ -79,8 +68,10 @@ void AccountSummaryCard::setUser(const UserInfo &user)
 
 void AccountSummaryCard::setButtonStates(bool operationInProgress, bool renewalOpening)
 {
+    //: Button while the sign-out runs
     m_logout->setText(operationInProgress ? tr("Signing out...") : tr("Sign Out"));
     m_logout->setEnabled(!operationInProgress);
+    //: Button while the renewal page opens
     m_renew->setText(renewalOpening ? tr("Opening\u2026") : tr("Renew"));
     m_renew->setEnabled(!operationInProgress && !renewalOpening);
 }

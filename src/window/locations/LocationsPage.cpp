@@ -1,6 +1,8 @@
 #include "LocationsPage.h"
 
+#include "AccessibleControl.h"
 #include "BidiText.h"
+#include "FieldClearButton.h"
 #include "GuiTextLog.h"
 #include "LocationsEmptyState.h"
 #include "LocationsToolbar.h"
@@ -114,8 +116,15 @@ QWidget *LocationsPage::buildContent()
     m_search->setObjectName(QStringLiteral("TovraLocationsSearch"));
     m_search->setPlaceholderText(tr("Search countries, cities, locations or P2P"));
     m_search->setAccessibleName(tr("Search locations"));
-    m_search->setClearButtonEnabled(true);
+    FieldClearButton::enable(m_search, FieldClearButton::Kind::Search);
     m_searchIcon = m_search->addAction(QIcon(), QLineEdit::LeadingPosition);
+    // The magnifier only decorates: a picture to assistive technology, not a button.
+    for (QObject *object : m_searchIcon->associatedObjects()) {
+        if (object != m_search && object->isWidgetType()) {
+            AccessibleControl::setRole(static_cast<QWidget *>(object), QAccessible::Graphic);
+            static_cast<QWidget *>(object)->setAccessibleName(m_search->accessibleName());
+        }
+    }
     column->addWidget(m_search);
 
     m_stack = new QStackedWidget(content);
@@ -205,6 +214,12 @@ QStringList LocationsPage::tiersFor(const UserInfo &user)
     if (role != tiers.first())
         tiers.append(role);
     return tiers;
+}
+
+WindowPage::Records LocationsPage::reads() const
+{
+    return Record::Runtime | Record::User | Record::Nodes | Record::NodeGroups |
+           Record::RefreshCooldown;
 }
 
 void LocationsPage::refresh(const AppState &state)

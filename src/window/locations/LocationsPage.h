@@ -28,6 +28,7 @@ public:
     // Where the sort choice is remembered; without it the choice lasts as long as the page.
     void setPreferences(GuiPreferences *preferences);
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void applyTheme(const ThemeColors &colors) override;
 
     // The window calls this each time the page becomes current; with no catalogue yet from a

@@ -141,7 +141,10 @@ void LocationsToolbar::setCooldown(int seconds)
 {
     m_cooldown = qMax(0, seconds);
     const bool waiting = m_cooldown > 0;
-    m_refresh->setText(waiting ? tr("Refresh (%1s)").arg(m_cooldown) : tr("Refresh"));
+    //: Button, disabled for %1 more seconds before the list can be fetched again
+    m_refresh->setText(waiting ? tr("Refresh (%1s)").arg(m_cooldown)
+                               //: Button that fetches the list of locations again
+                               : tr("Refresh"));
     m_refresh->setEnabled(!waiting);
     m_refresh->setAccessibleName(
         waiting ? tr("Refresh locations, possible again in %1 s").arg(m_cooldown)

@@ -7,13 +7,11 @@
 
 ModeOptionButton::ModeOptionButton(const QString &title, const QString &description,
                                    QWidget *parent)
-    : QPushButton(parent)
+    : RequestButton(QAccessible::RadioButton, parent)
     , m_title(new QLabel(title, this))
     , m_description(new QLabel(description, this))
 {
     setObjectName(QStringLiteral("TovraModeOption"));
-    setCheckable(true);
-    setFocusPolicy(Qt::StrongFocus);
     setAccessibleName(title);
     setAccessibleDescription(description);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Minimum);
@@ -70,14 +68,9 @@ int ModeOptionButton::heightForWidth(int width) const
     return layout()->totalHeightForWidth(width);
 }
 
-void ModeOptionButton::nextCheckState()
-{
-    // The daemon's answer checks the card, not the click.
-}
-
 void ModeOptionButton::checkStateSet()
 {
-    QPushButton::checkStateSet();
+    RequestButton::checkStateSet();
     updateState();
 }
 

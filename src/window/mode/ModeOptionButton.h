@@ -1,12 +1,12 @@
 #pragma once
 
-#include <QPushButton>
+#include "RequestButton.h"
 
 class QLabel;
 
 // One routing mode as a card: its name over a one-line description. Checkable, but the click
 // only asks; the page checks the card of the mode the daemon reports.
-class ModeOptionButton : public QPushButton
+class ModeOptionButton : public RequestButton
 {
     Q_OBJECT
 
@@ -25,7 +25,6 @@ public:
     int heightForWidth(int width) const override;
 
 protected:
-    void nextCheckState() override;
     void checkStateSet() override;
 
 private:

@@ -30,6 +30,8 @@ ModePage::ModePage(QWidget *parent)
     m_scroll->setObjectName(QStringLiteral("TovraModeScrollArea"));
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
+    // Not a stop of its own: Tab goes to the controls, and the area scrolls to show them.
+    m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     auto *content = new QWidget(m_scroll);
     auto *cards = new QVBoxLayout(content);
@@ -67,6 +69,11 @@ ModePage::ModePage(QWidget *parent)
                 Q_EMIT setSystemProxyRequested(value);
             });
     updateEnabled();
+}
+
+WindowPage::Records ModePage::reads() const
+{
+    return Record::Runtime | Record::KillSwitch | Record::SplitRules;
 }
 
 void ModePage::refresh(const AppState &state)

@@ -29,6 +29,7 @@ public:
     explicit ModePage(QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void applyTheme(const ThemeColors &colors) override;
 
     void setModeBusy(bool busy);

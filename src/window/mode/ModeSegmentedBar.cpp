@@ -1,5 +1,8 @@
 #include "ModeSegmentedBar.h"
 
+#include "AccessibleControl.h"
+#include "RequestButton.h"
+
 #include <QButtonGroup>
 #include <QFontMetrics>
 #include <QHBoxLayout>
@@ -23,6 +26,7 @@ ModeSegmentedBar::ModeSegmentedBar(const QString &accessibleName, QWidget *paren
     : QFrame(parent)
     , m_group(new QButtonGroup(this))
 {
+    AccessibleControl::setRole(this, QAccessible::Grouping);
     setObjectName(QStringLiteral("TovraSegmented"));
     setAccessibleName(accessibleName);
     setSizePolicy(QSizePolicy::Maximum, QSizePolicy::Fixed);
@@ -32,8 +36,7 @@ ModeSegmentedBar::ModeSegmentedBar(const QString &accessibleName, QWidget *paren
     layout->setSpacing(0);
     m_group->setExclusive(false);
     connect(m_group, &QButtonGroup::buttonClicked, this, [this](QAbstractButton *button) {
-        // Undo the click's own toggle: the checked segment follows the owner's value only.
-        setCurrentValue(m_current);
+        // The checked segment follows the owner's value only: a click never checks one.
         Q_EMIT valueRequested(button->property(kValueProperty).toString());
     });
 }
@@ -41,9 +44,8 @@ ModeSegmentedBar::ModeSegmentedBar(const QString &accessibleName, QWidget *paren
 QPushButton *ModeSegmentedBar::addSegment(const QString &value, const QString &text,
                                           const QString &description)
 {
-    auto *button = new QPushButton(text, this);
-    button->setCheckable(true);
-    button->setFocusPolicy(Qt::StrongFocus);
+    auto *button = new RequestButton(QAccessible::RadioButton, this);
+    button->setText(text);
     button->setProperty(kValueProperty, value);
     button->setAccessibleName(text);
     if (!description.isEmpty()) {

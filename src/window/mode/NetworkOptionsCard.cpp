@@ -33,15 +33,21 @@ NetworkOptionsCard::NetworkOptionsCard(QWidget *parent)
     title->setObjectName(QStringLiteral("TovraCardTitle"));
     layout->addWidget(title);
 
+    //: Local network option: devices nearby are reached outside the tunnel
     m_localNetwork->addSegment(QStringLiteral("direct"), tr("Direct"),
                                tr("Printers, shares and other devices on your network stay "
                                   "reachable"));
+    //: Local network option: local traffic goes through the tunnel like the rest
     m_localNetwork->addSegment(QStringLiteral("protected"), tr("Protected"),
                                tr("Local network traffic is protected like the rest"));
+    //: System proxy option: the desktop proxy settings are left alone
     m_systemProxy->addSegment(QStringLiteral("off"), tr("Off"),
                               tr("The desktop's proxy settings are left alone"));
+    //: System proxy option: the desktop proxy settings point at Tovra
     m_systemProxy->addSegment(QStringLiteral("on"), tr("On"),
                               tr("The desktop's proxy settings point at Tovra"));
+    //: System proxy option, a state rather than an action: the desktop proxy settings point at
+    //: Tovra and other programs cannot change them
     m_systemProxy->addSegment(QStringLiteral("lock"), tr("Lock"),
                               tr("The desktop's proxy settings point at Tovra and are kept so"));
 

@@ -75,6 +75,7 @@ QWidget *SplitOptionsCard::buildOptions()
 
     m_route = new ModeSegmentedBar(tr("Default route"), options);
     m_route->addSegment(kThrough, QString());
+    //: Default route choice: traffic goes straight to the internet, outside the tunnel or proxy
     m_route->addSegment(kDirect, tr("Direct"), tr("Everything not chosen below goes direct"));
     m_routeDetail = mutedLabel(options);
     connect(m_route, &ModeSegmentedBar::valueRequested, this, [this](const QString &route) {
@@ -85,6 +86,7 @@ QWidget *SplitOptionsCard::buildOptions()
         row(options, new QLabel(tr("Default route"), options), m_routeDetail, m_route));
 
     m_regionsDetail = mutedLabel(options);
+    //: Button that opens the region picker
     m_chooseRegions = new QPushButton(tr("Choose\u2026"), options);
     m_chooseRegions->setObjectName(QStringLiteral("TovraModeChooseRegions"));
     m_chooseRegions->setAccessibleName(tr("Choose regions"));
@@ -107,6 +109,7 @@ QWidget *SplitOptionsCard::buildOptions()
     connect(m_customRules, &ToggleSwitch::toggleRequested, this, [this](bool enabled) {
         Q_EMIT setModeRequested(splitModeWithCustomRules(m_mode, m_family, enabled));
     });
+    //: Button that opens the custom split rules editor
     m_editRules = new QPushButton(tr("Edit rules\u2026"), options);
     m_editRules->setObjectName(QStringLiteral("TovraModeEditRules"));
     m_editRules->setAccessibleName(tr("Edit custom split rules"));

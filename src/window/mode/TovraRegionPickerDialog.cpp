@@ -3,6 +3,7 @@
 #include "BidiText.h"
 #include "CatalogFilterModel.h"
 #include "Countries.h"
+#include "FieldClearButton.h"
 #include "LocationRoles.h"
 #include "RegionCheckDelegate.h"
 #include "ThemeEngine.h"
@@ -37,6 +38,7 @@ TovraRegionPickerDialog::TovraRegionPickerDialog(QWidget *parent)
     , m_list(new QListView(this))
     , m_empty(new QLabel(this))
     , m_count(new QLabel(this))
+    //: Button
     , m_save(new QPushButton(tr("Save"), this))
 {
     setObjectName(QStringLiteral("TovraRegionPickerDialog"));
@@ -52,7 +54,7 @@ TovraRegionPickerDialog::TovraRegionPickerDialog(QWidget *parent)
     m_search->setObjectName(QStringLiteral("TovraRegionPickerSearch"));
     m_search->setPlaceholderText(tr("Search countries"));
     m_search->setAccessibleName(tr("Search countries"));
-    m_search->setClearButtonEnabled(true);
+    FieldClearButton::enable(m_search, FieldClearButton::Kind::Search);
     m_search->installEventFilter(this);
 
     // Listed by the name the user reads, in the user's language.
@@ -79,6 +81,7 @@ TovraRegionPickerDialog::TovraRegionPickerDialog(QWidget *parent)
     m_empty->hide();
     m_count->setProperty("tovraRole", QStringLiteral("muted"));
 
+    //: Button
     auto *cancel = new QPushButton(tr("Cancel"), this);
     m_save->setObjectName(QStringLiteral("TovraRegionPickerSave"));
     m_save->setDefault(true);

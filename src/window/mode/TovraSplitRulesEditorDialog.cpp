@@ -33,6 +33,7 @@ TovraSplitRulesEditorDialog::TovraSplitRulesEditorDialog(QWidget *parent)
     , m_status(new QLabel(this))
     , m_problems(new QLabel(this))
     , m_result(new QLabel(this))
+    //: Button that replaces the chosen rule list with the lines typed
     , m_import(new QPushButton(tr("Import"), this))
     , m_statusTimer(new QTimer(this))
 {
@@ -69,6 +70,7 @@ TovraSplitRulesEditorDialog::TovraSplitRulesEditorDialog(QWidget *parent)
     m_result->setWordWrap(true);
     m_result->hide();
 
+    //: Button
     auto *close = new QPushButton(tr("Close"), this);
     for (QPushButton *button : {m_import, close})
         button->setAutoDefault(false);
@@ -117,6 +119,7 @@ void TovraSplitRulesEditorDialog::setThemeColors(const ThemeColors &colors)
 QString TovraSplitRulesEditorDialog::kindLabel(const QString &kind)
 {
     if (kind == u"direct")
+        //: Name of the rule list whose sites and addresses go straight to the internet
         return tr("Direct");
     if (kind == u"proxy")
         return tr("Proxy");

@@ -21,6 +21,7 @@ AppSection::AppSection(GuiPreferences *preferences, QWidget *parent)
     , m_launchError(new QLabel(this))
     , m_showOnLaunch(new ToggleSwitch(this))
     , m_appearance(new SettingsChoice(QStringLiteral("TovraSettingsAppearance"), this))
+    //: Button that opens the language picker
     , m_changeLanguage(new QPushButton(tr("Change…"), this))
     , m_runPicker([](LanguagePickerDialog *dialog) { return dialog->exec() == QDialog::Accepted; })
 {

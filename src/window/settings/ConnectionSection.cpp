@@ -16,10 +16,13 @@ ConnectionSection::ConnectionSection(QWidget *parent)
     , m_autoConnect(new SettingsChoice(QStringLiteral("TovraSettingsAutoConnect"), this))
     , m_apiURL(new SettingsField(QStringLiteral("TovraSettingsAPIURL"), tr("API URL"),
                                  QStringLiteral("https://"), this))
+    //: Button that saves the API URL typed in the field
     , m_saveAPIURL(new QPushButton(tr("Save"), this))
+    //: Button that puts the API URL back to the default address
     , m_resetAPIURL(new QPushButton(tr("Reset to default"), this))
     , m_validation(new QLabel(this))
 {
+    //: Auto connect choice: connect to nothing when the service starts
     m_autoConnect->addChoice(QStringLiteral("off"), tr("Off"));
     m_autoConnect->addChoice(QStringLiteral("last"), tr("Last location"));
     m_autoConnect->addChoice(QStringLiteral("smart"), tr("Fastest location"));

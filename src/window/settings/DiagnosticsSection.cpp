@@ -20,15 +20,26 @@ struct PathField
 };
 
 const PathField kPaths[] = {
+    //: Label of a folder path: where the service keeps its configuration
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "Configuration"), &ConfigPaths::configDir},
+    //: Label of a folder path: where the service keeps its running files (socket, PID file);
+    //: not a duration
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "Runtime"), &ConfigPaths::runtimeDir},
+    //: Label of a folder path: the service's log folder
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "Logs"), &ConfigPaths::logDir},
+    //: Label of a file path
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "State file"), &ConfigPaths::stateFile},
+    //: Label of a file path: the key file for the stored account credentials
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "Credentials key"), &ConfigPaths::credentialsKeyFile},
+    //: Label of a file path: the service's history file
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "History"), &ConfigPaths::historyFile},
+    //: Label of a folder path: the service's profiles folder
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "Profiles"), &ConfigPaths::profilesDir},
+    //: Label of a file path: the socket this app talks to the service through
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "Control socket"), &ConfigPaths::socketPath},
+    //: Label of a file path
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "PID file"), &ConfigPaths::pidFile},
+    //: Label of an address the service listens on for control requests
     {QT_TRANSLATE_NOOP("DiagnosticsSection", "Control address"), &ConfigPaths::controlAddr},
 };
 
@@ -36,8 +47,10 @@ const PathField kPaths[] = {
 
 DiagnosticsSection::DiagnosticsSection(QWidget *parent)
     : SettingsCard(tr("Diagnostics"), parent)
+    //: Button that resets the kill switch, local proxy and tunnel
     , m_repair(new QPushButton(tr("Repair"), this))
     , m_repairLines(new QLabel(this))
+    //: Button that opens the log folder
     , m_openLogs(new QPushButton(tr("Open logs"), this))
     , m_daemonVersion(new QLabel(this))
     , m_controlVersion(new QLabel(this))
@@ -75,8 +88,10 @@ DiagnosticsSection::DiagnosticsSection(QWidget *parent)
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         value->setWordWrap(true);
         value->setAccessibleName(name);
+        //: Button that copies the path next to it
         auto *copy = new QPushButton(tr("Copy"), paths);
         copy->setProperty("tovraLink", true);
+        //: %1 is one of the path labels above, such as "Runtime"
         copy->setAccessibleName(tr("Copy %1 path").arg(name));
         connect(copy, &QPushButton::clicked, this, [this, value] { m_copy(value->text()); });
         grid->addWidget(label, row, 0, Qt::AlignVCenter);

@@ -3,6 +3,7 @@
 #include "AppState.h"
 #include "KillSwitchConfirm.h"
 #include "KillSwitchState.h"
+#include "RequestRadioButton.h"
 #include "SettingsRow.h"
 #include "ToggleSwitch.h"
 
@@ -63,7 +64,7 @@ KillSwitchSection::KillSwitchSection(QWidget *parent)
 QRadioButton *KillSwitchSection::addModeOption(QWidget *box, const QString &mode,
                                                const QString &label, const QString &description)
 {
-    auto *option = new QRadioButton(label, box);
+    auto *option = new RequestRadioButton(label, box);
     option->setObjectName(QStringLiteral("TovraSettingsKillSwitchMode_") + mode);
     option->setProperty("tovraKillSwitchMode", mode);
     option->setAccessibleName(tr("Kill Switch mode: %1").arg(label));
@@ -75,10 +76,11 @@ QRadioButton *KillSwitchSection::addModeOption(QWidget *box, const QString &mode
     // The description sits under the option's text, past the indicator, on either side.
     auto *described = new QHBoxLayout;
     described->setContentsMargins(0, 0, 0, 0);
-    described->addSpacing(26);
+    described->addSpacing(30);
     described->addWidget(text, 1);
     auto *layout = static_cast<QVBoxLayout *>(box->layout());
-    layout->addWidget(option);
+    // As wide as its text, so that its focus ring hugs it.
+    layout->addWidget(option, 0, Qt::AlignLeading);
     layout->addLayout(described);
     connect(option, &QRadioButton::clicked, this, [this, mode] { modeClicked(mode); });
     return option;
@@ -108,8 +110,8 @@ void KillSwitchSection::refresh(const AppState &state, bool available)
         hint += QLatin1Char('\n') + record.lastError;
     m_switchRow->setHint(hint);
 
-    if (!m_modePending)
-        showMode(known ? record.mode : QString());
+    // The options never check themselves: they show the daemon's mode, before and after a change.
+    showMode(known ? record.mode : QString());
     for (QAbstractButton *option : m_modes->buttons()) {
         const QString mode = option->property("tovraKillSwitchMode").toString();
         // Lockdown is the service's to set and to lift; the others are not while it holds.
@@ -158,7 +160,6 @@ void KillSwitchSection::modeClicked(const QString &mode)
         showMode(m_mode);
         return;
     }
-    m_modePending = true;
     setModeNote(QString());
     Q_EMIT setKillSwitchModeRequested(mode);
 }
@@ -171,8 +172,5 @@ void KillSwitchSection::setModeNote(const QString &text)
 
 void KillSwitchSection::settle()
 {
-    if (!m_modePending)
-        return;
-    m_modePending = false;
     showMode(m_mode);
 }

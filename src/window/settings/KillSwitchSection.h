@@ -52,5 +52,4 @@ private:
     QString m_mode;
     QString m_transport;
     bool m_enabled = false;
-    bool m_modePending = false;
 };

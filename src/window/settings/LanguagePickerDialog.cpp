@@ -1,5 +1,6 @@
 #include "LanguagePickerDialog.h"
 
+#include "FieldClearButton.h"
 #include "LanguageFilterModel.h"
 #include "TovraDialogTitleBarThemer.h"
 #include "TranslationManager.h"
@@ -78,12 +79,13 @@ LanguagePickerDialog::LanguagePickerDialog(const QList<LanguageEntry> &languages
     m_search->setObjectName(QStringLiteral("TovraLanguagePickerSearch"));
     m_search->setPlaceholderText(tr("Search languages"));
     m_search->setAccessibleName(tr("Search languages"));
-    m_search->setClearButtonEnabled(true);
+    FieldClearButton::enable(m_search, FieldClearButton::Kind::Search);
     m_list->setObjectName(QStringLiteral("TovraLanguagePickerList"));
     m_list->setAccessibleName(tr("Languages"));
     m_list->setModel(m_filter);
     m_list->setUniformItemSizes(true);
     m_list->setEditTriggers(QAbstractItemView::NoEditTriggers);
+    //: Button that switches to the chosen language
     m_buttons->button(QDialogButtonBox::Ok)->setText(tr("Use language"));
     // Plain text buttons, like every other dialog of the app.
     for (QAbstractButton *button : m_buttons->buttons())

@@ -48,18 +48,24 @@ NetworkSection::NetworkSection(QWidget *parent)
                                 QStringLiteral("127.0.0.1:1080"), this))
     , m_http(new SettingsField(QStringLiteral("TovraSettingsHttpListen"), tr("HTTP listener"),
                                QStringLiteral("127.0.0.1:8080"), this))
+    //: Button that applies the SOCKS5 and HTTP listen addresses typed above
     , m_applyListeners(new QPushButton(tr("Apply listeners"), this))
     , m_listenNote(new QLabel(this))
     , m_dnsPolicy(new SettingsChoice(QStringLiteral("TovraSettingsDNSPolicy"), this))
     , m_dnsServers(new SettingsField(QStringLiteral("TovraSettingsDNSServers"),
                                      tr("Local DNS servers"), tr("For example 192.168.1.1, ::1"),
                                      this))
+    //: Button that saves the local DNS servers typed in the field
     , m_applyServers(new QPushButton(tr("Save servers"), this))
+    //: Button that empties the list of local DNS servers
     , m_clearServers(new QPushButton(tr("Clear servers"), this))
+    //: Button that puts the split DNS settings back to their defaults
     , m_resetDNS(new QPushButton(tr("Reset split DNS"), this))
     , m_dnsEffective(new QLabel(this))
 {
+    //: System proxy choice: the desktop proxy settings are left alone
     m_systemProxy->addChoice(QStringLiteral("off"), tr("Off"));
+    //: System proxy choice: the desktop proxy settings point at Tovra
     m_systemProxy->addChoice(QStringLiteral("on"), tr("On"));
     m_systemProxy->addChoice(QStringLiteral("lock"), tr("On and locked"));
     addRow(tr("System proxy"),
@@ -69,7 +75,9 @@ NetworkSection::NetworkSection(QWidget *parent)
     connect(m_systemProxy, &SettingsChoice::choiceRequested, this,
             &NetworkSection::setSystemProxyRequested);
 
+    //: Local network choice: devices nearby are reached outside the tunnel
     m_localNetwork->addChoice(QStringLiteral("direct"), tr("Direct"));
+    //: Local network choice: local traffic goes through the tunnel like the rest
     m_localNetwork->addChoice(QStringLiteral("protected"), tr("Protected"));
     addRow(tr("Local network"),
            tr("Direct reaches devices nearby outside the tunnel; protected sends everything "

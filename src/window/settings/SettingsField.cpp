@@ -1,5 +1,7 @@
 #include "SettingsField.h"
 
+#include "FieldClearButton.h"
+
 #include <QLabel>
 #include <QLineEdit>
 #include <QStyle>
@@ -17,7 +19,7 @@ SettingsField::SettingsField(const QString &objectName, const QString &accessibl
     m_edit->setObjectName(objectName);
     m_edit->setAccessibleName(accessibleName);
     m_edit->setPlaceholderText(placeholder);
-    m_edit->setClearButtonEnabled(true);
+    FieldClearButton::enable(m_edit, FieldClearButton::Kind::Text);
     m_error->setObjectName(objectName + QStringLiteral("Error"));
     m_error->setProperty("tovraRole", QStringLiteral("error"));
     m_error->setWordWrap(true);

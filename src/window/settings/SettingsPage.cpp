@@ -36,6 +36,8 @@ SettingsPage::SettingsPage(GuiPreferences *preferences, QWidget *parent)
     m_scroll->setAccessibleName(tr("Settings"));
     m_scroll->setWidgetResizable(true);
     m_scroll->setFrameShape(QFrame::NoFrame);
+    // Not a stop of its own: Tab goes to the controls, and the area scrolls to show them.
+    m_scroll->setFocusPolicy(Qt::NoFocus);
     m_scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     m_scroll->setVerticalScrollBar(new ThemedScrollBar(Qt::Vertical, m_scroll));
     auto *column = new QWidget;
@@ -105,6 +107,12 @@ void SettingsPage::connectSections()
     connect(m_diagnostics, &DiagnosticsSection::repairDiagnosticsRequested, this,
             &P::repairDiagnosticsRequested);
     connect(m_diagnostics, &DiagnosticsSection::openLogsRequested, this, &P::openLogsRequested);
+}
+
+WindowPage::Records SettingsPage::reads() const
+{
+    return Record::Runtime | Record::KillSwitch | Record::ConfigPaths | Record::Version |
+           Record::APIURLConfig | Record::LanguageConfig | Record::SplitDNS;
 }
 
 void SettingsPage::refresh(const AppState &state)

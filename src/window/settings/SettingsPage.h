@@ -32,6 +32,7 @@ public:
     explicit SettingsPage(GuiPreferences *preferences, QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void applyTheme(const ThemeColors &colors) override;
 
     void setBusy(bool busy);

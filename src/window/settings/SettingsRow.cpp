@@ -1,5 +1,6 @@
 #include "SettingsRow.h"
 
+#include <QAbstractButton>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QVBoxLayout>
@@ -33,10 +34,13 @@ SettingsRow::SettingsRow(const QString &label, const QString &hint, QWidget *par
 
 void SettingsRow::setControl(QWidget *control)
 {
-    if (control->accessibleName().isEmpty())
+    const auto *button = qobject_cast<QAbstractButton *>(control);
+    m_controlIsAction = button && !button->text().isEmpty();
+    if (!m_controlIsAction && control->accessibleName().isEmpty())
         control->setAccessibleName(m_label->text());
-    if (!m_hint->text().isEmpty() && control->accessibleDescription().isEmpty())
-        control->setAccessibleDescription(m_hint->text());
+    m_control = control;
+    m_describesControl = control->accessibleDescription().isEmpty();
+    describeControl();
     m_label->setBuddy(control);
     m_top->addWidget(control, 0, Qt::AlignVCenter);
 }
@@ -50,6 +54,21 @@ void SettingsRow::setHint(const QString &hint)
 {
     m_hint->setText(hint);
     m_hint->setVisible(!hint.isEmpty());
+    describeControl();
+}
+
+void SettingsRow::describeControl()
+{
+    if (!m_control || !m_describesControl)
+        return;
+    const QString hint = m_hint->text();
+    QString description = hint;
+    if (m_controlIsAction)
+        description = hint.isEmpty()
+                          ? m_label->text()
+                          : tr("%1: %2", "row title: help text").arg(m_label->text(), hint);
+    if (m_control->accessibleDescription() != description)
+        m_control->setAccessibleDescription(description);
 }
 
 QString SettingsRow::hint() const

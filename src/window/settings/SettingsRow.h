@@ -15,7 +15,9 @@ class SettingsRow : public QFrame
 public:
     SettingsRow(const QString &label, const QString &hint, QWidget *parent = nullptr);
 
-    // The control at the trailing end; its accessible name becomes the row's label when unset.
+    // The control at the trailing end. A button keeps its own name (what it does) and is
+    // described by the row's label and hint; any other control is named by the label and
+    // described by the hint, which it follows as the hint changes.
     void setControl(QWidget *control);
     // A widget spanning the row's width under the label.
     void addBelow(QWidget *widget);
@@ -24,6 +26,11 @@ public:
     QLabel *labelWidget() const { return m_label; }
 
 private:
+    void describeControl();
+
+    QWidget *m_control = nullptr;
+    bool m_describesControl = false;
+    bool m_controlIsAction = false;
     QVBoxLayout *m_column;
     QHBoxLayout *m_top;
     QLabel *m_label;

@@ -10,6 +10,7 @@
 UpdatesSection::UpdatesSection(QWidget *parent)
     : SettingsCard(tr("Updates"), parent)
     , m_version(new QLabel(this))
+    //: Button
     , m_check(new QPushButton(tr("Check for updates"), this))
     , m_checkNote(new QLabel(this))
 {

@@ -1,5 +1,6 @@
 #include "UpdateDialog.h"
 
+#include "AccessibleAnnouncer.h"
 #include "BidiText.h"
 #include "TovraDialogTitleBarThemer.h"
 
@@ -10,6 +11,8 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QTextBrowser>
+#include <QTextDocument>
+#include <QTextOption>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -21,7 +24,8 @@ constexpr int kProgressRange = 1000;
 bool isActive(UpdateDialog::Phase phase)
 {
     return phase == UpdateDialog::Phase::Preparing || phase == UpdateDialog::Phase::Downloading ||
-           phase == UpdateDialog::Phase::Verifying || phase == UpdateDialog::Phase::Canceling;
+           phase == UpdateDialog::Phase::Retrying || phase == UpdateDialog::Phase::Verifying ||
+           phase == UpdateDialog::Phase::Canceling;
 }
 
 QLabel *makeLabel(const char *objectName, QWidget *parent)
@@ -86,13 +90,17 @@ void UpdateDialog::build()
     m_detail->setProperty("tovraRole", QStringLiteral("muted"));
 
     m_hideUpdate = makeButton("TovraUpdateHide", this);
+    //: Button (shown as a link) that stops offering this update
     setButton(m_hideUpdate, tr("Hide this update"), QString());
     m_notNow = makeButton("TovraUpdateNotNow", this);
+    //: Button that closes the dialog and keeps the update for later
     setButton(m_notNow, tr("Not Now"), QString());
     m_exit = makeButton("TovraUpdateExit", this);
+    //: Button that quits Tovra when the update is required
     setButton(m_exit, tr("Exit Tovra"), tr("Exit Tovra without updating"));
     m_background = makeButton("TovraUpdateBackground", this);
     m_openLink = makeButton("TovraUpdateOpenLink", this);
+    //: Button that opens the installer download page in the browser
     setButton(m_openLink, tr("Open Download Link"), tr("Open the Tovra update download link"));
     m_cancel = makeButton("TovraUpdateCancel", this);
     m_download = makeButton("TovraUpdateDownload", this);
@@ -123,10 +131,12 @@ void UpdateDialog::build()
 
     connect(m_download, &QPushButton::clicked, this, &UpdateDialog::downloadRequested);
     connect(m_background, &QPushButton::clicked, this, [this] {
-        // Offered: start and step aside. Under way: only step aside.
-        if (m_phase == Phase::Offer)
-            Q_EMIT downloadRequested();
+        // Offered: step aside and start. Under way: only step aside. Aside first, so that what
+        // the start has to say goes where the user now is, not into a dialog about to hide.
+        const bool start = m_phase == Phase::Offer;
         hide();
+        if (start)
+            Q_EMIT downloadRequested();
     });
     connect(m_cancel, &QPushButton::clicked, this, &UpdateDialog::cancelDownloadRequested);
     connect(m_openLink, &QPushButton::clicked, this, &UpdateDialog::openDownloadLinkRequested);
@@ -142,6 +152,20 @@ void UpdateDialog::showEvent(QShowEvent *event)
 {
     QDialog::showEvent(event);
     focusStepForward();
+}
+
+void UpdateDialog::changeEvent(QEvent *event)
+{
+    QDialog::changeEvent(event);
+    if (event->type() == QEvent::LayoutDirectionChange)
+        alignNotes();
+}
+
+void UpdateDialog::alignNotes()
+{
+    QTextOption option = m_notes->document()->defaultTextOption();
+    option.setAlignment(Qt::AlignAbsolute | (isRightToLeft() ? Qt::AlignRight : Qt::AlignLeft));
+    m_notes->document()->setDefaultTextOption(option);
 }
 
 void UpdateDialog::focusStepForward()
@@ -185,6 +209,7 @@ void UpdateDialog::setOffer(const UpdateInfo &info, const QString &currentVersio
     }
     m_notes->setPlainText(entries.isEmpty() ? tr("Release notes are unavailable.")
                                             : entries.join(QLatin1Char('\n')));
+    alignNotes();
     applyButtons();
 }
 
@@ -206,8 +231,12 @@ void UpdateDialog::showCanceling()
 void UpdateDialog::setDownload(const GUIUpdateDownloadInfo &info)
 {
     const QString &state = info.state;
-    if (state == QLatin1String("checking")) {
+    if (state == QLatin1String("queued") || state == QLatin1String("checking")) {
         setPhase(Phase::Preparing);
+    } else if (state == QLatin1String("retrying")) {
+        setPhase(Phase::Retrying);
+        // What went wrong, in the daemon's words, under the progress.
+        setMessage(QString(), QString(), info.errorMessage);
     } else if (state == QLatin1String("downloading")) {
         m_phase = Phase::Downloading;
         setMessage(QString(), QString());
@@ -274,6 +303,9 @@ void UpdateDialog::setPhase(Phase phase)
     case Phase::Downloading:
         setStatus(tr("Downloading update..."), -1, true);
         break;
+    case Phase::Retrying:
+        setStatus(tr("Retrying the download..."), -1, true);
+        break;
     case Phase::Verifying:
         setStatus(tr("Verifying the download..."), kProgressRange, true);
         break;
@@ -287,10 +319,20 @@ void UpdateDialog::setPhase(Phase phase)
         setStatus(tr("Download complete. Opening the installer..."), kProgressRange, true);
         break;
     }
+    // The end of a download is news for someone not looking at the dialog.
+    if (phase == Phase::Ready || phase == Phase::Canceled)
+        announcer()->announce(m_status->text());
     applyButtons();
     // The button that had focus may be gone in the new phase.
     if (isVisible())
         focusStepForward();
+}
+
+AccessibleAnnouncer *UpdateDialog::announcer()
+{
+    if (!m_announcer)
+        m_announcer = new AccessibleAnnouncer(this);
+    return m_announcer;
 }
 
 void UpdateDialog::setStatus(const QString &text, int progressPermille, bool progressVisible)
@@ -316,6 +358,8 @@ void UpdateDialog::setMessage(const QString &text, const QString &role, const QS
         m_message->style()->unpolish(m_message);
         m_message->style()->polish(m_message);
     }
+    if (role == QLatin1String("error"))
+        announcer()->announce(text, AccessibleAnnouncer::Politeness::Assertive);
     const bool showDetail = !detail.trimmed().isEmpty() && detail.trimmed() != text;
     m_detail->setText(showDetail ? detail.trimmed() : QString());
     m_detail->setVisible(showDetail);
@@ -329,6 +373,7 @@ void UpdateDialog::applyButtons()
     m_notNow->setVisible(!m_forced && !active);
     m_exit->setVisible(m_forced);
     m_background->setVisible((offer && !m_forced) || active);
+    //: Button that hides the dialog while the installer downloads
     setButton(m_background, tr("Download in Background"),
               offer ? tr("Download the latest installer without interrupting your current "
                          "session.")
@@ -337,8 +382,10 @@ void UpdateDialog::applyButtons()
     m_cancel->setVisible(active);
     m_cancel->setEnabled(m_phase != Phase::Canceling);
     if (m_phase == Phase::Canceling)
+        //: Button while the download is being cancelled
         setButton(m_cancel, tr("Canceling..."), tr("Cancel the update download"));
     else
+        //: Button
         setButton(m_cancel, tr("Cancel Download"), tr("Cancel the update download"));
 
     const bool retry =
@@ -346,10 +393,13 @@ void UpdateDialog::applyButtons()
     m_download->setVisible(offer || retry || m_phase == Phase::Ready);
     m_download->setEnabled(m_phase != Phase::Ready);
     if (m_phase == Phase::Ready)
+        //: Button while the downloaded installer opens
         setButton(m_download, tr("Opening Installer..."), QString());
     else if (retry)
+        //: Button
         setButton(m_download, tr("Retry Download"), tr("Retry the update download"));
     else
+        //: Button that downloads and opens the installer
         setButton(m_download, tr("Download Update"), tr("Download and install the Tovra update"));
 
     // Enter presses the step forward that is on offer.

@@ -5,6 +5,7 @@
 
 #include <QDialog>
 
+class AccessibleAnnouncer;
 class QLabel;
 class QProgressBar;
 class QPushButton;
@@ -21,6 +22,8 @@ public:
         Offer,
         Preparing,
         Downloading,
+        // The daemon starts the download over after a network error.
+        Retrying,
         Verifying,
         Canceling,
         Canceled,
@@ -61,14 +64,18 @@ Q_SIGNALS:
 
 protected:
     void showEvent(QShowEvent *event) override;
+    void changeEvent(QEvent *event) override;
 
 private:
+    AccessibleAnnouncer *announcer();
     void build();
     void setPhase(Phase phase);
     void setStatus(const QString &text, int progressPermille, bool progressVisible);
     void setMessage(const QString &text, const QString &role, const QString &detail = QString());
     void applyButtons();
     void focusStepForward();
+    // The release notes start where the layout starts, whatever language they are in.
+    void alignNotes();
     static void setButton(QPushButton *button, const QString &text, const QString &toolTip);
 
     Phase m_phase = Phase::Offer;
@@ -83,6 +90,7 @@ private:
     QLabel *m_status = nullptr;
     QProgressBar *m_progress = nullptr;
     QLabel *m_message = nullptr;
+    AccessibleAnnouncer *m_announcer = nullptr;
     QLabel *m_detail = nullptr;
     QPushButton *m_hideUpdate = nullptr;
     QPushButton *m_notNow = nullptr;

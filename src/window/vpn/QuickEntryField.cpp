@@ -1,6 +1,7 @@
 #include "QuickEntryField.h"
 
 #include "CatalogFilterModel.h"
+#include "FieldClearButton.h"
 #include "QuickEntryModel.h"
 #include "QuickEntryPopup.h"
 #include "RecentActivityStore.h"
@@ -28,7 +29,7 @@ QuickEntryField::QuickEntryField(RecentActivityStore *recent, QWidget *overlay, 
     setObjectName(QStringLiteral("TovraVPNSearch"));
     setPlaceholderText(tr("Search for a country, city or location"));
     setAccessibleName(tr("Quick connect search"));
-    setClearButtonEnabled(true);
+    FieldClearButton::enable(this, FieldClearButton::Kind::Search);
     setProperty("tovraPopupOpen", false);
 
     m_debounce->setSingleShot(true);

@@ -1,5 +1,6 @@
 #include "VpnPage.h"
 
+#include "AccessibleAnnouncer.h"
 #include "AppState.h"
 #include "CatalogTreeModel.h"
 #include "GuiPreferences.h"
@@ -14,6 +15,7 @@
 
 #include <QAction>
 #include <QPushButton>
+#include <QTimer>
 
 using Phase = VpnStatusSummary::Phase;
 
@@ -24,8 +26,14 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     , m_status(new VpnStatusCard(this))
     , m_search(new QuickEntryField(m_recent, this, this))
     , m_recentCard(new VpnRecentLocations(this))
+    // Inside the status card: the region whose changes it speaks.
+    , m_announcer(new AccessibleAnnouncer(m_status))
+    , m_announceDelay(new QTimer(this))
     , m_confirm(confirmKillSwitchNeedsVpnMode)
 {
+    m_announceDelay->setSingleShot(true);
+    m_announceDelay->setInterval(300);
+    connect(m_announceDelay, &QTimer::timeout, this, &VpnPage::speakPendingLine);
     m_search->setCatalogModel(m_catalog);
     addContent(m_status);
     addContent(m_search);
@@ -65,6 +73,11 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     redraw();
 }
 
+WindowPage::Records VpnPage::reads() const
+{
+    return Record::Runtime | Record::User | Record::Nodes | Record::NodeGroups | Record::KillSwitch;
+}
+
 void VpnPage::refresh(const AppState &state)
 {
     m_runtime = state.runtime();
@@ -80,7 +93,6 @@ void VpnPage::refresh(const AppState &state)
         m_catalog->setCatalog(m_groups, m_nodes);
     }
     redraw();
-    recordConnection();
     m_refreshed = true;
 }
 
@@ -96,9 +108,36 @@ void VpnPage::redraw()
         VpnStatusSummary::build(m_runtime, m_nodes, m_killSwitch, m_unavailableReason, m_pending);
     m_status->setSummary(m_summary);
     guiTextLog("window.status", m_summary.title + QStringLiteral(" | ") + m_summary.detail);
+    // Until the first refresh the page shows no state of the daemon's: nothing to speak of.
+    const ConnectionAnnouncements::Line line = m_announcements.next(m_summary, m_runtime.lastError);
+    if (!m_refreshed && !line.text.isEmpty()) {
+        m_spokenText = line.text; // what the window opens on is read with the window
+    } else if (!line.text.isEmpty()) {
+        // A connect passes through a moment of "disconnected" between the shell's answer and
+        // the new status: only the state that holds is spoken.
+        m_pendingLine = line;
+        m_announceDelay->start();
+    }
     updatePrimaryAction();
     updateKillSwitch();
     m_recentCard->setConnectEnabled(m_summary.phase != Phase::Unavailable);
+}
+
+bool VpnPage::hasPendingAnnouncement() const
+{
+    return m_announceDelay->isActive();
+}
+
+void VpnPage::speakPendingLine()
+{
+    // Back where it was before the moment passed: nothing new to say.
+    if (m_pendingLine.text == m_spokenText)
+        return;
+    m_spokenText = m_pendingLine.text;
+    m_announcer->announce(m_pendingLine.text, m_pendingLine.assertive
+                                                  ? AccessibleAnnouncer::Politeness::Assertive
+                                                  : AccessibleAnnouncer::Politeness::Polite);
+    guiTextLog("window.announce", m_pendingLine.text);
 }
 
 void VpnPage::updatePrimaryAction()
@@ -107,21 +146,27 @@ void VpnPage::updatePrimaryAction()
     const QString disconnect = QStringLiteral("disconnect");
     switch (m_summary.phase) {
     case Phase::Unavailable:
+        //: Button that connects the VPN
         m_status->setPrimaryAction(tr("Connect"), connect, false, false);
         break;
     case Phase::SignedOut:
+        //: Button that opens the account page to sign in
         m_status->setPrimaryAction(tr("Sign In"), connect, false, true);
         break;
     case Phase::Connecting:
+        //: Button that stops a connection attempt
         m_status->setPrimaryAction(tr("Cancel"), disconnect, false, true);
         break;
     case Phase::Connected:
+        //: Button that disconnects the VPN
         m_status->setPrimaryAction(tr("Disconnect"), disconnect, false, true);
         break;
     case Phase::Disconnecting:
+        //: Button while the VPN disconnects
         m_status->setPrimaryAction(tr("Disconnecting\u2026"), disconnect, true, false);
         break;
     case Phase::Disconnected:
+        //: Button that connects the VPN
         m_status->setPrimaryAction(tr("Connect"), connect, false, true);
         break;
     }
@@ -165,24 +210,6 @@ void VpnPage::connectTo(const QString &target, const QString &label, bool group)
         Q_EMIT connectSmartRequested(target);
     else
         Q_EMIT connectNodeRequested(target, label);
-}
-
-void VpnPage::recordConnection()
-{
-    if (!m_recent)
-        return;
-    if (m_summary.phase != Phase::Connected || m_summary.locationId.isEmpty()) {
-        if (m_summary.phase == Phase::Disconnected)
-            m_recordedId.clear();
-        return;
-    }
-    if (m_summary.locationId == m_recordedId)
-        return;
-    m_recordedId = m_summary.locationId;
-    // A new window finding a connection the user already cleared away does not bring it back.
-    if (!m_refreshed && m_recent->locationsCleared())
-        return;
-    m_recent->addLocation({m_summary.locationId, m_summary.locationText, m_summary.flagCode});
 }
 
 void VpnPage::clearRecentLocations()

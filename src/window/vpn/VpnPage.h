@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ConnectionAnnouncements.h"
 #include "KillSwitchInfo.h"
 #include "NodeGroupsInfo.h"
 #include "NodesInfo.h"
@@ -9,6 +10,8 @@
 
 #include <functional>
 
+class AccessibleAnnouncer;
+class QTimer;
 class CatalogTreeModel;
 class GuiPreferences;
 class QuickEntryField;
@@ -28,6 +31,7 @@ public:
     explicit VpnPage(GuiPreferences *preferences, QWidget *parent = nullptr);
 
     void refresh(const AppState &state) override;
+    Records reads() const override;
     void applyTheme(const ThemeColors &colors) override;
 
     // Stops a pending search and hides the quick-entry popup; called when the page is left.
@@ -41,6 +45,9 @@ public:
 
     const VpnStatusSummary &summary() const { return m_summary; }
     VpnStatusCard *statusCard() const { return m_status; }
+    AccessibleAnnouncer *announcer() const { return m_announcer; }
+    // A change of state waits a moment before it is spoken, in case it is gone at once.
+    bool hasPendingAnnouncement() const;
     QuickEntryField *quickEntry() const { return m_search; }
     VpnRecentLocations *recentLocations() const { return m_recentCard; }
 
@@ -62,11 +69,11 @@ private:
     void redraw();
     void updatePrimaryAction();
     void updateKillSwitch();
-    void recordConnection();
     void triggerPrimaryAction();
     void connectTo(const QString &target, const QString &label, bool group);
     void handleKillSwitchToggle(bool enabled);
     void clearRecentLocations();
+    void speakPendingLine();
 
     RecentActivityStore *m_recent = nullptr;
     CatalogTreeModel *m_catalog;
@@ -81,7 +88,11 @@ private:
     QString m_unavailableReason;
     VpnStatusSummary::PendingConnect m_pending;
     VpnStatusSummary m_summary;
-    QString m_recordedId;
+    ConnectionAnnouncements m_announcements;
+    AccessibleAnnouncer *m_announcer;
+    QTimer *m_announceDelay;
+    ConnectionAnnouncements::Line m_pendingLine;
+    QString m_spokenText;
     bool m_refreshed = false;
     std::function<int(QWidget *)> m_confirm;
 };

@@ -13,6 +13,7 @@
 VpnRecentLocations::VpnRecentLocations(QWidget *parent)
     : QFrame(parent)
     , m_list(new QVBoxLayout)
+    //: Button that empties the list of recent locations
     , m_clear(new QPushButton(tr("Clear"), this))
     , m_empty(new QLabel(tr("Locations you connect to appear here."), this))
 {
@@ -43,6 +44,8 @@ VpnRecentLocations::VpnRecentLocations(QWidget *parent)
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setFrameShape(QFrame::NoFrame);
+    // Not a stop of its own: Tab goes to the controls, and the area scrolls to show them.
+    scroll->setFocusPolicy(Qt::NoFocus);
     auto *content = new QWidget(scroll);
     auto *contentLayout = new QVBoxLayout(content);
     contentLayout->setContentsMargins(0, 0, 0, 0);

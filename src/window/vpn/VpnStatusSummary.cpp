@@ -1,5 +1,6 @@
 #include "VpnStatusSummary.h"
 
+#include "AccountSession.h"
 #include "BidiText.h"
 #include "Countries.h"
 #include "KillSwitchState.h"
@@ -61,8 +62,7 @@ QString placeText(const NodeEntry &node, const QString &fallback)
 
 bool VpnStatusSummary::isSignedIn(const QString &authState)
 {
-    const QString auth = word(authState);
-    return auth == QLatin1String("logged_in") || auth == QLatin1String("cached");
+    return AccountSession::isSignedIn(authState);
 }
 
 QString VpnStatusSummary::elapsedText(const QDateTime &since, const QDateTime &now)
@@ -138,6 +138,7 @@ VpnStatusSummary VpnStatusSummary::build(const RuntimeInfo &runtime, const Nodes
         const QString target = pending.active && !pending.label.trimmed().isEmpty()
                                    ? pending.label.trimmed()
                                    : summary.locationText;
+        summary.connectingTo = target;
         summary.detail = target.isEmpty()
                              ? VpnPageText::tr("Setting up the tunnel.")
                              : VpnPageText::tr("Connecting to %1").arg(isolated(target));

@@ -28,6 +28,7 @@ struct VpnStatusSummary
     QString locationCaption; // "Location" or "Last location"; empty without a location
     QString locationId;      // the node's id, when known
     QString locationText;    // country and node name
+    QString connectingTo;    // what a connect in progress goes to, when known
     QString flagCode;
     QString modeLabel;
     QString killSwitchWord;

@@ -65,7 +65,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("trigger");
         QTest::addColumn<bool>("sent");
         QTest::addRow("password without a user")
-            << QString() << "demo" << true << "button" << false;
+            << QString() << "demo" << true << "password" << false;
         QTest::addRow("user without a password")
             << "demo@tovra.invalid" << QString() << true << "button" << false;
         QTest::addRow("blank user") << "   "
@@ -98,6 +98,8 @@ private Q_SLOTS:
                  sent ? QString() : QStringLiteral("Enter account and password."));
         if (sent)
             QCOMPARE(login.first(), (QVariantList{name, secret, remember}));
+        else // nothing was sent, so nothing typed is lost
+            QCOMPARE(p.password()->text(), secret);
     }
 
     // A second Return while the first sign-in runs sends nothing; nor does one with no daemon.

@@ -100,6 +100,10 @@ void TestUpdateDialog::phases_data()
     QTest::addRow("preparing") << "preparing" << false << P::Preparing
                                << "Preparing the download..."
                                << "Download in Background|Cancel Download";
+    QTest::addRow("queued") << "queued" << false << P::Preparing << "Preparing the download..."
+                            << "Download in Background|Cancel Download";
+    QTest::addRow("retrying") << "retrying" << false << P::Retrying << "Retrying the download..."
+                              << "Download in Background|Cancel Download";
     QTest::addRow("downloading") << "downloading" << false << P::Downloading
                                  << "Downloading 1.1 MB of 2.2 MB"
                                  << "Download in Background|Cancel Download";
@@ -233,6 +237,7 @@ void TestUpdateDialog::screenshots()
     QDir().mkpath(dir);
     const QStringList steps{QStringLiteral("offer"),       QStringLiteral("preparing"),
                             QStringLiteral("downloading"), QStringLiteral("verifying"),
+                            QStringLiteral("queued"),      QStringLiteral("retrying"),
                             QStringLiteral("canceling"),   QStringLiteral("canceled"),
                             QStringLiteral("ready"),       QStringLiteral("failed, retry"),
                             QStringLiteral("failed, link")};

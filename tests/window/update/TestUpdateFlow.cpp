@@ -15,7 +15,9 @@
 #include <QCryptographicHash>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTest>
 
@@ -38,7 +40,9 @@ class TestUpdateFlow : public QObject
 private Q_SLOTS:
     void initTestCase();
     void init();
+    void offerDownloadsAndOpensTheVerifiedInstaller_data();
     void offerDownloadsAndOpensTheVerifiedInstaller();
+    void backgroundDuringCheckTellsTheWindow();
     void cancelMidDownload();
     void cancelArrivingAfterCompletionOpensNothing();
     void staleOfferFailsThenRetryChecksAgain();
@@ -47,6 +51,7 @@ private Q_SLOTS:
     void daemonGoneMidDownloadStopsPollingThenRecovers();
     void automaticOfferShownOncePerDayUntilHidden();
     void requiredUpdateBlocksConnect();
+    void requiredUpdateWithoutOwnVersion();
 
 private:
     bool startShell(const QStringList &daemonArguments = {});
@@ -107,9 +112,20 @@ bool TestUpdateFlow::waitForCheck() const
     return QTest::qWaitFor([this] { return !m_shell->updateFlow()->checkInFlight(); }, 10000);
 }
 
+void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller_data()
+{
+    QTest::addColumn<QStringList>("daemonArguments");
+    QTest::addRow("queued first") << QStringList();
+    QTest::addRow("retried halfway") << QStringList{QStringLiteral("--flaky-download")};
+}
+
 void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller()
 {
-    QVERIFY(startShell());
+    QFETCH(QStringList, daemonArguments);
+    QVERIFY(startShell(daemonArguments));
+    QStringList states;
+    connect(m_shell->updateFlow(), &UpdateFlow::downloadChanged, this,
+            [&states](const GUIUpdateDownloadInfo &info) { states << info.state; });
     m_shell->checkSettingsUpdate();
     QTRY_VERIFY(dialog()->isVisible());
     QCOMPARE(dialog()->phase(), UpdateDialog::Phase::Offer);
@@ -121,6 +137,12 @@ void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller()
     QVERIFY(dialog()->statusText().startsWith(QLatin1String("Downloading ")));
     QCOMPARE(m_shell->updateFlow()->downloadFlow()->pollIntervalMs(),
              UpdateDownloadFlow::kFastPollMs);
+    QCOMPARE(states.constFirst(), QStringLiteral("queued")); // the answer to the start
+    if (!daemonArguments.isEmpty()) {
+        QTRY_COMPARE(dialog()->statusText(), QStringLiteral("Retrying the download..."));
+        QCOMPARE(dialog()->findChild<QLabel *>(QStringLiteral("TovraUpdateDetail"))->text(),
+                 QStringLiteral("connection reset by peer"));
+    }
 
     QTRY_COMPARE_WITH_TIMEOUT(m_opened.size(), 1, kDownloadWaitMs);
     const QString path = m_opened.constFirst().toLocalFile();
@@ -139,6 +161,21 @@ void TestUpdateFlow::offerDownloadsAndOpensTheVerifiedInstaller()
     m_shell->startGUIUpdateDownload();
     QCOMPARE(m_opened.size(), 2);
     QCOMPARE(m_opened.constLast(), m_opened.constFirst());
+}
+
+// Pressed while a check runs, the dialog steps aside: the word that the download waits for the
+// check is said in the window.
+void TestUpdateFlow::backgroundDuringCheckTellsTheWindow()
+{
+    QVERIFY(startShell());
+    m_shell->checkSettingsUpdate();
+    QTRY_VERIFY(dialog()->isVisible());
+    m_shell->updateFlow()->check(false);
+    button("TovraUpdateBackground")->click();
+    QVERIFY(!dialog()->isVisible());
+    QCOMPARE(m_shell->notifier()->lastText(),
+             QStringLiteral("Finishing the latest update check before starting the download..."));
+    QTRY_COMPARE_WITH_TIMEOUT(m_opened.size(), 1, kDownloadWaitMs);
 }
 
 void TestUpdateFlow::cancelMidDownload()
@@ -357,6 +394,22 @@ void TestUpdateFlow::requiredUpdateBlocksConnect()
              QStringLiteral("A required Tovra update is being checked before connecting."));
     QTRY_VERIFY(dialog()->isVisible());
     QVERIFY(dialog()->forced());
+}
+
+// A GUI that does not know its own version cannot ask for the required update.
+void TestUpdateFlow::requiredUpdateWithoutOwnVersion()
+{
+    QCoreApplication::setApplicationVersion(QString());
+    const auto restore = qScopeGuard([] { QCoreApplication::setApplicationVersion(kGuiVersion); });
+    GuiUpdateBookkeeping required;
+    required.forceUpgrade = true;
+    m_preferences->setUpdateBookkeeping(QString(), required);
+    QVERIFY(startShell());
+    m_shell->connectSmart(QStringLiteral("de"));
+    QVERIFY(!m_shell->connectionFlow()->connectInProgress());
+    QVERIFY(!m_shell->updateFlow()->checkInFlight());
+    QCOMPARE(m_shell->notifier()->lastText(),
+             QStringLiteral("A required Tovra update must be installed before connecting."));
 }
 
 QTEST_MAIN(TestUpdateFlow)

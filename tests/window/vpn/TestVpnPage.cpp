@@ -1,3 +1,4 @@
+#include "AccessibleAnnouncer.h"
 #include "AppState.h"
 #include "ControlMetaTypes.h"
 #include "GuiPreferences.h"
@@ -183,6 +184,49 @@ private Q_SLOTS:
         }
     }
 
+    // What a screen reader hears as the status changes after the page first showed it.
+    void announcements_data()
+    {
+        QTest::addColumn<QList<QByteArray>>("steps");
+        QTest::addColumn<QStringList>("spoken"); // "!" before an assertive line
+        const QByteArray tokyo =
+            R"("connected_node": {"id": 1100, "region": "JP", "name": "Tokyo 01"})";
+        QTest::addRow("connect and disconnect")
+            << QList<QByteArray>{R"("tunnel_state": "connecting", )" + tokyo,
+                                 R"("tunnel_state": "connected", )" + tokyo, QByteArray()}
+            << texts({"Connecting to Japan \u00b7 Tokyo 01", "Connected to Japan \u00b7 Tokyo 01",
+                      "Disconnected"});
+        QTest::addRow("failure with the reason")
+            << QList<QByteArray>{R"("tunnel_state": "connecting")",
+                                 R"("last_error": "Handshake timed out.")"}
+            << texts({"Connecting\u2026", "!Connection failed: Handshake timed out."});
+        QTest::addRow("signed out by the service")
+            << QList<QByteArray>{R"("tunnel_state": "connected", )" + tokyo,
+                                 R"("auth_state": "logged_out")"}
+            << texts({"Connected to Japan \u00b7 Tokyo 01", "!Signed out"});
+        QTest::addRow("the same state again") << QList<QByteArray>{QByteArray()} << QStringList();
+    }
+    void announcements()
+    {
+        QFETCH(QList<QByteArray>, steps);
+        QFETCH(QStringList, spoken);
+        Fixture f;
+        f.state.setNodes(catalogueNodes());
+        f.apply(status({}));
+        QSignalSpy heard(f.page.announcer(), &AccessibleAnnouncer::announced);
+        for (const QByteArray &step : steps) {
+            f.apply(status(step));
+            QTRY_VERIFY(!f.page.hasPendingAnnouncement());
+        }
+        QStringList lines;
+        for (const QList<QVariant> &args : heard) {
+            const bool assertive = args.at(1).value<AccessibleAnnouncer::Politeness>() ==
+                                   AccessibleAnnouncer::Politeness::Assertive;
+            lines << (assertive ? QStringLiteral("!") : QString()) + args.at(0).toString();
+        }
+        QCOMPARE(lines, spoken);
+    }
+
     void primaryAction_data()
     {
         QTest::addColumn<QByteArray>("extra");
@@ -259,15 +303,14 @@ private Q_SLOTS:
         QVERIFY(!f.page.isQuickEntryPopupOpen());
     }
 
-    // A connection joins the recent list once; Clear empties it and says so.
+    // A location the shell records shows at once; Clear empties the list and says so.
     void recentLocations()
     {
         Fixture f;
-        f.state.setNodes(catalogueNodes());
-        const QByteArray tokyo = R"("tunnel_state": "connected",
-            "connected_node": {"id": 1100, "region": "JP", "name": "Tokyo 01"})";
-        f.apply(status(tokyo));
-        f.apply(status(tokyo + R"(, "daemon_version": "poll")"));
+        f.apply(status(QByteArray()));
+        RecentActivityStore(&f.preferences)
+            .addLocation({QStringLiteral("1100"), QStringLiteral("Japan \u00b7 Tokyo 01"),
+                          QStringLiteral("jp")});
         VpnRecentLocations *card = f.page.recentLocations();
         QCOMPARE(card->rows().size(), 1);
         QCOMPARE(card->rows().first()->text(), QStringLiteral("Japan \u00b7 Tokyo 01"));

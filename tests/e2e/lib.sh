@@ -20,7 +20,8 @@ e2e_cleanup() {
     set +e
     local pid
     # The client first, so that it never sees its display or bus go away.
-    for pid in $client_pid $daemon_pid; do kill -9 "$pid" 2>/dev/null; done
+    # more.pids: processes that a helper shell started for the script.
+    for pid in $client_pid $daemon_pid $(cat "$work/more.pids" 2>/dev/null); do kill -9 "$pid" 2>/dev/null; done
     for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; kill -CONT "$pid" 2>/dev/null; done
     wait 2>/dev/null
     [[ -n ${E2E_KEEP_WORK:-} ]] || rm -rf "$work"

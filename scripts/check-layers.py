@@ -15,7 +15,7 @@ LAYERS = [
     ("base", ["tovra_common", "Qt6::Core", "Qt6::Network"]),
     ("control", ["tovra_control"]),
     ("routing, ctl", ["tovra_routing", "tovra_ctl_lib"]),
-    ("Qt Gui", ["Qt6::Gui"]),
+    ("Qt Gui", ["Qt6::Gui", "PkgConfig::XCB"]),  # XCB: the X connection Qt holds, for the tray
     ("catalog, app", ["tovra_catalog", "tovra_app"]),
     ("Qt Widgets", ["Qt6::Widgets", "Qt6::Svg", "Qt6::DBus"]),
     ("ui", ["tovra_ui"]),

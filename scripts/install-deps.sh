@@ -12,6 +12,12 @@ packages=(
   # The Debian package and its check; a StatusNotifierItem tray host for the end-to-end test.
   dpkg-dev file lintian desktop-file-utils appstream
   haskell-status-notifier-item-utils haskell-gtk-sni-tray-utils libglib2.0-bin
+  # The tray finds an XEmbed tray manager through the X connection.
+  libxcb1-dev
+  # The client on Wayland (weston's headless backend), driven through the accessibility tree.
+  qt6-wayland weston at-spi2-core python3-pyatspi
+  # The Debian 13 root for the build and tests against its newer Qt.
+  mmdebstrap
 )
 
 missing=()

@@ -3,6 +3,7 @@
 #include "GuiTextLog.h"
 #include "MainWindow.h"
 #include "TovraTrayApp.h"
+#include "TrayIcon.h"
 #include "WindowController.h"
 
 #include <QSystemTrayIcon>
@@ -33,7 +34,7 @@ void ShellNotifier::post(const QString &text, const QString &kind, int durationM
     m_lastText = text;
     m_lastKind = kind;
     const MainWindow *window = m_window->window();
-    QSystemTrayIcon *icon = m_tray->trayIcon();
+    TrayIcon *icon = m_tray->trayIcon();
     if (window && window->isVisible())
         m_window->showNotification(text, kind, durationMs);
     else if (icon && icon->isVisible() && QSystemTrayIcon::supportsMessages())

@@ -17,11 +17,11 @@
 #include "ShellWiring.h"
 #include "ShellWorkers.h"
 #include "TovraTrayApp.h"
+#include "TrayIcon.h"
 #include "UpdateFlow.h"
 #include "WindowController.h"
 
 #include <QCoreApplication>
-#include <QSystemTrayIcon>
 #include <QTimer>
 
 namespace {
@@ -111,8 +111,8 @@ void TovraAppShell::setSystemTrayAvailable(bool available)
 
 void TovraAppShell::start()
 {
-    const bool trayAvailable =
-        m_trayAvailable >= 0 ? m_trayAvailable == 1 : QSystemTrayIcon::isSystemTrayAvailable();
+    TrayIcon *icon = m_context.tray->trayIcon();
+    const bool trayAvailable = m_trayAvailable >= 0 ? m_trayAvailable == 1 : icon->hostPresent();
     const bool showOnLaunch = m_context.preferences->showOnLaunch();
     if (m_launchedByAutostart && !trayAvailable && !showOnLaunch) {
         // Nothing to show and no tray to live in: leave quietly.
@@ -123,6 +123,10 @@ void TovraAppShell::start()
     m_compatibility->start();
 
     m_context.window->setSystemTrayAvailable(trayAvailable);
+    // A tray host that comes or goes later decides whether closing the window hides it.
+    if (m_trayAvailable < 0)
+        connect(icon, &TrayIcon::hostPresentChanged, m_context.window,
+                &WindowController::setSystemTrayAvailable);
     m_context.tray->start();
     if (!trayAvailable || showOnLaunch)
         m_context.window->showOrRaise();

@@ -7,6 +7,7 @@
 #include "GuiTextLog.h"
 #include "KillSwitchConfirm.h"
 #include "TrayAccountLookup.h"
+#include "TrayIcon.h"
 #include "TrayLogOpener.h"
 #include "TrayMenuBuilder.h"
 #include "TrayMenuPainter.h"
@@ -29,7 +30,7 @@ TovraTrayApp::TovraTrayApp(AppState *state, ControlWorker *controlWorker,
     , m_preferences(preferences)
     , m_menu(TrayMenuBuilder::build())
     , m_menuOwner(m_menu.menu)
-    , m_icon(new QSystemTrayIcon(this))
+    , m_icon(new TrayIcon(this))
     , m_modeActions(new TrayModeActions(m_menu, this))
     , m_nodeModel(new TrayNodeMenuModel(this))
     , m_notifier(std::make_unique<TrayNotifier>(m_icon, m_menu.daemonLine))
@@ -91,7 +92,7 @@ void TovraTrayApp::connectState()
 
 void TovraTrayApp::connectMenu()
 {
-    connect(m_icon, &QSystemTrayIcon::activated, this, &TovraTrayApp::handleTrayActivated);
+    connect(m_icon, &TrayIcon::activated, this, &TovraTrayApp::handleTrayActivated);
     connect(m_menu.openTovra, &QAction::triggered, this, &TovraTrayApp::openTovraRequested);
     connect(m_menu.connect, &QAction::triggered, this, [this] {
         if (!m_operations->connectInFlight())

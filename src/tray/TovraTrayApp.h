@@ -25,6 +25,7 @@ class AppState;
 class ControlWorker;
 class GuiPreferences;
 class TrayAccountLookup;
+class TrayIcon;
 class TrayLogOpener;
 class TrayMenuSession;
 class TrayModeActions;
@@ -79,7 +80,7 @@ public:
 
     const TrayMenu &menu() const { return m_menu; }
     TrayNodeMenuModel *nodeMenuModel() const { return m_nodeModel; }
-    QSystemTrayIcon *trayIcon() const { return m_icon; }
+    TrayIcon *trayIcon() const { return m_icon; }
     bool isMenuOpen() const { return m_menuOpen; }
 
 Q_SIGNALS:
@@ -174,7 +175,7 @@ private:
 
     TrayMenu m_menu;
     std::unique_ptr<QMenu> m_menuOwner;
-    QSystemTrayIcon *m_icon;
+    TrayIcon *m_icon;
     TrayModeActions *m_modeActions;
     TrayNodeMenuModel *m_nodeModel;
     std::unique_ptr<TrayNotifier> m_notifier;

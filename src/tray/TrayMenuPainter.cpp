@@ -1,6 +1,7 @@
 #include "TrayMenuPainter.h"
 
 #include "AppState.h"
+#include "TrayIcon.h"
 #include "TrayMenuText.h"
 #include "TrayModeActions.h"
 #include "TrayNodeLoader.h"
@@ -10,11 +11,10 @@
 #include <QAction>
 #include <QCoreApplication>
 #include <QMenu>
-#include <QSystemTrayIcon>
 
 namespace {} // namespace
 
-TrayMenuPainter::TrayMenuPainter(AppState *state, const TrayMenu &menu, QSystemTrayIcon *icon,
+TrayMenuPainter::TrayMenuPainter(AppState *state, const TrayMenu &menu, TrayIcon *icon,
                                  TrayModeActions *modeActions, TrayNodeMenuModel *nodeModel,
                                  TrayNodeLoader *nodeLoader, const TrayOperations *operations)
     : m_state(state)

@@ -8,7 +8,7 @@
 #include <QString>
 
 class AppState;
-class QSystemTrayIcon;
+class TrayIcon;
 class TrayModeActions;
 class TrayNodeLoader;
 class TrayNodeMenuModel;
@@ -29,7 +29,7 @@ public:
         TrayStatusFormatter::UserLookup userLookup = TrayStatusFormatter::UserLookup::Pending;
     };
 
-    TrayMenuPainter(AppState *state, const TrayMenu &menu, QSystemTrayIcon *icon,
+    TrayMenuPainter(AppState *state, const TrayMenu &menu, TrayIcon *icon,
                     TrayModeActions *modeActions, TrayNodeMenuModel *nodeModel,
                     TrayNodeLoader *nodeLoader, const TrayOperations *operations);
 
@@ -52,7 +52,7 @@ private:
 
     AppState *m_state;
     TrayMenu m_menu;
-    QSystemTrayIcon *m_icon;
+    TrayIcon *m_icon;
     TrayModeActions *m_modeActions;
     TrayNodeMenuModel *m_nodeModel;
     TrayNodeLoader *m_nodeLoader;

@@ -1,5 +1,7 @@
 #include "TrayNotifier.h"
 
+#include "TrayIcon.h"
+
 #include <QAction>
 #include <QCoreApplication>
 #include <QSystemTrayIcon>
@@ -10,7 +12,7 @@ constexpr int kBalloonMs = 2500;
 
 } // namespace
 
-TrayNotifier::TrayNotifier(QSystemTrayIcon *icon, QAction *daemonLine)
+TrayNotifier::TrayNotifier(TrayIcon *icon, QAction *daemonLine)
     : m_icon(icon)
     , m_daemonLine(daemonLine)
 {}

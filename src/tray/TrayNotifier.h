@@ -3,13 +3,13 @@
 #include <QString>
 
 class QAction;
-class QSystemTrayIcon;
+class TrayIcon;
 
 // Completion messages: a balloon where the desktop shows them, and always the daemon line.
 class TrayNotifier
 {
 public:
-    TrayNotifier(QSystemTrayIcon *icon, QAction *daemonLine);
+    TrayNotifier(TrayIcon *icon, QAction *daemonLine);
 
     void notify(const QString &message);
     // "Error: %1" with the worker's message, or with the operation's fallback when it is empty.
@@ -18,7 +18,7 @@ public:
     QString lastMessage() const { return m_lastMessage; }
 
 private:
-    QSystemTrayIcon *m_icon;
+    TrayIcon *m_icon;
     QAction *m_daemonLine;
     QString m_lastMessage;
 };

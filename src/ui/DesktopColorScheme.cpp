@@ -10,7 +10,6 @@
 
 namespace {
 
-#if QT_VERSION < QT_VERSION_CHECK(6, 5, 0)
 // One reader for the whole process, owned by the application, asked once at first use.
 PortalColorScheme *sharedPortal()
 {
@@ -21,20 +20,22 @@ PortalColorScheme *sharedPortal()
     }
     return portal;
 }
-#else
 
-DesktopScheme fromQt(Qt::ColorScheme scheme)
+// What the toolkit's platform theme knows (from Qt 6.5 on); Unknown where it does not.
+DesktopScheme toolkitScheme()
 {
-    switch (scheme) {
+#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
+    switch (QGuiApplication::styleHints()->colorScheme()) {
     case Qt::ColorScheme::Dark:
         return DesktopScheme::Dark;
     case Qt::ColorScheme::Light:
         return DesktopScheme::Light;
     default:
-        return DesktopScheme::Unknown;
+        break;
     }
-}
 #endif
+    return DesktopScheme::Unknown;
+}
 
 } // namespace
 
@@ -43,28 +44,25 @@ DesktopColorScheme::DesktopColorScheme(QObject *parent)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this,
-            [this](Qt::ColorScheme scheme) { Q_EMIT changed(fromQt(scheme)); });
-#else
-    m_portal = sharedPortal();
-    connect(m_portal, &PortalColorScheme::schemeChanged, this, &DesktopColorScheme::changed);
-    connect(m_portal, &PortalColorScheme::answered, this, &DesktopColorScheme::settled);
+            [this] { Q_EMIT changed(scheme()); });
 #endif
+    // A platform theme that does not know the desktop's choice (Qt before 6.5, or a theme
+    // without the portal) leaves it to the portal.
+    if (toolkitScheme() != DesktopScheme::Unknown)
+        return;
+    m_portal = sharedPortal();
+    connect(m_portal, &PortalColorScheme::schemeChanged, this,
+            [this] { Q_EMIT changed(scheme()); });
+    connect(m_portal, &PortalColorScheme::answered, this, &DesktopColorScheme::settled);
 }
 
 bool DesktopColorScheme::isSettled() const
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
-    return true;
-#else
-    return m_portal->hasAnswered();
-#endif
+    return toolkitScheme() != DesktopScheme::Unknown || !m_portal || m_portal->hasAnswered();
 }
 
 DesktopScheme DesktopColorScheme::scheme() const
 {
-#if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
-    return fromQt(QGuiApplication::styleHints()->colorScheme());
-#else
-    return m_portal->scheme();
-#endif
+    const DesktopScheme toolkit = toolkitScheme();
+    return toolkit != DesktopScheme::Unknown || !m_portal ? toolkit : m_portal->scheme();
 }

@@ -15,6 +15,7 @@
 #include "ThemeEngine.h"
 #include "UnifiedTitleBar.h"
 #include "VpnPage.h"
+#include "WindowCloseAccessible.h"
 #include "WindowPages.h"
 
 #include <QAction>
@@ -63,6 +64,7 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     connect(closeAction, &QAction::triggered, this, &QWidget::close);
     connect(new WindowShortcuts(this), &WindowShortcuts::triggered, this,
             &MainWindow::handleShortcut);
+    WindowCloseAccessible::installFactory();
 
     auto *root = new QWidget(this);
     root->setObjectName(QStringLiteral("TovraWindowRoot"));

@@ -9,12 +9,13 @@
 # Usage: fault_matrix.sh CLIENT DAEMON CTL [CASE...]   (no case: all of them)
 # Environment: TOVRA_FAULT_STALL_MS (threshold, default 50), TOVRA_FAULT_JOBS (cases at a time,
 # default 3), TOVRA_FAULT_RSS_MARGIN_MB (allowed growth, default 25: the catalogue arrives after
-# the fault), TOVRA_FAULT_KEEP=1 keeps the per-case folders for a look, TOVRA_FAULT_SHOTS=DIR with
+# the fault), E2E_KEEP_WORK=1 keeps the per-case folders for a look, TOVRA_FAULT_SHOTS=DIR with
 # TOVRA_FAULT_GRAB=tovra-e2e-grab saves a picture of each fault as the user sees it.
 set -uo pipefail
 
 client=$1 daemon=$2 ctl=$3
 shift 3
+source "$(dirname "$0")/lib.sh"
 all_cases=(latency hang-status hang-all garbage-nodes truncate-groups chunked incompatible
     fail-connect kill-connect denied)
 cases=("$@")
@@ -23,112 +24,28 @@ stall_ms=${TOVRA_FAULT_STALL_MS:-50}
 jobs=${TOVRA_FAULT_JOBS:-3}
 rss_margin_mb=${TOVRA_FAULT_RSS_MARGIN_MB:-25}
 recover_s=12
-top=$(mktemp -d)
-chmod 711 "$top" # the permission case runs its client as another user below this folder
-trap '[[ ${TOVRA_FAULT_KEEP:-0} == 1 ]] && echo "kept $top" || rm -rf "$top"' EXIT
-
-for tool in Xvfb trayer xdotool; do
-    command -v "$tool" >/dev/null || { echo "FAIL: $tool is not installed (scripts/install-deps.sh)"; exit 1; }
-done
 
 # ---- one case, in its own subshell and folder; the last line of its report is the verdict ----
 run_case() {
-    local name=$1 work=$top/$1
-    mkdir -p "$work"
-    # Not local: the exit trap runs after this function has returned.
-    pids=() daemon_pid="" client_pid=""
-    cleanup() {
-        local pid
-        for pid in $client_pid $daemon_pid; do kill -9 "$pid" 2>/dev/null; done
-        # TERM, so that the X server removes its lock and socket for the next one.
-        for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null; done
-        wait 2>/dev/null
-    }
-    trap cleanup EXIT
-    fail() {
-        echo "FAIL $name: $*"
-        echo "--- client log (last 25 lines)"
-        tail -n 25 "$work/client.log" 2>/dev/null
-        exit 1
-    }
-    wait_for() {
-        local deadline=$(( $(date +%s%N) / 1000000 + $1 * 1000 )); shift
-        until "$@"; do (( $(date +%s%N) / 1000000 < deadline )) || return 1; sleep 0.1; done
-    }
-    xdo() { local attempt; for attempt in 1 2 3; do xdotool "$@" 2>/dev/null && return 0; sleep 0.2; done; return 1; }
-    now_ms() { echo $(( $(date +%s%N) / 1000000 )); }
-
-    # One X server starts at a time: two that pick a display number together can pick the same.
-    # An X server that another one, exiting, robs of its socket is started again.
-    local attempt x_pid tray_pid
-    for attempt in 1 2 3; do
-        exec 8>"$top/xvfb.lock"
-        flock 8
-        rm -f "$work/display"
-        Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$work/display" 2>"$work/xvfb.log" &
-        x_pid=$!
-        wait_for 10 test -s "$work/display" || fail "Xvfb did not start"
-        flock -u 8
-        export DISPLAY=":$(head -n1 "$work/display")" QT_QPA_PLATFORM=xcb
-        unset WAYLAND_DISPLAY
-        trayer --edge top --align right --widthtype request --height 28 --SetDockType true \
-            --transparent false >"$work/trayer.log" 2>&1 &
-        tray_pid=$!
-        if wait_for 10 xdotool search --class trayer >/dev/null; then
-            pids+=("$x_pid" "$tray_pid")
-            break
-        fi
-        kill "$tray_pid" "$x_pid" 2>/dev/null
-        wait "$tray_pid" "$x_pid" 2>/dev/null
-        (( attempt < 3 )) || fail "trayer did not start: $(head -n3 "$work/trayer.log")"
-    done
-
+    local name=$1
+    need Xvfb trayer xdotool
+    start_xvfb
+    start_trayer
     # The socket sits in its own folder, so that the permission case can close it.
     mkdir -p "$work/sock"
-    local socket=$work/sock/control.sock
-    start_daemon() { # ARGS...: a daemon on the case's socket, signed in when it can be
-        rm -f "$socket"
-        "$daemon" --socket "$socket" "$@" >>"$work/daemon.log" 2>&1 &
-        daemon_pid=$!
-        wait_for 10 test -S "$socket" || fail "demo daemon did not start"
-        timeout 3 "$ctl" --socket "$socket" --timeout 2000 login demo@tovra.invalid demo false \
-            >/dev/null 2>&1 || true
-    }
-    stop_daemon() { kill -9 "$daemon_pid" 2>/dev/null; wait "$daemon_pid" 2>/dev/null; daemon_pid=""; }
-
-    # The client: its own config and runtime folders, run as another user when asked.
-    local home=$work/home
-    mkdir -p "$home/config/Tovra" "$home/runtime"
-    chmod 700 "$home/runtime"
+    socket=$work/sock/control.sock
+    # A daemon with a fault may never answer the sign-in; it is signed in when it can be.
+    start_signed_in() { start_daemon "$@"; timeout 3 "$ctl" --socket "$socket" --timeout 2000 \
+        login demo@tovra.invalid demo false >/dev/null 2>&1 || true; }
+    # The client's own folders, which the permission case hands to another user.
+    client_home=$work/home
+    mkdir -p "$client_home/runtime"
+    chmod 700 "$client_home/runtime"
     # The language the daemon reports: a slow daemon that misses the start-up language probe
     # must not make the client restart itself into it later.
-    printf '[language]\nlastEffective=en\n' >"$home/config/Tovra/TovraVPN.ini"
-    start_client() { # [RUN-AS...]
-        env XDG_CONFIG_HOME="$home/config" XDG_RUNTIME_DIR="$home/runtime" TMPDIR="$home" \
-            HOME="$home" TOVRA_CONTROL_SOCKET="$socket" TOVRA_GUI_STALL_MS="$stall_ms" \
-            TOVRA_GUI_TEXT_LOG=1 "$@" "$client" >"$work/client.log" 2>&1 &
-        client_pid=$!
-    }
-    # The latest text of a source ("tray", "window.status", "window.page", ...).
-    text_of() { grep -a "^tovra.text: $1: " "$work/client.log" | tail -n1 | cut -d' ' -f3-; }
-    shows() { [[ $(text_of "$1") =~ $2 ]]; }
-    # A notice (error/info balloon or window notification) posted since line $1 of the log.
-    noticed() { tail -n +"$1" "$work/client.log" | grep -aqE "^tovra.text: (window\.)?notice: .*$2"; }
-    log_lines() { wc -l <"$work/client.log"; }
-    since() { tail -n +"$1" "$work/client.log" | grep -aqE "^tovra.text: $2"; }
+    client_settings '[language]' 'lastEffective=en'
     rss_kb() { awk '/^VmRSS:/ {print $2}' "/proc/$client_pid/status" 2>/dev/null || echo 0; }
 
-    window_geometry() {
-        local id size
-        for id in $(xdotool search --onlyvisible --name '^Tovra$' 2>/dev/null); do
-            size=$(xdotool getwindowgeometry "$id" 2>/dev/null | sed -n \
-                -e 's/.*Position: \([0-9-]*\),\([0-9-]*\).*/\1 \2/p' \
-                -e 's/.*Geometry: \([0-9]*\)x\([0-9]*\).*/\1 \2/p' | tr '\n' ' ')
-            read -r win_x win_y win_w win_h <<<"$size"
-            (( ${win_w:-0} >= 300 )) && { window=$id; return 0; }
-        done
-        return 1
-    }
     # Sidebar entries are 89 px high from 8 px down; Account sits at the bottom.
     show_page() { # NAME INDEX (-1: the bottom entry)
         local y attempt
@@ -146,12 +63,11 @@ run_case() {
     # Connect from the VPN page's quick entry, as a user would: Ctrl+F, a country, Enter.
     # The catalogue may still be on its way, so a search that finds nothing is tried again.
     connect_from_window() {
-        local attempt
+        local attempt mark
         show_page VPN 0
         for attempt in 1 2 3 4 5; do
-            local mark
             mark=$(log_lines)
-            xdo key ctrl+f && xdo type --delay 20 'germany' && sleep 0.3 && xdo key Return
+            xdo key ctrl+f && xdo type --delay 20 'germany' && xdo key Return
             wait_for 3 since "$mark" 'window.status: Connecting' && return 0
             xdo key Escape
         done
@@ -173,20 +89,20 @@ run_case() {
     *) fail "unknown case" ;;
     esac
 
-    start_daemon "${fault_args[@]}"
+    start_signed_in "${fault_args[@]}"
     local run_as=()
     if [[ $name == denied ]]; then
-        command -v setpriv >/dev/null || { echo "SKIP $name: setpriv is missing"; exit 0; }
-        (( EUID == 0 )) || { echo "SKIP $name: needs root to run the client as another user"; exit 0; }
+        command -v setpriv >/dev/null || skip "setpriv is missing"
+        (( EUID == 0 )) || skip "needs root to run the client as another user"
         chmod 700 "$work/sock"
         chmod 711 "$work"
-        chown -R 65534:65534 "$home"
+        chown -R 65534:65534 "$client_home"
         run_as=(setpriv --reuid 65534 --regid 65534 --clear-groups)
         setpriv --reuid 65534 --regid 65534 --clear-groups test -x "$client" \
-            || { echo "SKIP $name: the client is not executable by nobody"; exit 0; }
+            || skip "the client is not executable by nobody"
     fi
-    start_client "${run_as[@]}"
-    wait_for 30 window_geometry || fail "the window did not show"
+    start_client TOVRA_GUI_STALL_MS="$stall_ms" "${run_as[@]}"
+    wait_for 30 window_visible || fail "the window did not show"
     wait_for 20 grep -aq '^tovra.stall: watching' "$work/client.log" || fail "the stall monitor did not start"
 
     # ---- the fault as the user sees it ----
@@ -251,7 +167,7 @@ run_case() {
         chmod 666 "$socket"
     else
         stop_daemon
-        start_daemon "${healthy_args[@]}"
+        start_signed_in "${healthy_args[@]}"
     fi
     local healed_at
     healed_at=$(now_ms)
@@ -276,35 +192,18 @@ run_case() {
     # ---- stalls and memory ----
     local largest largest_after
     largest=$(grep -aoE '^tovra.stall: [0-9]+ ms.*' "$work/client.log" | sort -k2,2n | tail -n1 | cut -d' ' -f2-)
-    largest_after=$(tail -n +"$after_startup" "$work/client.log" | grep -aE '^tovra.stall: [0-9]+ ms')
+    largest_after=$(stalls_since "$after_startup")
     [[ -z $largest_after ]] || fail "stalled after start-up: $largest_after"
     # The healthy catalogue arrives after the fault phase; beyond it nothing may pile up.
     (( rss_end <= rss_fault + rss_margin_mb * 1024 )) \
         || fail "memory grew from $(( rss_fault / 1024 )) MB to $(( rss_end / 1024 )) MB"
-    kill -0 "$client_pid" 2>/dev/null || fail "the client died"
+    ! gone "$client_pid" || fail "the client died"
     printf 'ok   %-16s recovered in %5d ms, %3d -> %3d MB, largest stall in start-up: %s\n' \
         "$name" "$recovered_ms" \
         $(( rss_fault / 1024 )) $(( rss_end / 1024 )) "${largest:-none}"
 }
 
-# ---- run the cases, a few at a time ----
-start=$SECONDS
-running=0
-for name in "${cases[@]}"; do
-    ( run_case "$name" ) >"$top/$name.report" 2>&1 &
-    (( ++running >= jobs )) && { wait -n; (( running-- )); }
-done
-wait
-status=0
-for name in "${cases[@]}"; do
-    report=$top/$name.report
-    if grep -q "^ok \|^SKIP " "$report"; then
-        grep "^ok \|^SKIP " "$report"
-    else
-        status=1
-        cat "$report"
-        [[ -s $report ]] || echo "FAIL $name: no report"
-    fi
-done
-echo "fault matrix: ${#cases[@]} cases in $(( SECONDS - start )) s (stall threshold ${stall_ms} ms)"
+run_cases "$jobs" "${cases[@]}"
+status=$?
+echo "fault matrix: stall threshold ${stall_ms} ms"
 exit "$status"

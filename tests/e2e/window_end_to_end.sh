@@ -5,71 +5,19 @@
 # takes pictures of each step.
 # Usage: window_end_to_end.sh CLIENT DAEMON CTL GRAB SCREENSHOT_DIR
 set -euo pipefail
-
 client=$1 daemon=$2 ctl=$3 grab=$4 shots=$5
-work=$(mktemp -d)
-pids=()
-cleanup() {
-    for pid in "${pids[@]}"; do kill "$pid" 2>/dev/null || true; done
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
+source "$(dirname "$0")/lib.sh"
+e2e_init
+need Xvfb xdotool
+mkdir -p "$shots"
+start_xvfb
+start_daemon
 
-fail() { echo "FAIL: $*" >&2; [[ -f $work/client.log ]] && tail -n 30 "$work/client.log" >&2; exit 1; }
-# Polls a command every 0.1 s until it succeeds or the deadline (in seconds) passes.
-wait_for() {
-    local deadline=$(( SECONDS + $1 )); shift
-    until "$@"; do (( SECONDS < deadline )) || return 1; sleep 0.1; done
-}
-# xdotool, retried: under load it can fail to open the display once.
-xdo() { local attempt; for attempt in 1 2 3; do xdotool "$@" && return 0; sleep 0.2; done; return 1; }
-
-for tool in Xvfb xdotool; do
-    command -v "$tool" >/dev/null || fail "$tool is not installed (scripts/install-deps.sh installs it)"
-done
-mkdir -p "$shots" "$work/config/Tovra" "$work/runtime"
-chmod 700 "$work/runtime"
-
-Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$work/display" 2>"$work/xvfb.log" &
-pids+=($!)
-wait_for 10 test -s "$work/display" || fail "Xvfb did not start"
-export DISPLAY=":$(head -n1 "$work/display")"
-
-socket=$work/control.sock
-"$daemon" --socket "$socket" >"$work/daemon.log" 2>&1 &
-pids+=($!)
-wait_for 10 grep -q "listening on" "$work/daemon.log" || fail "demo daemon did not start"
-
-printf '[General]\nappearance=light\n' >"$work/config/Tovra/TovraVPN.ini"
-XDG_CONFIG_HOME=$work/config XDG_RUNTIME_DIR=$work/runtime TMPDIR=$work TOVRA_CONTROL_SOCKET=$socket \
-    "$client" >"$work/client.log" 2>&1 &
-client_pid=$!
-pids+=("$client_pid")
-
+client_settings '[General]' 'appearance=light'
+start_client
 # Without a tray the window shows at start.
-window_id() {
-    local id width
-    for id in $(xdotool search --onlyvisible --name '^Tovra$' 2>/dev/null); do
-        width=$(xdotool getwindowgeometry "$id" | sed -n 's/.*Geometry: \([0-9]*\)x.*/\1/p')
-        (( ${width:-0} >= 300 )) && { echo "$id"; return 0; }
-    done
-    return 1
-}
-wait_for 20 window_id >/dev/null || fail "the window did not show"
-window=$(window_id)
-# "X Y WIDTH HEIGHT" on one line.
-geometry() {
-    echo $(xdotool getwindowgeometry "$window" | sed -n \
-        -e 's/.*Position: \([0-9-]*\),\([0-9-]*\).*/\1 \2/p' \
-        -e 's/.*Geometry: \([0-9]*\)x\([0-9]*\).*/\1 \2/p')
-}
-read -r win_x win_y win_w win_h < <(geometry)
-status_field() { "$ctl" --socket "$socket" fetchStatus | sed -n "s/.*\"$1\": \"\\([^\"]*\\)\".*/\\1/p"; }
-signed_in() { [[ $(status_field auth_state) == logged_in ]]; }
-is_connected() { [[ $(status_field tunnel_state) == connected ]]; }
-is_moving() { [[ $(status_field tunnel_state) == connect* ]]; }
-signed_in && fail "the demo daemon starts signed in"
+wait_for 20 window_visible || fail "the window did not show"
+! signed_in || fail "the demo daemon starts signed in"
 
 # The sidebar: 92 px wide, entries 72 px high from 8 px down; Account sits at the bottom.
 sidebar_x=$(( win_x + 46 ))
@@ -80,7 +28,7 @@ account_y=$(( win_y + win_h - 8 - 36 ))
 signed=0
 for attempt in 1 2 3 4 5; do
     xdo mousemove "$sidebar_x" "$account_y" click 1
-    sleep 0.3 # the page switch is not observable from outside; a missed try is repeated
+    wait_for 3 shows window.page '^Account$' || continue
     xdo key ctrl+a BackSpace
     xdo type --delay 20 'demo@tovra.invalid'
     xdo key Tab ctrl+a BackSpace
@@ -90,17 +38,21 @@ for attempt in 1 2 3 4 5; do
     if wait_for 8 signed_in; then signed=1; break; fi
 done
 (( signed )) || fail "signing in through the Account page did not reach the daemon"
-sleep 1 # only for the picture: the page shows the account once its record is in
+# The page shows the account once its record is in, which the tray's account line tells.
+wait_for 10 shows tray 'Account: demo@tovra\.invalid$' || fail "tray: $(text_of tray)"
 "$grab" "$shots/account-signed-in.png" || fail "could not take the signed-in picture"
 
 # Connect from the quick entry: Ctrl+F, a country, Enter. The catalogue may still be loading
 # right after sign-in, so the search is repeated until the daemon starts connecting.
 xdo mousemove "$sidebar_x" "$vpn_y" click 1
+wait_for 5 shows window.page '^VPN$' || fail "the VPN page did not open"
+# Germany's results show its flag's gold under the field.
+results_shown() { (( $("$grab" --count '#FFCE00' 40 $(( win_x + 140 )) $(( win_y + 260 )) 40 200) >= 20 )); }
 moving=0
 for attempt in 1 2 3 4 5 6 7 8; do
     xdo key ctrl+f
     xdo type --delay 30 'germany'
-    sleep 0.5 # only for the picture: Enter itself waits for no pause
+    wait_for 3 results_shown || true
     [[ $attempt == 1 ]] && { "$grab" "$shots/quick-entry.png" || fail "could not take the popup picture"; }
     xdo key Return
     if wait_for 4 is_moving; then moving=1; break; fi
@@ -126,9 +78,5 @@ done
 # Without a tray, closing the window ends the client.
 xdo mousemove $(( win_x + win_w / 2 )) $(( win_y + win_h - 20 ))
 xdo key ctrl+w
-client_exited() { ! kill -0 "$client_pid" 2>/dev/null; }
-wait_for 15 client_exited || fail "closing the window did not end the client"
-status=0
-wait "$client_pid" || status=$?
-(( status == 0 )) || fail "the client exited with status $status"
+client_exits 15
 echo "end-to-end: signed in and connected from the window alone; pictures in $shots"

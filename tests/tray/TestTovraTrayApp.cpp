@@ -5,6 +5,7 @@
 #include "ScriptedPeer.h"
 #include "TempXdgDirs.h"
 #include "TovraTrayApp.h"
+#include "TrayIcon.h"
 #include "TrayMenuCloseWatcher.h"
 
 #include <QAction>

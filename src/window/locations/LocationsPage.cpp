@@ -4,6 +4,7 @@
 #include "BidiText.h"
 #include "FieldClearButton.h"
 #include "LocationsEmptyState.h"
+#include "LocationsFavoriteButton.h"
 #include "LocationsSearch.h"
 #include "LocationsStatusLine.h"
 #include "LocationsToolbar.h"
@@ -111,16 +112,26 @@ void LocationsPage::connectParts()
     connect(m_tree, &LocationsTreeView::favoriteToggled, this, &LocationsPage::toggleFavorite);
     connect(m_tree, &LocationsTreeView::menuRequested, this, &LocationsPage::showRowMenu);
     connect(m_tree, &LocationsTreeView::textTyped, m_searchDriver, &LocationsSearch::type);
-    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, m_status,
-            &LocationsStatusLine::clearHint);
-    for (const auto signal :
-         {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
-        connect(m_filter, signal, this, [this] { updateEmptyState(); });
-    }
-    connect(m_filter, &QAbstractItemModel::modelReset, this, [this] { updateEmptyState(); });
-    connect(m_filter, &QAbstractItemModel::layoutChanged, this, [this] { updateEmptyState(); });
+    LocationsFavoriteButton *star = m_toolbar->favoriteButton();
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this, star](const QModelIndex &current) {
+                m_status->clearHint();
+                star->setRow(current);
+            });
+    connect(star, &LocationsFavoriteButton::favoriteRequested, this,
+            &LocationsPage::setNodeFavoriteRequested);
     connect(m_delegate, &LocationItemDelegate::favoriteToggleRequested, this,
             &LocationsPage::setNodeFavoriteRequested);
+    // The empty state and the star read the rows again whenever they may have changed.
+    connect(m_filter, &QAbstractItemModel::dataChanged, star, &LocationsFavoriteButton::refresh);
+    const auto rowsChanged = [this, star] {
+        updateEmptyState();
+        star->refresh();
+    };
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, rowsChanged);
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, rowsChanged);
+    connect(m_filter, &QAbstractItemModel::modelReset, this, rowsChanged);
+    connect(m_filter, &QAbstractItemModel::layoutChanged, this, rowsChanged);
 }
 
 void LocationsPage::setPreferences(GuiPreferences *preferences)

@@ -1,5 +1,7 @@
 #include "LocationsToolbar.h"
 
+#include "LocationsFavoriteButton.h"
+
 #include "IconTinter.h"
 #include "ThemeColors.h"
 
@@ -64,6 +66,7 @@ LocationsToolbar::LocationsToolbar(QWidget *parent)
     , m_tabs(new BoldSafeTabBar(this))
     , m_sort(new QComboBox(this))
     , m_refresh(new QPushButton(this))
+    , m_favorite(new LocationsFavoriteButton(this))
 {
     auto *row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
@@ -100,6 +103,8 @@ LocationsToolbar::LocationsToolbar(QWidget *parent)
     m_refresh->setToolTip(tr("Fetch the list of locations again and measure their latency"));
     connect(m_refresh, &QPushButton::clicked, this, &LocationsToolbar::refreshRequested);
     row->addWidget(m_refresh);
+    // Last, above the rows' own stars at the trailing edge.
+    row->addWidget(m_favorite);
     setCooldown(0);
 }
 
@@ -161,6 +166,7 @@ void LocationsToolbar::applyTheme(const ThemeColors &colors)
                                       colors.color(ThemeColor::DisabledText), ratio),
                    QIcon::Disabled);
     m_refresh->setIcon(icon);
+    m_favorite->applyTheme(colors);
 }
 
 QString LocationsToolbar::sortKey(CatalogSort sort)

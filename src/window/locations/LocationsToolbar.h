@@ -4,13 +4,14 @@
 
 #include <QWidget>
 
+class LocationsFavoriteButton;
 class QComboBox;
 class QPushButton;
 class QTabBar;
 class ThemeColors;
 
 // The row above the locations tree: the tabs (All, Free, Premium, Favourites), the sort
-// choice and the refresh button with its cooldown.
+// choice, the refresh button with its cooldown and the current row's favourite star.
 class LocationsToolbar : public QWidget
 {
     Q_OBJECT
@@ -28,6 +29,7 @@ public:
     // Seconds until another refresh may be asked for; 0 enables the button.
     void setCooldown(int seconds);
     void applyTheme(const ThemeColors &colors);
+    LocationsFavoriteButton *favoriteButton() const { return m_favorite; }
 
     static QString sortKey(CatalogSort sort);
     static CatalogSort sortFromKey(const QString &key);
@@ -41,5 +43,6 @@ private:
     QTabBar *m_tabs;
     QComboBox *m_sort;
     QPushButton *m_refresh;
+    LocationsFavoriteButton *m_favorite;
     int m_cooldown = 0;
 };

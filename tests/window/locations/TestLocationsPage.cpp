@@ -135,6 +135,8 @@ void TestLocationsPage::keyboardIntents()
     QTest::keyClick(tree, Qt::Key_Up); // from the first node up to its city
     QCOMPARE(tree->currentIndex().data(LocationSelectorRole).toString(),
              QStringLiteral("city:ca:toronto"));
+    auto *button = m_page->findChild<QPushButton *>(QStringLiteral("TovraLocationsFavorite"));
+    QVERIFY(!button->isEnabled()); // a city has no star
     QTest::keyClick(tree, Qt::Key_Enter);
     QCOMPARE(smart.size(), 1);
     QCOMPARE(smart.first().at(0).toString(), QStringLiteral("city:ca:toronto"));
@@ -145,6 +147,17 @@ void TestLocationsPage::keyboardIntents()
     QTest::keyClick(tree, Qt::Key_Space);
     QCOMPARE(star.size(), 1);
     QCOMPARE(star.first(), QVariantList({QStringLiteral("1016"), true}));
+    // The toolbar's star asks the same for the current row, and reads as the service answered:
+    // unchanged until the catalogue says otherwise.
+    button->click();
+    QCOMPARE(star.size(), 2);
+    QCOMPARE(star.last(), star.first());
+    QCOMPARE(button->accessibleName(), QStringLiteral("Add to favourites"));
+    CatalogFixture answered = CatalogFixture::small();
+    answered.find(QStringLiteral("1016"))->favorite = true;
+    loadInto(*m_state, answered);
+    m_page->refresh(*m_state);
+    QCOMPARE(button->accessibleName(), QStringLiteral("Remove from favourites"));
 }
 
 void TestLocationsPage::doubleClickAndEnter_data()

@@ -181,6 +181,7 @@ void LocationsPage::refresh(const AppState &state)
 {
     m_serviceKnown = state.runtime().valid;
     m_catalogueKnown = state.nodes().valid;
+    m_fetchError = state.nodesFetchError();
     const NodeEntry connected = connectedNode(state);
     NodesInfo nodes = state.nodes();
     nodes.connected = connected;
@@ -311,8 +312,10 @@ void LocationsPage::updateEmptyState()
     using Reason = LocationsEmptyState::Reason;
     Reason reason = Reason::None;
     if (m_filter->rowCount() == 0) {
-        if (!m_catalogueKnown)
-            reason = m_serviceKnown ? Reason::Loading : Reason::ServiceUnavailable;
+        if (!m_catalogueKnown && !m_serviceKnown)
+            reason = Reason::ServiceUnavailable;
+        else if (!m_catalogueKnown)
+            reason = m_fetchError.isEmpty() ? Reason::Loading : Reason::LoadFailed;
         else if (m_model->nodes().nodes.isEmpty())
             reason = Reason::EmptyCatalogue;
         else if (m_filter->isSearching())
@@ -322,7 +325,7 @@ void LocationsPage::updateEmptyState()
         else
             reason = Reason::EmptyTab;
     }
-    m_empty->setReason(reason, m_search->text());
+    m_empty->setReason(reason, reason == Reason::LoadFailed ? m_fetchError : m_search->text());
     QWidget *shown = reason == Reason::None ? static_cast<QWidget *>(m_tree) : m_empty;
     if (m_stack->currentWidget() != shown) {
         const bool hadFocus = m_tree->hasFocus();

@@ -73,6 +73,7 @@ private:
     LocationsStatusLine *m_status = nullptr;
     QAction *m_searchIcon = nullptr;
     GuiPreferences *m_preferences = nullptr;
+    QString m_fetchError; // why the catalogue could not be fetched; empty while none failed
     bool m_serviceKnown = false;
     bool m_catalogueKnown = false;
     int m_cooldown = 0;

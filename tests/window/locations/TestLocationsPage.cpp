@@ -207,6 +207,13 @@ void TestLocationsPage::emptyStatesSayWhy()
     m_state->setRuntime(runningDaemon());
     m_page->refresh(*m_state);
     QVERIFY(says("Loading"));
+    // A fetch that failed says why until a retry runs.
+    m_state->setNodesFetchError(QStringLiteral("demo failure"));
+    m_page->refresh(*m_state);
+    QVERIFY(says("Could not load the locations: demo failure"));
+    m_state->setNodesFetchError(QString());
+    m_page->refresh(*m_state);
+    QVERIFY(says("Loading"));
     const CatalogFixture fixture = CatalogFixture::small();
     QString error;
     m_state->setNodes(NodesInfo::parse(fixture.nodesJson(), &error));

@@ -9,6 +9,7 @@
 #include "LocationsStatusLine.h"
 #include "LocationsToolbar.h"
 #include "LocationsTreeView.h"
+#include "WindowShortcuts.h"
 
 #include "AppState.h"
 #include "CatalogFilterModel.h"
@@ -64,6 +65,8 @@ QWidget *LocationsPage::buildContent()
     m_search->setObjectName(QStringLiteral("TovraLocationsSearch"));
     m_search->setPlaceholderText(tr("Search countries, cities, locations or P2P"));
     m_search->setAccessibleName(tr("Search locations"));
+    m_search->setToolTip(
+        WindowShortcuts::toolTip(m_search->accessibleName(), WindowShortcuts::Id::Find));
     FieldClearButton::enable(m_search, FieldClearButton::Kind::Search);
     m_searchIcon = m_search->addAction(QIcon(), QLineEdit::LeadingPosition);
     // The magnifier only decorates: a picture to assistive technology, not a button.

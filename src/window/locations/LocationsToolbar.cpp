@@ -1,6 +1,7 @@
 #include "LocationsToolbar.h"
 
 #include "LocationsFavoriteButton.h"
+#include "WindowShortcuts.h"
 
 #include "IconTinter.h"
 #include "ThemeColors.h"
@@ -100,7 +101,9 @@ LocationsToolbar::LocationsToolbar(QWidget *parent)
     row->addWidget(m_sort);
 
     m_refresh->setObjectName(QStringLiteral("TovraLocationsRefresh"));
-    m_refresh->setToolTip(tr("Fetch the list of locations again and measure their latency"));
+    m_refresh->setToolTip(
+        WindowShortcuts::toolTip(tr("Fetch the list of locations again and measure their latency"),
+                                 WindowShortcuts::Id::RefreshLocations));
     connect(m_refresh, &QPushButton::clicked, this, &LocationsToolbar::refreshRequested);
     row->addWidget(m_refresh);
     // Last, above the rows' own stars at the trailing edge.

@@ -11,7 +11,7 @@
 
 namespace {
 
-constexpr int kStarSide = 18;
+constexpr int kStarSide = 16; // as the refresh button's icon
 
 } // namespace
 

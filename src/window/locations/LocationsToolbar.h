@@ -5,6 +5,7 @@
 #include <QWidget>
 
 class LocationsFavoriteButton;
+class QBoxLayout;
 class QComboBox;
 class QPushButton;
 class QTabBar;
@@ -39,10 +40,19 @@ Q_SIGNALS:
     void sortChanged(CatalogSort sort);
     void refreshRequested();
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void fitActions();
+
     QTabBar *m_tabs;
     QComboBox *m_sort;
     QPushButton *m_refresh;
     LocationsFavoriteButton *m_favorite;
+    QBoxLayout *m_rows; // the tab row, and the actions' own row when they do not fit beside
+    QBoxLayout *m_tabRow;
+    QBoxLayout *m_actions; // sort, refresh, favourite
+    bool m_actionsBeside = true;
     int m_cooldown = 0;
 };

@@ -267,6 +267,18 @@ void TestLocationsPage::refreshShowsCooldown()
     m_page->refresh(*m_state);
     QCOMPARE(refresh->text(), QStringLiteral("Refresh"));
     QVERIFY(refresh->isEnabled());
+    // Too narrow for the tabs and the actions side by side (the window's minimum width holds the
+    // page, not its own hint): nothing is squeezed.
+    m_page->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    m_page->setMinimumSize(0, 0);
+    m_page->resize(420, 600);
+    const auto whole = [this](const char *name) {
+        auto *widget = m_page->findChild<QWidget *>(QLatin1String(name));
+        return widget->width() >= widget->sizeHint().width() &&
+               m_page->rect().contains(QRect(widget->mapTo(m_page, QPoint()), widget->size()));
+    };
+    QTRY_VERIFY(whole("TovraLocationsTabs") && whole("TovraLocationsSort") &&
+                whole("TovraLocationsRefresh") && whole("TovraLocationsFavorite"));
 }
 
 void TestLocationsPage::choicesOutliveThePage()

@@ -267,6 +267,7 @@ void TestLocationsPage::refreshShowsCooldown()
     m_page->refresh(*m_state);
     QCOMPARE(refresh->text(), QStringLiteral("Refresh"));
     QVERIFY(refresh->isEnabled());
+    QVERIFY(refresh->toolTip().endsWith(QLatin1String(" (Ctrl+R)")));
     // Too narrow for the tabs and the actions side by side (the window's minimum width holds the
     // page, not its own hint): nothing is squeezed.
     m_page->layout()->setSizeConstraint(QLayout::SetNoConstraint);

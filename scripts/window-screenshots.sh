@@ -1,11 +1,12 @@
 #!/usr/bin/env bash
 # Pictures of every page of the main window, as a person sees them: the client against the demo
 # daemon (signed in, connected) on a private X server, once per look. Besides the five pages:
-# Locations with a continent selected and opened down to its nodes (locations-open), Locations
-# while the catalogue is still loading (locations-loading), the tray menu (tray-menu), a sidebar
-# tool tip (tooltip), the keyboard shortcuts dialog (shortcuts, F1), the update dialog
-# (update-dialog) and the widget gallery (gallery-*). For reviewing the window after a change;
-# nothing here is a test.
+# Locations with a continent selected and opened down to its nodes (locations-open), with a
+# search's first match current and its star focused (locations-star), while the catalogue is
+# still loading (locations-loading) and when it could not be fetched (locations-failed), the
+# tray menu (tray-menu), a sidebar tool tip (tooltip), the keyboard shortcuts dialog (shortcuts,
+# F1), the update dialog (update-dialog) and the widget gallery (gallery-*). For reviewing the
+# window after a change; nothing here is a test.
 # Usage: scripts/window-screenshots.sh [BUILD_DIR] [OUT_DIR] [LOOK...]
 #   LOOK is light, dark, rtl or dark-rtl; all four by default. The right-to-left looks run in
 #   Arabic (TOVRA_SHOT_RTL_LANG, default ar); TOVRA_SHOT_LANG=de (any tag) picks the language
@@ -70,7 +71,13 @@ version=$(sed -n 's/^CMAKE_PROJECT_VERSION:STATIC=//p' "$build/CMakeCache.txt")
 version+=+$(sed -n 's/^TOVRA_BUILD_NUMBER:STRING=//p' "$build/CMakeCache.txt")
 start_daemon main
 "$ctl" --socket "$work/main.sock" connectSmart DE >/dev/null
+# The tunnel takes a moment to come up; the pictures show it up.
+daemon_connected() {
+    "$ctl" --socket "$work/main.sock" fetchStatus | grep -q '"tunnel_state": "connected"'
+}
+wait_for 10 daemon_connected || { echo "the demo daemon never connected" >&2; exit 1; }
 start_daemon loading --hang /v1/nodes --hang /v1/nodes/refresh
+start_daemon failing --fail /v1/nodes=503 --fail /v1/nodes/refresh=503
 start_daemon update --force-upgrade
 
 window_id() {
@@ -97,11 +104,15 @@ start_client() {
     # A required update seen before is checked again at once, so its dialog opens at start.
     [[ $name == update ]] && printf '[update]\ncurrentVersion=%s\nforceUpgrade=true\n' \
         "$version" >>"$config/Tovra/TovraVPN.ini"
-    XDG_CONFIG_HOME=$config XDG_RUNTIME_DIR=$work/runtime-$look-$name \
-        TOVRA_CONTROL_SOCKET=$work/$name.sock "$client" >"$work/client-$look-$name.log" 2>&1 &
+    local log=$work/client-$look-$name.log
+    XDG_CONFIG_HOME=$config XDG_RUNTIME_DIR=$work/runtime-$look-$name TOVRA_GUI_TEXT_LOG=1 \
+        TOVRA_CONTROL_SOCKET=$work/$name.sock "$client" >"$log" 2>&1 &
     client_pid=$!
     wait_for 20 window_id >/dev/null \
-        || { echo "no window for $look" >&2; tail "$work/client-$look-$name.log" >&2; exit 1; }
+        || { echo "no window for $look" >&2; tail "$log" >&2; exit 1; }
+    # The VPN page's first line says the service has not answered yet; the next one is the
+    # daemon's state (in the look's language), which the pictures must show.
+    wait_for 20 status_shown "$log" || echo "no status from the daemon in $look" >&2
     window=$(window_id)
     xdo windowmove "$window" 0 0
     xdo windowsize "$window" "$(px 1000)" "$(px 720)"
@@ -109,6 +120,7 @@ start_client() {
     read -r wx wy < <(xdotool getwindowgeometry "$window" | sed -n 's/.*Position: \([0-9]*\),\([0-9]*\).*/\1 \2/p')
     read -r ww wh < <(xdotool getwindowgeometry "$window" | sed -n 's/.*Geometry: \([0-9]*\)x\([0-9]*\).*/\1 \2/p')
 }
+status_shown() { (( $(grep -ac 'tovra.text: window.status:' "$1") >= 2 )); }
 stop_client() { kill "$client_pid"; wait "$client_pid" 2>/dev/null || true; }
 # A point of the window in logical pixels from its leading edge, mirrored for right to left.
 click_at() {
@@ -148,6 +160,12 @@ for look in "${looks[@]}"; do
     park_mouse
     sleep 0.5
     shot "$look-locations-open"
+    # The first match of a search is the current row; its star sits before the search field.
+    xdo key ctrl+f
+    xdo type "tokyo 02"
+    xdo key shift+Tab
+    sleep 0.5
+    shot "$look-locations-star"
     if (( have_tray )); then
         # The icon sits in the panel at the bottom right; its menu opens above it.
         xdo mousemove $(( $(px 1100) - $(px 14) )) $(( $(px 800) - $(px 14) )) click 3
@@ -169,6 +187,10 @@ for look in "${looks[@]}"; do
     start_client "$look" loading
     show_page "$look" 1
     shot "$look-locations-loading"
+    stop_client
+    start_client "$look" failing
+    show_page "$look" 1
+    shot "$look-locations-failed"
     stop_client
     # A required update opens its dialog over the window at start.
     start_client "$look" update

@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>لا توجد نتائج مطابقة لـ «%1».
 جرّب اسم دولة أو مدينة أو رمزًا مثل «de».</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>تعذّر تحميل المواقع: %1
+اضغط «تحديث» للمحاولة مرة أخرى.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>إزالة من المفضلة</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>إضافة إلى المفضلة</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>حدّد موقعًا في القائمة لإضافته إلى المفضلة</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>إزالة %1 من المفضلة</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>إضافة %1 إلى المفضلة</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Try a country, a city or a code such as “de”.</source>
         <source>Add to favourites</source>
         <translation>إضافة إلى المفضلة</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>النتائج في كل علامات التبويب: %1</translation>
@@ -1822,6 +1855,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Locations: %1</source>
         <translation>المواقع: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>متصل بـ %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>التجميع حسب المنطقة إلى أن تصل مجموعات الخدمة.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>متصل بـ %1</translation>
     </message>
 </context>
 <context>
@@ -3503,6 +3536,11 @@ Try a country, a city or a code such as “de”.</source>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>قفل</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · مقفل: يتطلب خطة %2</translation>
     </message>
 </context>
 <context>

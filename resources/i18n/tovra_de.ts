@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>Keine Treffer für „%1“.
 Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>Die Standorte konnten nicht geladen werden: %1
+Drücken Sie „Aktualisieren“, um es erneut zu versuchen.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Aus Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Zu Favoriten hinzufügen</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>Wählen Sie einen Standort in der Liste aus, um ihn mit einem Stern zu markieren</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>%1 aus Favoriten entfernen</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>%1 zu Favoriten hinzufügen</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
         <source>Add to favourites</source>
         <translation>Zu Favoriten hinzufügen</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>Treffer in allen Tabs: %1</translation>
@@ -1822,6 +1855,10 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     <message>
         <source>Locations: %1</source>
         <translation>Standorte: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Verbunden mit %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Gruppierung nach Region, bis die Gruppen des Dienstes eintreffen.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>Verbunden mit %1</translation>
     </message>
 </context>
 <context>
@@ -3499,6 +3532,11 @@ Versuchen Sie es mit einem Land, einer Stadt oder einem Kürzel wie „de“.</t
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · Gesperrt: erfordert den Tarif %2</translation>
     </message>
 </context>
 <context>

@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>Nada coincide con «%1».
 Prueba con un país, una ciudad o un código como «de».</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>No se pudieron cargar las ubicaciones: %1
+Pulsa Actualizar para volver a intentarlo.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Quitar de favoritos</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Añadir a favoritos</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>Selecciona una ubicación de la lista para marcarla con la estrella</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>Quitar %1 de favoritos</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>Añadir %1 a favoritos</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Prueba con un país, una ciudad o un código como «de».</translation>
         <source>Add to favourites</source>
         <translation>Añadir a favoritos</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>Coincidencias en todas las pestañas: %1</translation>
@@ -1822,6 +1855,10 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <message>
         <source>Locations: %1</source>
         <translation>Ubicaciones: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Conectado a %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Prueba con un país, una ciudad o un código como «de».</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Agrupando por región hasta que lleguen los grupos del servicio.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>Conectado a %1</translation>
     </message>
 </context>
 <context>
@@ -3499,6 +3532,11 @@ Prueba con un país, una ciudad o un código como «de».</translation>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>bloqueado</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · Bloqueada: requiere el plan %2</translation>
     </message>
 </context>
 <context>

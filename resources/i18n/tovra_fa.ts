@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>هیچ موردی با «%1» مطابقت ندارد.
 نام یک کشور، شهر یا کدی مانند «de» را امتحان کنید.</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>بارگذاری مکان‌ها ممکن نشد: %1
+برای تلاش دوباره، «تازه‌سازی» را بزنید.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>حذف از علاقه‌مندی‌ها</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>افزودن به علاقه‌مندی‌ها</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>برای ستاره دادن، یک مکان را در فهرست انتخاب کنید</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>حذف %1 از علاقه‌مندی‌ها</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>افزودن %1 به علاقه‌مندی‌ها</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Try a country, a city or a code such as “de”.</source>
         <source>Add to favourites</source>
         <translation>افزودن به علاقه‌مندی‌ها</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>نتایج در همهٔ زبانه‌ها: %1</translation>
@@ -1822,6 +1855,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Locations: %1</source>
         <translation>مکان‌ها: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>متصل به %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>تا رسیدن گروه‌های سرویس، بر اساس منطقه گروه‌بندی می‌شود.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>متصل به %1</translation>
     </message>
 </context>
 <context>
@@ -3498,6 +3531,11 @@ Try a country, a city or a code such as “de”.</source>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>قفل</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · قفل است: به طرح %2 نیاز دارد</translation>
     </message>
 </context>
 <context>

@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>Aucun résultat pour «&#xa0;%1&#xa0;».
 Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>Impossible de charger les emplacements : %1
+Appuyez sur « Actualiser » pour réessayer.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Retirer des favoris</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Ajouter aux favoris</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>Sélectionnez un emplacement dans la liste pour lui ajouter une étoile</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>Retirer %1 des favoris</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>Ajouter %1 aux favoris</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
         <source>Add to favourites</source>
         <translation>Ajouter aux favoris</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>Résultats dans tous les onglets&#xa0;: %1</translation>
@@ -1822,6 +1855,10 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     <message>
         <source>Locations: %1</source>
         <translation>Emplacements&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Connecté à %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Regroupement par région en attendant les groupes du service.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>Connecté à %1</translation>
     </message>
 </context>
 <context>
@@ -3499,6 +3532,11 @@ Essayez un pays, une ville ou un code comme «&#xa0;de&#xa0;».</translation>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>verrouillé</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · Verrouillé : nécessite le forfait %2</translation>
     </message>
 </context>
 <context>

@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>「%1」に一致するものはありません。
 国名、都市名、または「de」のようなコードで検索してください。</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>ロケーションを読み込めませんでした: %1
+[更新] を押してもう一度お試しください。</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>お気に入りから削除</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>お気に入りに追加</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>星を付けるには、リストでロケーションを選択してください</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>%1 をお気に入りから削除</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>%1 をお気に入りに追加</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Try a country, a city or a code such as “de”.</source>
         <source>Add to favourites</source>
         <translation>お気に入りに追加</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>すべてのタブでの一致: %1</translation>
@@ -1822,6 +1855,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Locations: %1</source>
         <translation>ロケーション: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>%1 に接続済み</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>サービスからグループ情報が届くまで、地域ごとにまとめて表示しています。</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>%1 に接続済み</translation>
     </message>
 </context>
 <context>
@@ -3498,6 +3531,11 @@ Try a country, a city or a code such as “de”.</source>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>ロック</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · ロック中: %2 プランが必要です</translation>
     </message>
 </context>
 <context>

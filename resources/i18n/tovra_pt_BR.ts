@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>Nada corresponde a “%1”.
 Tente um país, uma cidade ou um código como “de”.</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>Não foi possível carregar as localizações: %1
+Pressione Atualizar para tentar novamente.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Remover dos favoritos</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Adicionar aos favoritos</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>Selecione uma localização na lista para marcá-la com a estrela</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>Remover %1 dos favoritos</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>Adicionar %1 aos favoritos</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Tente um país, uma cidade ou um código como “de”.</translation>
         <source>Add to favourites</source>
         <translation>Adicionar aos favoritos</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>Resultados em todas as abas: %1</translation>
@@ -1822,6 +1855,10 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     <message>
         <source>Locations: %1</source>
         <translation>Localizações: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Conectado a %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Tente um país, uma cidade ou um código como “de”.</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Agrupando por região até chegarem os grupos do serviço.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>Conectado a %1</translation>
     </message>
 </context>
 <context>
@@ -3499,6 +3532,11 @@ Tente um país, uma cidade ou um código como “de”.</translation>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>travado</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · Bloqueada: requer o plano %2</translation>
     </message>
 </context>
 <context>

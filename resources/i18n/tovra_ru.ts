@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>Ничего не найдено по запросу «%1».
 Попробуйте страну, город или код, например «de».</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>Не удалось загрузить локации: %1
+Нажмите «Обновить», чтобы попробовать снова.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Убрать из избранного</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Добавить в избранное</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>Выберите локацию в списке, чтобы отметить её звёздочкой</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>Убрать %1 из избранного</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>Добавить %1 в избранное</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Try a country, a city or a code such as “de”.</source>
         <source>Add to favourites</source>
         <translation>Добавить в избранное</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>Найдено на всех вкладках: %1</translation>
@@ -1822,6 +1855,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Locations: %1</source>
         <translation>Локаций: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Подключено к «%1»</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Группировка по регионам, пока служба не передаст свои группы.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>Подключено к «%1»</translation>
     </message>
 </context>
 <context>
@@ -3500,6 +3533,11 @@ Try a country, a city or a code such as “de”.</source>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>закреплён</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · Недоступно: нужен тариф %2</translation>
     </message>
 </context>
 <context>

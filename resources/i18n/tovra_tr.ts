@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>“%1” ile eşleşen sonuç yok.
 Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>Konumlar yüklenemedi: %1
+Yeniden denemek için Yenile&apos;ye basın.</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>Favorilerden kaldır</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>Favorilere ekle</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>Yıldızlamak için listeden bir konum seçin</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>Favorilerden kaldır: %1</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>Favorilere ekle: %1</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
         <source>Add to favourites</source>
         <translation>Favorilere ekle</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>Tüm sekmelerdeki eşleşmeler: %1</translation>
@@ -1822,6 +1855,10 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     <message>
         <source>Locations: %1</source>
         <translation>Konumlar: %1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>Bağlandı: %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>Hizmetin grupları gelene kadar bölgeye göre gruplanıyor.</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>Bağlandı: %1</translation>
     </message>
 </context>
 <context>
@@ -3498,6 +3531,11 @@ Bir ülke, şehir veya “de” gibi bir kod deneyin.</translation>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>kilitli</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · Kilitli: %2 planı gerekir</translation>
     </message>
 </context>
 <context>

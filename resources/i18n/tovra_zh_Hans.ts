@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>没有与“%1”匹配的结果。
 请尝试输入国家、城市或代码，例如“de”。</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>无法加载节点：%1
+请点击“刷新”重试。</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>取消收藏</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>加入收藏</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>在列表中选中一个节点即可收藏</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>将 %1 取消收藏</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>将 %1 加入收藏</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Try a country, a city or a code such as “de”.</source>
         <source>Add to favourites</source>
         <translation>加入收藏</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>所有标签页中的匹配项：%1</translation>
@@ -1822,6 +1855,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Locations: %1</source>
         <translation>节点数：%1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>已连接到 %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>在收到服务提供的分组之前，暂按地区分组。</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>已连接到 %1</translation>
     </message>
 </context>
 <context>
@@ -3498,6 +3531,11 @@ Try a country, a city or a code such as “de”.</source>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>锁定</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · 已锁定：需要 %2 套餐</translation>
     </message>
 </context>
 <context>

@@ -1760,6 +1760,36 @@ Try a country, a city or a code such as “de”.</source>
         <translation>找不到符合「%1」的結果。
 請試試國家、城市或代碼，例如「de」。</translation>
     </message>
+    <message>
+        <source>Could not load the locations: %1
+Press Refresh to try again.</source>
+        <extracomment>%1 is the service&apos;s own error text</extracomment>
+        <translation>無法載入節點：%1
+請按「重新整理」再試一次。</translation>
+    </message>
+</context>
+<context>
+    <name>LocationsFavoriteButton</name>
+    <message>
+        <source>Remove from favourites</source>
+        <translation>從我的最愛中移除</translation>
+    </message>
+    <message>
+        <source>Add to favourites</source>
+        <translation>加入我的最愛</translation>
+    </message>
+    <message>
+        <source>Select a location in the list to star it</source>
+        <translation>在清單中選取節點即可加入我的最愛</translation>
+    </message>
+    <message>
+        <source>Remove %1 from favourites</source>
+        <translation>將 %1 從我的最愛中移除</translation>
+    </message>
+    <message>
+        <source>Add %1 to favourites</source>
+        <translation>將 %1 加入我的最愛</translation>
+    </message>
 </context>
 <context>
     <name>LocationsPage</name>
@@ -1815,6 +1845,9 @@ Try a country, a city or a code such as “de”.</source>
         <source>Add to favourites</source>
         <translation>加入我的最愛</translation>
     </message>
+</context>
+<context>
+    <name>LocationsStatusLine</name>
     <message>
         <source>Matches in every tab: %1</source>
         <translation>所有分頁中的符合項目：%1</translation>
@@ -1822,6 +1855,10 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Locations: %1</source>
         <translation>節點數：%1</translation>
+    </message>
+    <message>
+        <source>Connected to %1</source>
+        <translation>已連線至 %1</translation>
     </message>
     <message>
         <source>Measuring latency...</source>
@@ -1834,10 +1871,6 @@ Try a country, a city or a code such as “de”.</source>
     <message>
         <source>Grouping by region until the service&apos;s groups arrive.</source>
         <translation>在收到服務提供的群組之前，暫時依地區分組。</translation>
-    </message>
-    <message>
-        <source>Connected to %1</source>
-        <translation>已連線至 %1</translation>
     </message>
 </context>
 <context>
@@ -3498,6 +3531,11 @@ Try a country, a city or a code such as “de”.</source>
         <source>lock</source>
         <comment>system proxy value</comment>
         <translation>鎖定</translation>
+    </message>
+    <message>
+        <source>%1 · Locked: needs the %2 plan</source>
+        <extracomment>A node menu entry the plan does not include: the node, then the plan it needs</extracomment>
+        <translation>%1 · 已鎖定：需要 %2 方案</translation>
     </message>
 </context>
 <context>

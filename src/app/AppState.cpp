@@ -120,6 +120,12 @@ void AppState::clearUser()
     setUser(UserInfo());
 }
 
+void AppState::setNodesFetchError(const QString &error)
+{
+    if (assignIfChanged(m_nodesFetchError, error))
+        Q_EMIT nodesFetchErrorChanged(m_nodesFetchError);
+}
+
 void AppState::tickCooldown()
 {
     if (m_nodesRefreshCooldown < 1) {

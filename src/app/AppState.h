@@ -39,6 +39,9 @@ public:
     const SplitDNSInfo &splitDNS() const { return m_splitDNS; }
     const SplitRulesInfo &splitRules() const { return m_splitRules; }
     int nodesRefreshCooldown() const { return int(m_nodesRefreshCooldown); }
+    // Why the last nodes fetch failed while no catalogue had arrived; empty while a fetch runs
+    // and once one succeeded. Views say so instead of waiting for a list.
+    const QString &nodesFetchError() const { return m_nodesFetchError; }
 
 Q_SIGNALS:
     void runtimeChanged(RuntimeInfo runtime);
@@ -54,6 +57,7 @@ Q_SIGNALS:
     void splitDNSChanged(SplitDNSInfo splitDNS);
     void splitRulesChanged(SplitRulesInfo splitRules);
     void nodesRefreshCooldownChanged(int secondsRemaining);
+    void nodesFetchErrorChanged(QString error);
 
 public Q_SLOTS:
     void setRuntime(RuntimeInfo runtime);
@@ -70,6 +74,7 @@ public Q_SLOTS:
     void setSplitRules(SplitRulesInfo splitRules);
     void startNodesRefreshCooldown(int seconds = 60);
     void clearUser();
+    void setNodesFetchError(const QString &error);
 
 private:
     void tickCooldown();
@@ -87,5 +92,6 @@ private:
     SplitDNSInfo m_splitDNS;
     SplitRulesInfo m_splitRules;
     unsigned m_nodesRefreshCooldown = 0;
+    QString m_nodesFetchError;
     QTimer *m_cooldownTimer;
 };

@@ -38,6 +38,8 @@ bool CatalogFlow::nodeGroupsFetchInFlight() const
 
 bool CatalogFlow::fetchNodes(bool refresh)
 {
+    // A fetch runs again (now or after the one in flight): the views wait for it.
+    m_context.state->setNodesFetchError(QString());
     if (nodesFetchInFlight() || nodeGroupsFetchInFlight()) {
         m_deferredNodesFetch = true;
         m_deferredRefresh = m_deferredRefresh || refresh;
@@ -110,6 +112,11 @@ void CatalogFlow::handleNodes(quint64 requestId, const NodesInfo &nodes,
             m_refreshInProgress = false;
             m_context.notifier->error(failureText(
                 errorMessage, QT_TRANSLATE_NOOP("TovraAppShell", "Could not refresh locations")));
+        }
+        if (!m_context.state->nodes().valid) {
+            // Nothing to show and nothing refreshed: the user may try again at once.
+            m_context.state->setNodesFetchError(errorMessage);
+            m_context.state->startNodesRefreshCooldown(0);
         }
         startDeferredFetch();
         return;

@@ -31,11 +31,30 @@ void RecentLocationRecorder::follow()
             m_recordedId.clear();
         return;
     }
-    if (summary.locationId == m_recordedId)
+    const RecentLocation location{summary.locationId, summary.locationText, summary.flagCode};
+    if (location.id == m_recordedId) {
+        completeEntry(location);
         return;
-    m_recordedId = summary.locationId;
+    }
+    m_recordedId = location.id;
     // A connection already up at start that the user cleared away does not come back.
     if (firstStatus && m_recent->locationsCleared())
         return;
-    m_recent->addLocation({summary.locationId, summary.locationText, summary.flagCode});
+    m_recent->addLocation(location);
+}
+
+void RecentLocationRecorder::completeEntry(const RecentLocation &location)
+{
+    // Recorded from the status alone (up at start, or made by another client before the
+    // catalogue was known): once the catalogue names the node, the entry takes its country and
+    // flag, unless the user cleared it meanwhile.
+    if (location.flagCode.isEmpty())
+        return;
+    const QList<RecentLocation> recent = m_recent->recentLocations();
+    for (const RecentLocation &entry : recent) {
+        if (entry.id == location.id && entry.flagCode.isEmpty()) {
+            m_recent->addLocation(location);
+            return;
+        }
+    }
 }

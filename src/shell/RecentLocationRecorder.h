@@ -1,5 +1,7 @@
 #pragma once
 
+#include "RecentLocation.h"
+
 #include <QObject>
 #include <QString>
 
@@ -18,6 +20,7 @@ public:
 
 private:
     void follow();
+    void completeEntry(const RecentLocation &location);
 
     AppState *m_state;
     RecentActivityStore *m_recent;

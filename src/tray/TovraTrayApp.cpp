@@ -106,7 +106,9 @@ void TovraTrayApp::connectMenu()
     for (QAction *entry : std::as_const(m_menu.nodeEntries)) {
         connect(entry, &QAction::triggered, this, [this, entry] {
             const QString nodeId = entry->data().toString();
-            if (isBusy() || nodeId.isEmpty())
+            // A locked node is never asked for, however the entry was reached.
+            if (isBusy() || nodeId.isEmpty() ||
+                entry->property(TrayNodeLoader::kLockedProperty).toBool())
                 return;
             Q_EMIT connectNodeRequested(nodeId, connectTargetLabel(nodeId));
         });

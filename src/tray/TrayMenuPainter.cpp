@@ -130,7 +130,7 @@ void TrayMenuPainter::updateEnabledStates(const Situation &situation)
         m_menu.nodeMenu->menuAction()->setEnabled(usable);
     } else {
         for (QAction *entry : std::as_const(m_menu.nodeEntries))
-            entry->setEnabled(usable);
+            entry->setEnabled(usable && !entry->property(TrayNodeLoader::kLockedProperty).toBool());
     }
     m_modeActions->setEnabled(usable);
 

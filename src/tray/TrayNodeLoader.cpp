@@ -7,6 +7,7 @@
 #include "AppState.h"
 #include "ControlWorker.h"
 #include "GuiPreferences.h"
+#include "LocationResolver.h"
 #include "TrayNodeMenuModel.h"
 #include "TrayNotifier.h"
 #include "TrayRequestIds.h"
@@ -125,6 +126,8 @@ void TrayNodeLoader::updateEntries()
         for (const RecentLocation &location : recent)
             recentIds.append(location.id);
     }
+    // The plan first, so that the catalogue is laid out once for it.
+    m_model->setAvailableTiers(LocationResolver::tiersFor(m_state->user()));
     m_model->setCatalog(nodes, m_state->nodeGroups(), recentIds);
     m_model->setConnection(TrayStatusFormatter::isConnected(runtime), runtime.connectedSince,
                            QDateTime::currentDateTimeUtc());
@@ -166,6 +169,9 @@ void TrayNodeLoader::fillActions()
             const QModelIndex index = m_model->index(i);
             entry->setText(index.data(Qt::DisplayRole).toString());
             entry->setData(index.data(TrayNodeMenuModel::NodeIdRole));
+            const bool locked = index.data(TrayNodeMenuModel::LockedRole).toBool();
+            entry->setProperty(kLockedProperty, locked);
+            entry->setEnabled(!locked);
             entry->setVisible(true);
         } else {
             entry->setVisible(false);
@@ -184,6 +190,7 @@ int TrayNodeLoader::releaseActions()
         entry->setVisible(false);
         entry->setText(QString());
         entry->setData(QVariant());
+        entry->setProperty(kLockedProperty, false);
     }
     m_menu.nodeFootSeparator->setVisible(false);
     return visible;

@@ -23,6 +23,8 @@ class TrayNodeLoader : public QObject
 
 public:
     static constexpr int kCooldownSeconds = 60;
+    // Set on a node entry the plan does not include: it stays disabled and never connects.
+    static constexpr char kLockedProperty[] = "tovraLocked";
 
     TrayNodeLoader(AppState *state, ControlWorker *worker, GuiPreferences *preferences,
                    TrayRequestIds *ids, const TrayMenu &menu, TrayNodeMenuModel *model,

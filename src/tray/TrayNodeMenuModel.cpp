@@ -1,6 +1,7 @@
 #include "TrayNodeMenuModel.h"
 
 #include "BidiText.h"
+#include "CatalogTreeBuilder.h"
 #include "Countries.h"
 #include "TrayMenuText.h"
 
@@ -67,6 +68,10 @@ QVariant TrayNodeMenuModel::data(const QModelIndex &index, int role) const
     const Entry &entry = m_entries.at(index.row());
     switch (role) {
     case Qt::DisplayRole: {
+        if (!entry.lockedTier.isEmpty())
+            //: A node menu entry the plan does not include: the node, then the plan it needs
+            return TrayMenuText::tr("%1 · Locked: needs the %2 plan")
+                .arg(isolated(entry.label), entry.lockedTier);
         const QString duration = entry.connected ? durationText() : QString();
         if (duration.isEmpty())
             return entry.label;
@@ -78,9 +83,19 @@ QVariant TrayNodeMenuModel::data(const QModelIndex &index, int role) const
         return entry.label;
     case ConnectedRole:
         return entry.connected;
+    case LockedRole:
+        return !entry.lockedTier.isEmpty();
     default:
         return {};
     }
+}
+
+Qt::ItemFlags TrayNodeMenuModel::flags(const QModelIndex &index) const
+{
+    Qt::ItemFlags flags = QAbstractListModel::flags(index);
+    if (index.isValid() && !m_entries.at(index.row()).lockedTier.isEmpty())
+        flags &= ~Qt::ItemIsEnabled;
+    return flags;
 }
 
 void TrayNodeMenuModel::setCatalog(const NodesInfo &nodes, const NodeGroupsInfo &groups,
@@ -101,16 +116,33 @@ void TrayNodeMenuModel::setConnection(bool connected, const QString &connectedSi
     rebuild();
 }
 
+void TrayNodeMenuModel::setAvailableTiers(const QStringList &tiers)
+{
+    if (tiers == m_tiers)
+        return;
+    m_tiers = tiers;
+    rebuild();
+}
+
 void TrayNodeMenuModel::rebuild()
 {
     QList<Entry> entries;
     QSet<QString> taken;
-    const auto take = [&](const NodeEntry &node, bool connected) {
+    const auto lockedTier = [this](const NodeEntry &node) {
+        const QString tier = CatalogTreeBuilder::tierOf(node);
+        return CatalogTreeBuilder::isLocked(tier, m_tiers) ? tier : QString();
+    };
+    // usableOnly: a place the user did not pick (ping, catalogue order) goes to a node the plan
+    // includes first.
+    const auto take = [&](const NodeEntry &node, bool connected, bool usableOnly = false) {
         if (entries.size() >= kEntryCount || !node.valid || node.id.isEmpty() ||
             taken.contains(node.id))
             return;
+        const QString locked = lockedTier(node);
+        if (usableOnly && !locked.isEmpty())
+            return;
         taken.insert(node.id);
-        entries.append(Entry{node.id, nodeLabel(node, m_groups), connected});
+        entries.append(Entry{node.id, nodeLabel(node, m_groups), connected, locked});
     };
     const auto byId = [&](const QString &id) -> const NodeEntry * {
         for (const NodeEntry &node : m_nodes.nodes) {
@@ -141,7 +173,9 @@ void TrayNodeMenuModel::rebuild()
     std::stable_sort(measured.begin(), measured.end(),
                      [](const NodeEntry *a, const NodeEntry *b) { return a->pingMs < b->pingMs; });
     for (const NodeEntry *node : measured)
-        take(*node, false);
+        take(*node, false, true);
+    for (const NodeEntry &node : m_nodes.nodes)
+        take(node, false, true);
     for (const NodeEntry &node : m_nodes.nodes)
         take(node, false);
 

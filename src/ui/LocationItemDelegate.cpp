@@ -368,18 +368,18 @@ void LocationItemDelegate::paintBars(QPainter *painter, const QRect &rect, int b
 void LocationItemDelegate::paintStar(QPainter *painter, const QRect &rect, bool favorite,
                                      bool hovered, const QPalette &palette) const
 {
-    const QPainterPath path = starPath(QRectF(rect).adjusted(1, 1, -1, -1));
-    if (favorite) {
-        const QColor gold = pick(m_warning, palette.color(QPalette::Highlight));
-        painter->setPen(QPen(gold, 1.2, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->setBrush(gold);
-    } else {
-        const QColor outline = hovered ? palette.color(QPalette::Text)
-                                       : pick(m_muted, palette.color(QPalette::PlaceholderText));
-        painter->setPen(QPen(outline, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-        painter->setBrush(Qt::NoBrush);
-    }
-    painter->drawPath(path);
+    const QColor outline = hovered ? palette.color(QPalette::Text)
+                                   : pick(m_muted, palette.color(QPalette::PlaceholderText));
+    drawStar(painter, rect, favorite,
+             favorite ? pick(m_warning, palette.color(QPalette::Highlight)) : outline);
+}
+
+void LocationItemDelegate::drawStar(QPainter *painter, const QRectF &box, bool favorite,
+                                    const QColor &color)
+{
+    painter->setPen(QPen(color, favorite ? 1.2 : 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+    painter->setBrush(favorite ? QBrush(color) : QBrush(Qt::NoBrush));
+    painter->drawPath(starPath(box.adjusted(1, 1, -1, -1)));
 }
 
 bool LocationItemDelegate::editorEvent(QEvent *event, QAbstractItemModel *model,

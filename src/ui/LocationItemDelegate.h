@@ -41,6 +41,8 @@ public:
     // Bars shown for a row: the signal level when known, else graded from the ping; 0 unknown.
     static int barsFor(int signalLevel, int pingMs);
     static QString pingText(int pingMs);
+    // The favourite star in box: filled while favourite, else its outline.
+    static void drawStar(QPainter *painter, const QRectF &box, bool favorite, const QColor &color);
 
     void paint(QPainter *painter, const QStyleOptionViewItem &option,
                const QModelIndex &index) const override;

@@ -153,8 +153,9 @@ int NotificationHost::fitWidth(int maximumWidth)
 
 int NotificationHost::fittedHeight(int width) const
 {
-    return layout() && layout()->hasHeightForWidth() ? layout()->heightForWidth(width)
-                                                     : sizeHint().height();
+    // The widget's own height for width counts the frame's border around the layout too; the
+    // layout's alone would cut the last wrapped line's descenders.
+    return hasHeightForWidth() ? heightForWidth(width) : sizeHint().height();
 }
 
 void NotificationHost::placeIn(const QRect &area)

@@ -12,6 +12,7 @@
 #include "NavigationSidebar.h"
 #include "NotificationHost.h"
 #include "PageStack.h"
+#include "PixelRatioWatch.h"
 #include "ThemeEngine.h"
 #include "UnifiedTitleBar.h"
 #include "VpnPage.h"
@@ -97,6 +98,9 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     });
 
     applyPageColors(colors);
+    // Icons are rendered for one pixel ratio: again on a screen of another.
+    connect(new PixelRatioWatch(this), &PixelRatioWatch::changed, this,
+            [this] { applyPageColors(ThemeEngine::buildColors(effectiveAppearance())); });
     showPage(VpnPageIndex);
     refreshFromState();
 }

@@ -126,6 +126,7 @@ void WindowPages::connectState()
     follow(&AppState::runtimeChanged, R::Runtime);
     follow(&AppState::userChanged, R::User);
     follow(&AppState::nodesChanged, R::Nodes);
+    follow(&AppState::nodesFetchErrorChanged, R::Nodes);
     follow(&AppState::nodeGroupsChanged, R::NodeGroups);
     follow(&AppState::nodesRefreshCooldownChanged, R::RefreshCooldown);
     follow(&AppState::killSwitchChanged, R::KillSwitch);

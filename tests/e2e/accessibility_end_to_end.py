@@ -263,6 +263,18 @@ pump(lambda: any("demo failure injected" in name for _, _, name in events), 8,
 if checked(pyatspi.ROLE_RADIO_BUTTON, "On") or not checked(pyatspi.ROLE_RADIO_BUTTON, "Off"):
     fail("the refused System proxy change reads as made")
 
+# The current location's star: a search makes its first match current, the star's press asks,
+# and the star reads as the daemon answered.
+open_page("Locations")
+find(window(), pyatspi.ROLE_TEXT, "Search locations").queryComponent().grabFocus()
+subprocess.run(["xdotool", "type", "tokyo 02"], check=True)
+star = lambda name: find(window(), pyatspi.ROLE_PUSH_BUTTON, name)
+pump(lambda: star("Add to favourites") is not None
+     and pyatspi.STATE_SENSITIVE in states(star("Add to favourites")), 5, "the star of Tokyo 02")
+act(star("Add to favourites"), "Press")
+expect_request("POST /v1/nodes/favorite -> 200", "the location's star")
+pump(lambda: star("Remove from favourites") is not None, 8, "the star to read as a favourite")
+
 open_page("Settings")
 act(find(window(), pyatspi.ROLE_CHECK_BOX, "Kill Switch"), "Toggle")
 expect_request("POST /v1/kill-switch -> 200", "the Kill Switch switch")

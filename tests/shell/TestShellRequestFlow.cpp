@@ -27,6 +27,7 @@ private Q_SLOTS:
     void languageSyncSendsDesktopLanguage();
     void languageRestartAskedOnce();
     void forcedRefreshStopsNodePingPoll();
+    void failedFirstFetchIsKeptUntilRetry();
 
 private:
     TempXdgDirs *m_dirs = nullptr;
@@ -174,6 +175,17 @@ void TestShellRequestFlow::forcedRefreshStopsNodePingPoll()
     QTRY_VERIFY(!m_peer->requests().isEmpty() &&
                 m_peer->requests().constFirst().startsWith("POST /v1/nodes/refresh HTTP/1.1\r\n"));
     QCOMPARE(m_shell->state()->nodesRefreshCooldown(), 60);
+}
+
+void TestShellRequestFlow::failedFirstFetchIsKeptUntilRetry()
+{
+    m_peer->setReply(ScriptedPeer::response(500, R"({"error":"catalogue unavailable"})"));
+    AppState *state = m_shell->state();
+    m_shell->refreshLocations();
+    QTRY_COMPARE(state->nodesFetchError(), QStringLiteral("catalogue unavailable"));
+    QCOMPARE(state->nodesRefreshCooldown(), 0); // Refresh may try again at once
+    m_shell->catalogFlow()->fetchNodes(false);
+    QCOMPARE(state->nodesFetchError(), QString());
 }
 
 QTEST_MAIN(TestShellRequestFlow)

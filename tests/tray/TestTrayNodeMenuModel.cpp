@@ -147,7 +147,8 @@ void TestTrayNodeMenuModel::fiveEntries_data()
     QTest::addColumn<NodesInfo>("nodes");
     QTest::addColumn<QStringList>("recent");
     QTest::addColumn<bool>("connected");
-    QTest::addColumn<QString>("expectedIds");
+    QTest::addColumn<QStringList>("tiers");   // the plan's; empty: every tier
+    QTest::addColumn<QString>("expectedIds"); // "!": locked
 
     NodesInfo catalogue;
     catalogue.valid = true;
@@ -155,22 +156,31 @@ void TestTrayNodeMenuModel::fiveEntries_data()
                        node("d", "D", "", 30), node("e", "E"),         node("f", "F", "", 20),
                        node("g", "G")};
     QTest::addRow("favourites then lowest ping")
-        << catalogue << QStringList() << false << "c b f d a";
+        << catalogue << QStringList() << false << QStringList() << "c b f d a";
 
     NodesInfo withConnected = catalogue;
     withConnected.connected = node("g", "G");
     withConnected.selected = node("e", "E");
     QTest::addRow("connected first, then recent")
         << withConnected << QStringList{QStringLiteral("e"), QStringLiteral("zz")} << true
-        << "g c e b f";
+        << QStringList() << "g c e b f";
     QTest::addRow("not connected: selected first")
-        << withConnected << QStringList() << false << "e c b f d";
+        << withConnected << QStringList() << false << QStringList() << "e c b f d";
+
+    // A Free plan: the starred premium node shows locked, the premium one with the lowest ping
+    // gives its place to a node the plan includes.
+    NodesInfo tiered = catalogue;
+    tiered.nodes[1].tags.append(QStringLiteral("SVIP"));
+    tiered.nodes[2].tags.append(QStringLiteral("SVIP"));
+    QTest::addRow("free plan: premium locked, last")
+        << tiered << QStringList() << false << QStringList{QStringLiteral("FREE")} << "c! f d a e";
 
     NodesInfo small;
     small.valid = true;
     small.nodes = {node("x", "X"), node("y", "Y"), node("x", "X again")};
-    QTest::addRow("fewer than five, no repeats") << small << QStringList() << false << "x y";
-    QTest::addRow("no catalogue") << NodesInfo() << QStringList() << false << "";
+    QTest::addRow("fewer than five, no repeats")
+        << small << QStringList() << false << QStringList() << "x y";
+    QTest::addRow("no catalogue") << NodesInfo() << QStringList() << false << QStringList() << "";
 }
 
 void TestTrayNodeMenuModel::fiveEntries()
@@ -178,6 +188,7 @@ void TestTrayNodeMenuModel::fiveEntries()
     QFETCH(NodesInfo, nodes);
     QFETCH(QStringList, recent);
     QFETCH(bool, connected);
+    QFETCH(QStringList, tiers);
     QFETCH(QString, expectedIds);
 
     TrayNodeMenuModel model;
@@ -185,11 +196,16 @@ void TestTrayNodeMenuModel::fiveEntries()
     QSignalSpy resets(&model, &QAbstractItemModel::modelReset);
     model.setConnection(connected, QString(), QDateTime::currentDateTimeUtc());
     model.setCatalog(nodes, NodeGroupsInfo(), recent);
-    QCOMPARE(resets.count(), 2);
+    // The plan after the nodes, as when a Free account signs in with the menu loaded.
+    model.setAvailableTiers(tiers);
+    QCOMPARE(resets.count(), tiers.isEmpty() ? 2 : 3);
     QStringList ids;
     for (int row = 0; row < model.rowCount(); ++row) {
         const QModelIndex index = model.index(row);
-        ids.append(index.data(TrayNodeMenuModel::NodeIdRole).toString());
+        const bool locked = !index.flags().testFlag(Qt::ItemIsEnabled);
+        QCOMPARE(index.data().toString().endsWith(u" · Locked: needs the SVIP plan"), locked);
+        ids.append(index.data(TrayNodeMenuModel::NodeIdRole).toString() +
+                   (locked ? QStringLiteral("!") : QString()));
         QCOMPARE(index.data(TrayNodeMenuModel::ConnectedRole).toBool(),
                  connected && row == 0 && nodes.connected.valid);
     }

@@ -157,6 +157,8 @@ void TestNotificationHost::placement()
     if (capped) {
         QCOMPARE(placed.width(), limit);
         QVERIFY(message->wordWrap());
+        // Every wrapped line fits, descenders included.
+        QTRY_VERIFY(message->height() >= message->heightForWidth(message->width()));
         QVERIFY(placed.height() > w.host->fontMetrics().height() * 2);
     } else {
         QVERIFY(placed.width() < limit);

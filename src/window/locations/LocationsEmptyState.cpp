@@ -13,7 +13,7 @@ LocationsEmptyState::LocationsEmptyState(QWidget *parent)
     setFocusPolicy(Qt::NoFocus);
 }
 
-void LocationsEmptyState::setReason(Reason reason, const QString &search)
+void LocationsEmptyState::setReason(Reason reason, const QString &detail)
 {
     m_reason = reason;
     QString text;
@@ -26,6 +26,11 @@ void LocationsEmptyState::setReason(Reason reason, const QString &search)
         break;
     case Reason::Loading:
         text = tr("Loading locations...");
+        break;
+    case Reason::LoadFailed:
+        //: %1 is the service's own error text
+        text = tr("Could not load the locations: %1\nPress Refresh to try again.")
+                   .arg(isolated(detail.trimmed()));
         break;
     case Reason::EmptyCatalogue:
         text = tr("The service has no locations to offer right now.\nTry Refresh in a moment.");
@@ -40,7 +45,7 @@ void LocationsEmptyState::setReason(Reason reason, const QString &search)
     case Reason::NoMatch:
         text = tr("Nothing matches “%1”.\nTry a country, a city or a code such as "
                   "“de”.")
-                   .arg(isolated(search.trimmed()));
+                   .arg(isolated(detail.trimmed()));
         break;
     }
     setText(text);

@@ -12,6 +12,7 @@ public:
         None,
         ServiceUnavailable, // no status from the daemon
         Loading,            // the daemon is there, the catalogue not yet
+        LoadFailed,         // the daemon could not send the catalogue
         EmptyCatalogue,     // the daemon sent a catalogue without locations
         NoFavorites,
         EmptyTab,
@@ -20,7 +21,8 @@ public:
 
     explicit LocationsEmptyState(QWidget *parent = nullptr);
 
-    void setReason(Reason reason, const QString &search = {});
+    // detail: the search that found nothing, or why the catalogue could not be loaded.
+    void setReason(Reason reason, const QString &detail = {});
     Reason reason() const { return m_reason; }
 
 private:

@@ -3,85 +3,31 @@
 #include "AccessibleControl.h"
 #include "BidiText.h"
 #include "FieldClearButton.h"
-#include "GuiTextLog.h"
 #include "LocationsEmptyState.h"
+#include "LocationsFavoriteButton.h"
+#include "LocationsSearch.h"
+#include "LocationsStatusLine.h"
 #include "LocationsToolbar.h"
 #include "LocationsTreeView.h"
+#include "WindowShortcuts.h"
 
 #include "AppState.h"
 #include "CatalogFilterModel.h"
 #include "CatalogTreeModel.h"
-#include "Countries.h"
 #include "GuiPreferences.h"
 #include "IconTinter.h"
 #include "LocationItemDelegate.h"
+#include "LocationResolver.h"
 #include "LocationRoles.h"
 #include "ThemedScrollBar.h"
 
 #include <QAction>
 #include <QBoxLayout>
-#include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPainter>
 #include <QRegularExpression>
 #include <QStackedWidget>
-#include <QTimer>
-
-namespace {
-
-// Calls visit(index) for every row of the model, parents before children, until it returns
-// false; returns false when it was stopped.
-template<typename Visit>
-bool forEachRow(const QAbstractItemModel *model, const QModelIndex &parent, Visit &&visit)
-{
-    for (int row = 0; row < model->rowCount(parent); ++row) {
-        const QModelIndex index = model->index(row, 0, parent);
-        if (!visit(index))
-            return false;
-        // Asked first, so that a proxy sets up no row table for each childless node.
-        if (model->hasChildren(index) && !forEachRow(model, index, visit))
-            return false;
-    }
-    return true;
-}
-
-// Down moves from the search field into the tree; Escape empties the field.
-class SearchKeys : public QObject
-{
-public:
-    SearchKeys(QLineEdit *field, std::function<void()> down)
-        : QObject(field)
-        , m_field(field)
-        , m_down(std::move(down))
-    {
-        field->installEventFilter(this);
-    }
-
-protected:
-    bool eventFilter(QObject *watched, QEvent *event) override
-    {
-        if (watched == m_field && event->type() == QEvent::KeyPress) {
-            const int key = static_cast<QKeyEvent *>(event)->key();
-            if (key == Qt::Key_Down) {
-                m_down();
-                return true;
-            }
-            if (key == Qt::Key_Escape && !m_field->text().isEmpty()) {
-                m_field->clear();
-                return true;
-            }
-        }
-        return QObject::eventFilter(watched, event);
-    }
-
-private:
-    QLineEdit *m_field;
-    std::function<void()> m_down;
-};
-
-} // namespace
 
 LocationsPage::LocationsPage(QWidget *parent)
     : WindowPage(QStringLiteral("TovraLocationsPage"), tr("All locations"),
@@ -100,8 +46,9 @@ LocationsPage::LocationsPage(QWidget *parent)
         box->setStretch(box->count() - 1, 0);
         box->setStretchFactor(content, 1);
     }
+    connectParts();
     updateEmptyState();
-    updateStatusLine();
+    m_status->refresh();
 }
 
 QWidget *LocationsPage::buildContent()
@@ -118,6 +65,8 @@ QWidget *LocationsPage::buildContent()
     m_search->setObjectName(QStringLiteral("TovraLocationsSearch"));
     m_search->setPlaceholderText(tr("Search countries, cities, locations or P2P"));
     m_search->setAccessibleName(tr("Search locations"));
+    m_search->setToolTip(
+        WindowShortcuts::toolTip(m_search->accessibleName(), WindowShortcuts::Id::Find));
     FieldClearButton::enable(m_search, FieldClearButton::Kind::Search);
     m_searchIcon = m_search->addAction(QIcon(), QLineEdit::LeadingPosition);
     // The magnifier only decorates: a picture to assistive technology, not a button.
@@ -140,16 +89,14 @@ QWidget *LocationsPage::buildContent()
     m_stack->addWidget(m_empty);
     column->addWidget(m_stack, 1);
 
-    m_statusTimer = new QTimer(this);
-    m_statusTimer->setSingleShot(true);
-    m_statusTimer->setInterval(150);
-    connect(m_statusTimer, &QTimer::timeout, this, &LocationsPage::updateStatusLine);
-    m_status = new QLabel(content);
-    m_status->setObjectName(QStringLiteral("TovraLocationsStatus"));
-    m_status->setProperty("tovraRole", QStringLiteral("muted"));
-    m_status->setWordWrap(true);
+    m_status = new LocationsStatusLine(m_model, m_filter, content);
     column->addWidget(m_status);
+    m_searchDriver = new LocationsSearch(m_search, m_tree, m_filter, m_model, m_toolbar, this);
+    return content;
+}
 
+void LocationsPage::connectParts()
+{
     connect(m_toolbar, &LocationsToolbar::tabChanged, this, &LocationsPage::tabChanged);
     connect(m_toolbar, &LocationsToolbar::sortChanged, this, [this](CatalogSort sort) {
         m_model->setSortOrder(sort);
@@ -159,45 +106,35 @@ QWidget *LocationsPage::buildContent()
     });
     connect(m_toolbar, &LocationsToolbar::refreshRequested, this,
             &LocationsPage::refreshLocationsRequested);
-    connect(m_search, &QLineEdit::textChanged, this, &LocationsPage::searchChanged);
-    connect(m_search, &QLineEdit::returnPressed, this, &LocationsPage::activateFromSearch);
-    new SearchKeys(m_search, [this] {
-        if (m_stack->currentWidget() != m_tree)
-            return;
-        if (!m_tree->currentIndex().isValid())
-            m_tree->setCurrentIndex(m_filter->index(0, 0));
-        m_tree->setFocus(Qt::TabFocusReason);
+    connect(m_searchDriver, &LocationsSearch::filterChanged, this, [this] {
+        updateEmptyState();
+        m_status->refreshSoon();
     });
+    connect(m_search, &QLineEdit::returnPressed, this, &LocationsPage::activateFromSearch);
     connect(m_tree, &LocationsTreeView::rowActivated, this, &LocationsPage::openOrActivate);
     connect(m_tree, &LocationsTreeView::favoriteToggled, this, &LocationsPage::toggleFavorite);
     connect(m_tree, &LocationsTreeView::menuRequested, this, &LocationsPage::showRowMenu);
-    connect(m_tree, &LocationsTreeView::textTyped, this, &LocationsPage::typeIntoSearch);
-    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this, [this] {
-        if (!m_hint.isEmpty()) {
-            m_hint.clear();
-            updateStatusLine();
-        }
-    });
+    connect(m_tree, &LocationsTreeView::textTyped, m_searchDriver, &LocationsSearch::type);
+    LocationsFavoriteButton *star = m_toolbar->favoriteButton();
+    connect(m_tree->selectionModel(), &QItemSelectionModel::currentChanged, this,
+            [this, star](const QModelIndex &current) {
+                m_status->clearHint();
+                star->setRow(current);
+            });
+    connect(star, &LocationsFavoriteButton::favoriteRequested, this,
+            &LocationsPage::setNodeFavoriteRequested);
     connect(m_delegate, &LocationItemDelegate::favoriteToggleRequested, this,
             &LocationsPage::setNodeFavoriteRequested);
-    for (const auto signal :
-         {&QAbstractItemModel::rowsInserted, &QAbstractItemModel::rowsRemoved}) {
-        connect(m_filter, signal, this, [this] { updateEmptyState(); });
-    }
-    connect(m_filter, &QAbstractItemModel::modelReset, this, [this] { updateEmptyState(); });
-    connect(m_filter, &QAbstractItemModel::layoutChanged, this, [this] { updateEmptyState(); });
-    // Rows that arrive during a search open like the rest of the results, once per batch.
-    connect(m_filter, &QAbstractItemModel::rowsInserted, this, [this] {
-        if (!m_filter->isSearching() || m_expandPending)
-            return;
-        m_expandPending = true;
-        QTimer::singleShot(0, this, [this] {
-            m_expandPending = false;
-            if (m_filter->isSearching())
-                expandResults();
-        });
-    });
-    return content;
+    // The empty state and the star read the rows again whenever they may have changed.
+    connect(m_filter, &QAbstractItemModel::dataChanged, star, &LocationsFavoriteButton::refresh);
+    const auto rowsChanged = [this, star] {
+        updateEmptyState();
+        star->refresh();
+    };
+    connect(m_filter, &QAbstractItemModel::rowsInserted, this, rowsChanged);
+    connect(m_filter, &QAbstractItemModel::rowsRemoved, this, rowsChanged);
+    connect(m_filter, &QAbstractItemModel::modelReset, this, rowsChanged);
+    connect(m_filter, &QAbstractItemModel::layoutChanged, this, rowsChanged);
 }
 
 void LocationsPage::setPreferences(GuiPreferences *preferences)
@@ -213,19 +150,6 @@ void LocationsPage::focusSearch()
 {
     m_search->setFocus(Qt::ShortcutFocusReason);
     m_search->selectAll();
-}
-
-QStringList LocationsPage::tiersFor(const UserInfo &user)
-{
-    const QString role = user.role.trimmed().toUpper();
-    if (!user.valid || role.isEmpty())
-        return {}; // no account known: nothing reads as locked
-    if (role == QLatin1String("SVIP"))
-        return {QStringLiteral("FREE"), QStringLiteral("SVIP")};
-    QStringList tiers{QStringLiteral("FREE")};
-    if (role != tiers.first())
-        tiers.append(role);
-    return tiers;
 }
 
 WindowPage::Records LocationsPage::reads() const
@@ -260,16 +184,16 @@ void LocationsPage::refresh(const AppState &state)
 {
     m_serviceKnown = state.runtime().valid;
     m_catalogueKnown = state.nodes().valid;
-    m_groupsKnown = state.nodeGroups().valid;
-    m_connectedNode = connectedNode(state);
+    m_fetchError = state.nodesFetchError();
+    const NodeEntry connected = connectedNode(state);
     NodesInfo nodes = state.nodes();
-    nodes.connected = m_connectedNode;
-    m_model->setAvailableTiers(tiersFor(state.user()));
+    nodes.connected = connected;
+    m_model->setAvailableTiers(LocationResolver::tiersFor(state.user()));
     m_model->setCatalog(state.nodeGroups(), nodes);
     m_cooldown = state.nodesRefreshCooldown();
     m_toolbar->setCooldown(m_cooldown);
     updateEmptyState();
-    updateStatusLine();
+    m_status->setCatalogue(m_catalogueKnown, state.nodeGroups().valid, connected);
 }
 
 void LocationsPage::applyTheme(const ThemeColors &colors)
@@ -309,81 +233,14 @@ void LocationsPage::tabChanged(const QString &tab)
     if (!m_filter->isSearching())
         m_model->setTab(tab);
     updateEmptyState();
-    updateStatusLine();
-}
-
-void LocationsPage::searchChanged(const QString &text)
-{
-    const QStringList before = m_filter->tokens();
-    const bool wasSearching = !before.isEmpty();
-    const bool searching = !CatalogFilterModel::tokenize(text).isEmpty();
-    if (searching && !wasSearching)
-        m_expandedBeforeSearch = expandedSelectors();
-    m_filter->setFilterText(text);
-    if (searching != wasSearching) {
-        m_model->setTab(searching ? QString() : m_toolbar->tab());
-        m_toolbar->setSearchGlobal(searching);
-    }
-    if (!searching && wasSearching) {
-        restoreExpansion(m_expandedBeforeSearch);
-        m_expandedBeforeSearch.clear();
-        m_tree->scrollTo(m_tree->currentIndex());
-    } else if (searching && m_filter->tokens() != before) {
-        expandResults();
-        selectFirstMatch();
-    }
-    updateEmptyState();
-    // Counting the matches walks every row: once typing pauses, not on each key.
-    m_statusTimer->start();
-}
-
-void LocationsPage::expandResults()
-{
-    // Level by level while the opened rows still fit a few screens: a narrow search opens down
-    // to its nodes, a one-letter one opens its groups without laying out the whole catalogue.
-    constexpr int kMaxOpenRows = 400;
-    QModelIndexList groups;
-    int open = m_filter->rowCount();
-    QModelIndexList level;
-    for (int row = 0; row < m_filter->rowCount(); ++row)
-        level.append(m_filter->index(row, 0));
-    while (!level.isEmpty() && open < kMaxOpenRows) {
-        QModelIndexList next;
-        for (const QModelIndex &group : std::as_const(level)) {
-            const int rows = m_filter->rowCount(group);
-            if (rows == 0 || open + rows > kMaxOpenRows)
-                continue;
-            groups.append(group);
-            open += rows;
-            for (int row = 0; row < rows; ++row)
-                next.append(m_filter->index(row, 0, group));
-        }
-        level = next;
-    }
-    m_tree->expandOnly(groups);
-}
-
-void LocationsPage::selectFirstMatch()
-{
-    QModelIndex first;
-    forEachRow(m_filter, {}, [&first](const QModelIndex &index) {
-        if (index.data(LocationIsGroupRole).toBool())
-            return true;
-        first = index;
-        return false;
-    });
-    if (first.isValid())
-        m_tree->setCurrentIndex(first);
+    m_status->refresh();
 }
 
 void LocationsPage::activateFromSearch()
 {
-    QModelIndex target = m_tree->currentIndex();
-    if (!target.isValid() && m_filter->isSearching()) {
-        selectFirstMatch();
-        target = m_tree->currentIndex();
-    }
-    openOrActivate(target);
+    if (!m_tree->currentIndex().isValid() && m_filter->isSearching())
+        m_searchDriver->selectFirstMatch();
+    openOrActivate(m_tree->currentIndex());
 }
 
 void LocationsPage::openOrActivate(const QModelIndex &index)
@@ -404,7 +261,7 @@ void LocationsPage::activate(const QModelIndex &index)
     const QString label = index.data(Qt::DisplayRole).toString();
     const bool group = index.data(LocationIsGroupRole).toBool();
     if (index.data(LocationLockedRole).toBool()) {
-        showHint(
+        m_status->showHint(
             group ? tr("None of the locations in %1 is included in your plan.").arg(isolated(label))
                   : tr("%1 is not included in your plan. Upgrade to use it.").arg(isolated(label)));
         return;
@@ -453,44 +310,15 @@ void LocationsPage::showRowMenu(const QModelIndex &index, const QPoint &globalPo
     menu.exec(globalPos);
 }
 
-void LocationsPage::typeIntoSearch(const QString &text)
-{
-    m_search->setFocus(Qt::OtherFocusReason);
-    m_search->insert(text);
-}
-
-QSet<QString> LocationsPage::expandedSelectors() const
-{
-    QSet<QString> selectors;
-    forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-        if (m_tree->isExpanded(index))
-            selectors.insert(index.data(LocationSelectorRole).toString());
-        return true;
-    });
-    return selectors;
-}
-
-void LocationsPage::restoreExpansion(const QSet<QString> &selectors)
-{
-    QModelIndexList groups;
-    if (!selectors.isEmpty()) {
-        forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-            if (index.data(LocationIsGroupRole).toBool() &&
-                selectors.contains(index.data(LocationSelectorRole).toString()))
-                groups.append(index);
-            return true;
-        });
-    }
-    m_tree->expandOnly(groups);
-}
-
 void LocationsPage::updateEmptyState()
 {
     using Reason = LocationsEmptyState::Reason;
     Reason reason = Reason::None;
     if (m_filter->rowCount() == 0) {
-        if (!m_catalogueKnown)
-            reason = m_serviceKnown ? Reason::Loading : Reason::ServiceUnavailable;
+        if (!m_catalogueKnown && !m_serviceKnown)
+            reason = Reason::ServiceUnavailable;
+        else if (!m_catalogueKnown)
+            reason = m_fetchError.isEmpty() ? Reason::Loading : Reason::LoadFailed;
         else if (m_model->nodes().nodes.isEmpty())
             reason = Reason::EmptyCatalogue;
         else if (m_filter->isSearching())
@@ -500,7 +328,7 @@ void LocationsPage::updateEmptyState()
         else
             reason = Reason::EmptyTab;
     }
-    m_empty->setReason(reason, m_search->text());
+    m_empty->setReason(reason, reason == Reason::LoadFailed ? m_fetchError : m_search->text());
     QWidget *shown = reason == Reason::None ? static_cast<QWidget *>(m_tree) : m_empty;
     if (m_stack->currentWidget() != shown) {
         const bool hadFocus = m_tree->hasFocus();
@@ -508,57 +336,4 @@ void LocationsPage::updateEmptyState()
         if (hadFocus)
             m_search->setFocus(Qt::OtherFocusReason);
     }
-}
-
-QString LocationsPage::connectedPath() const
-{
-    if (!m_connectedNode.valid || m_connectedNode.id.isEmpty())
-        return {};
-    // Outermost first, as the tree shows it; a node the tab hides still names its country.
-    QStringList path;
-    for (QModelIndex index = m_model->indexForNode(m_connectedNode.id); index.isValid();
-         index = index.parent())
-        path.prepend(isolated(index.data().toString()));
-    if (path.isEmpty()) {
-        if (!m_connectedNode.region.trimmed().isEmpty())
-            path << isolated(countryName(m_connectedNode.region));
-        path << isolated(CatalogTreeBuilder::nodeLabel(m_connectedNode));
-    }
-    return path.join(QStringLiteral(" \u203a "));
-}
-
-void LocationsPage::showHint(const QString &text)
-{
-    m_hint = text;
-    updateStatusLine();
-}
-
-void LocationsPage::updateStatusLine()
-{
-    QStringList parts;
-    if (!m_hint.isEmpty()) {
-        parts << m_hint;
-    } else if (m_catalogueKnown) {
-        if (m_filter->isSearching()) {
-            int matches = 0;
-            forEachRow(m_filter, {}, [&matches](const QModelIndex &index) {
-                matches += index.data(LocationIsGroupRole).toBool() ? 0 : 1;
-                return true;
-            });
-            parts << tr("Matches in every tab: %1").arg(matches);
-        } else {
-            parts << tr("Locations: %1").arg(m_model->nodeCount());
-        }
-        if (const QString where = connectedPath(); !where.isEmpty())
-            parts << tr("Connected to %1").arg(where);
-        if (m_model->nodes().pingRunning)
-            parts << tr("Measuring latency...");
-        if (m_model->nodes().stale || m_model->nodeGroups().stale)
-            parts << tr("This list may be out of date; Refresh fetches a new one.");
-        else if (!m_groupsKnown)
-            parts << tr("Grouping by region until the service's groups arrive.");
-    }
-    m_status->setText(parts.join(QStringLiteral(" \u00b7 ")));
-    guiTextLog("window.locations", m_status->text());
-    m_status->setVisible(!parts.isEmpty());
 }

@@ -4,20 +4,17 @@
 
 #include "NodeEntry.h"
 
-#include <QSet>
-
 class CatalogFilterModel;
 class CatalogTreeModel;
 class GuiPreferences;
 class LocationItemDelegate;
 class LocationsEmptyState;
+class LocationsSearch;
+class LocationsStatusLine;
 class LocationsToolbar;
 class LocationsTreeView;
-class QLabel;
 class QLineEdit;
 class QStackedWidget;
-class QTimer;
-struct UserInfo;
 
 // Page 1: the catalogue of locations with favourites and search.
 class LocationsPage : public WindowPage
@@ -52,7 +49,7 @@ Q_SIGNALS:
 
 private:
     QWidget *buildContent();
-    void searchChanged(const QString &text);
+    void connectParts();
     void tabChanged(const QString &tab);
     void activate(const QModelIndex &index);
     // A double-click or Enter: continents open and close, other rows connect.
@@ -60,17 +57,7 @@ private:
     void activateFromSearch();
     void toggleFavorite(const QModelIndex &index);
     void showRowMenu(const QModelIndex &index, const QPoint &globalPos);
-    void typeIntoSearch(const QString &text);
-    void selectFirstMatch();
-    void expandResults();
-    QSet<QString> expandedSelectors() const;
-    void restoreExpansion(const QSet<QString> &selectors);
     void updateEmptyState();
-    void updateStatusLine();
-    // Where the tunnel is, "Europe > Germany > Frankfurt > Frankfurt 01"; empty when not connected.
-    QString connectedPath() const;
-    void showHint(const QString &text);
-    static QStringList tiersFor(const UserInfo &user);
     // The node the tunnel uses, when it is up.
     static NodeEntry connectedNode(const AppState &state);
 
@@ -79,20 +66,16 @@ private:
     LocationItemDelegate *m_delegate;
     LocationsToolbar *m_toolbar = nullptr;
     QLineEdit *m_search = nullptr;
+    LocationsSearch *m_searchDriver = nullptr;
     LocationsTreeView *m_tree = nullptr;
     LocationsEmptyState *m_empty = nullptr;
     QStackedWidget *m_stack = nullptr;
-    QLabel *m_status = nullptr;
-    QTimer *m_statusTimer = nullptr;
+    LocationsStatusLine *m_status = nullptr;
     QAction *m_searchIcon = nullptr;
     GuiPreferences *m_preferences = nullptr;
-    QSet<QString> m_expandedBeforeSearch;
-    NodeEntry m_connectedNode; // invalid unless the tunnel is up
-    QString m_hint;
-    bool m_expandPending = false;
+    QString m_fetchError; // why the catalogue could not be fetched; empty while none failed
     bool m_serviceKnown = false;
     bool m_catalogueKnown = false;
-    bool m_groupsKnown = false;
     int m_cooldown = 0;
     int m_shownCount = 0;
 };

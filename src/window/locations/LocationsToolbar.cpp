@@ -1,5 +1,8 @@
 #include "LocationsToolbar.h"
 
+#include "LocationsFavoriteButton.h"
+#include "WindowShortcuts.h"
+
 #include "IconTinter.h"
 #include "ThemeColors.h"
 
@@ -9,6 +12,7 @@
 #include <QPushButton>
 #include <QStyle>
 #include <QTabBar>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -64,10 +68,17 @@ LocationsToolbar::LocationsToolbar(QWidget *parent)
     , m_tabs(new BoldSafeTabBar(this))
     , m_sort(new QComboBox(this))
     , m_refresh(new QPushButton(this))
+    , m_favorite(new LocationsFavoriteButton(this))
+    , m_rows(new QVBoxLayout(this))
+    , m_tabRow(new QHBoxLayout)
+    , m_actions(new QHBoxLayout)
 {
-    auto *row = new QHBoxLayout(this);
-    row->setContentsMargins(0, 0, 0, 0);
-    row->setSpacing(8);
+    m_rows->setContentsMargins(0, 0, 0, 0);
+    m_rows->setSpacing(8);
+    m_rows->addLayout(m_tabRow);
+    m_tabRow->setSpacing(8);
+    m_actions->setSpacing(8);
+    m_actions->addStretch(1);
 
     m_tabs->setObjectName(QStringLiteral("TovraLocationsTabs"));
     m_tabs->setAccessibleName(tr("Location tabs"));
@@ -84,8 +95,9 @@ LocationsToolbar::LocationsToolbar(QWidget *parent)
         m_tabs->updateGeometry(); // the bold tab moved
         Q_EMIT tabChanged(tab());
     });
-    row->addWidget(m_tabs);
-    row->addStretch(1);
+    m_tabRow->addWidget(m_tabs);
+    m_tabRow->addStretch(1);
+    m_tabRow->addLayout(m_actions);
 
     m_sort->setObjectName(QStringLiteral("TovraLocationsSort"));
     m_sort->setAccessibleName(tr("Sort locations"));
@@ -94,13 +106,37 @@ LocationsToolbar::LocationsToolbar(QWidget *parent)
     m_sort->addItem(tr("Latency"), QVariant::fromValue(int(CatalogSort::Latency)));
     m_sort->setToolTip(tr("Order of the locations within each group"));
     connect(m_sort, &QComboBox::currentIndexChanged, this, [this] { Q_EMIT sortChanged(sort()); });
-    row->addWidget(m_sort);
+    m_actions->addWidget(m_sort);
 
     m_refresh->setObjectName(QStringLiteral("TovraLocationsRefresh"));
-    m_refresh->setToolTip(tr("Fetch the list of locations again and measure their latency"));
+    m_refresh->setToolTip(
+        WindowShortcuts::toolTip(tr("Fetch the list of locations again and measure their latency"),
+                                 WindowShortcuts::Id::RefreshLocations));
     connect(m_refresh, &QPushButton::clicked, this, &LocationsToolbar::refreshRequested);
-    row->addWidget(m_refresh);
+    m_actions->addWidget(m_refresh);
+    // Last, above the rows' own stars at the trailing edge.
+    m_actions->addWidget(m_favorite);
     setCooldown(0);
+}
+
+void LocationsToolbar::resizeEvent(QResizeEvent *event)
+{
+    QWidget::resizeEvent(event);
+    fitActions();
+}
+
+void LocationsToolbar::fitActions()
+{
+    // Beside the tabs while both fit (translated tabs and buttons grow), else on a row below:
+    // never clipped.
+    const bool oneRow =
+        width() >= m_tabs->sizeHint().width() + m_tabRow->spacing() + m_actions->sizeHint().width();
+    if (oneRow == m_actionsBeside)
+        return;
+    m_actionsBeside = oneRow;
+    (oneRow ? m_rows : m_tabRow)->removeItem(m_actions);
+    m_actions->setParent(nullptr);
+    (oneRow ? m_tabRow : m_rows)->addLayout(m_actions);
 }
 
 QString LocationsToolbar::tab() const
@@ -161,6 +197,7 @@ void LocationsToolbar::applyTheme(const ThemeColors &colors)
                                       colors.color(ThemeColor::DisabledText), ratio),
                    QIcon::Disabled);
     m_refresh->setIcon(icon);
+    m_favorite->applyTheme(colors);
 }
 
 QString LocationsToolbar::sortKey(CatalogSort sort)

@@ -6,6 +6,7 @@
 #include "QuickEntryPopup.h"
 #include "RecentActivityStore.h"
 #include "ThemeColors.h"
+#include "WindowShortcuts.h"
 
 #include <QKeyEvent>
 #include <QStyle>
@@ -29,6 +30,7 @@ QuickEntryField::QuickEntryField(RecentActivityStore *recent, QWidget *overlay, 
     setObjectName(QStringLiteral("TovraVPNSearch"));
     setPlaceholderText(tr("Search for a country, city or location"));
     setAccessibleName(tr("Quick connect search"));
+    setToolTip(WindowShortcuts::toolTip(accessibleName(), WindowShortcuts::Id::Find));
     FieldClearButton::enable(this, FieldClearButton::Kind::Search);
     setProperty("tovraPopupOpen", false);
 

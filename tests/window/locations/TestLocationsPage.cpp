@@ -135,6 +135,8 @@ void TestLocationsPage::keyboardIntents()
     QTest::keyClick(tree, Qt::Key_Up); // from the first node up to its city
     QCOMPARE(tree->currentIndex().data(LocationSelectorRole).toString(),
              QStringLiteral("city:ca:toronto"));
+    auto *button = m_page->findChild<QPushButton *>(QStringLiteral("TovraLocationsFavorite"));
+    QVERIFY(!button->isEnabled()); // a city has no star
     QTest::keyClick(tree, Qt::Key_Enter);
     QCOMPARE(smart.size(), 1);
     QCOMPARE(smart.first().at(0).toString(), QStringLiteral("city:ca:toronto"));
@@ -145,6 +147,17 @@ void TestLocationsPage::keyboardIntents()
     QTest::keyClick(tree, Qt::Key_Space);
     QCOMPARE(star.size(), 1);
     QCOMPARE(star.first(), QVariantList({QStringLiteral("1016"), true}));
+    // The toolbar's star asks the same for the current row, and reads as the service answered:
+    // unchanged until the catalogue says otherwise.
+    button->click();
+    QCOMPARE(star.size(), 2);
+    QCOMPARE(star.last(), star.first());
+    QCOMPARE(button->accessibleName(), QStringLiteral("Add to favourites"));
+    CatalogFixture answered = CatalogFixture::small();
+    answered.find(QStringLiteral("1016"))->favorite = true;
+    loadInto(*m_state, answered);
+    m_page->refresh(*m_state);
+    QCOMPARE(button->accessibleName(), QStringLiteral("Remove from favourites"));
 }
 
 void TestLocationsPage::doubleClickAndEnter_data()
@@ -192,6 +205,13 @@ void TestLocationsPage::emptyStatesSayWhy()
     m_page->refresh(*m_state);
     QVERIFY(says("not available"));
     m_state->setRuntime(runningDaemon());
+    m_page->refresh(*m_state);
+    QVERIFY(says("Loading"));
+    // A fetch that failed says why until a retry runs.
+    m_state->setNodesFetchError(QStringLiteral("demo failure"));
+    m_page->refresh(*m_state);
+    QVERIFY(says("Could not load the locations: demo failure"));
+    m_state->setNodesFetchError(QString());
     m_page->refresh(*m_state);
     QVERIFY(says("Loading"));
     const CatalogFixture fixture = CatalogFixture::small();
@@ -247,6 +267,19 @@ void TestLocationsPage::refreshShowsCooldown()
     m_page->refresh(*m_state);
     QCOMPARE(refresh->text(), QStringLiteral("Refresh"));
     QVERIFY(refresh->isEnabled());
+    QVERIFY(refresh->toolTip().endsWith(QLatin1String(" (Ctrl+R)")));
+    // Too narrow for the tabs and the actions side by side (the window's minimum width holds the
+    // page, not its own hint): nothing is squeezed.
+    m_page->layout()->setSizeConstraint(QLayout::SetNoConstraint);
+    m_page->setMinimumSize(0, 0);
+    m_page->resize(420, 600);
+    const auto whole = [this](const char *name) {
+        auto *widget = m_page->findChild<QWidget *>(QLatin1String(name));
+        return widget->width() >= widget->sizeHint().width() &&
+               m_page->rect().contains(QRect(widget->mapTo(m_page, QPoint()), widget->size()));
+    };
+    QTRY_VERIFY(whole("TovraLocationsTabs") && whole("TovraLocationsSort") &&
+                whole("TovraLocationsRefresh") && whole("TovraLocationsFavorite"));
 }
 
 void TestLocationsPage::choicesOutliveThePage()

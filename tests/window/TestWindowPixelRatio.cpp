@@ -1,0 +1,55 @@
+#include "AppState.h"
+#include "GuiPreferences.h"
+#include "MainWindow.h"
+#include "PixelRatioWatch.h"
+#include "TempXdgDirs.h"
+
+#include <QApplication>
+#include <QScreen>
+#include <QSignalSpy>
+#include <QTest>
+#include <QToolButton>
+#include <QWindow>
+
+// Runs on three offscreen screens, the last at twice the pixel ratio of the others.
+class TestWindowPixelRatio : public QObject
+{
+    Q_OBJECT
+
+private Q_SLOTS:
+    void iconsFollowTheScreen();
+};
+
+void TestWindowPixelRatio::iconsFollowTheScreen()
+{
+    QScreen *middle = nullptr;
+    QScreen *right = nullptr;
+    for (QScreen *screen : QGuiApplication::screens()) {
+        if (screen->name() == u"middle")
+            middle = screen;
+        else if (screen->name() == u"right")
+            right = screen;
+    }
+    QVERIFY(middle && right);
+    TempXdgDirs dirs;
+    AppState state;
+    GuiPreferences preferences;
+    MainWindow window(&state, &preferences);
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    auto *watch = window.findChild<PixelRatioWatch *>();
+    QSignalSpy changes(watch, &PixelRatioWatch::changed);
+    auto *tab = window.findChild<QToolButton *>(QStringLiteral("TovraSidebarVPN"));
+    const auto iconPixels = [tab] { return tab->icon().availableSizes().value(0); };
+    QCOMPARE(iconPixels(), QSize(24, 24));
+
+    // Another screen of the same ratio: nothing to render again.
+    window.windowHandle()->setScreen(middle);
+    QCOMPARE(changes.size(), 0);
+    window.windowHandle()->setScreen(right);
+    QTRY_COMPARE(changes.size(), 1);
+    QCOMPARE(iconPixels(), QSize(48, 48));
+}
+
+QTEST_MAIN(TestWindowPixelRatio)
+#include "TestWindowPixelRatio.moc"

@@ -414,7 +414,7 @@ void TestMainWindow::shortcuts()
     f.state.startNodesRefreshCooldown(cooldown);
     f.window->show();
     f.window->showPage(startPage);
-    QApplication::setActiveWindow(f.window);
+    f.window->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(f.window));
     QSignalSpy refresh(f.window, &MainWindow::refreshLocationsRequested);
     QSignalSpy toTray(f.window, &MainWindow::hiddenToTray);

@@ -60,138 +60,108 @@ class TestDemoFaults : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void faultBecomesErrorText_data();
-    void faultBecomesErrorText();
-    void chunkedRecordsParse_data();
-    void chunkedRecordsParse();
-    void truncatedAnswerNeverYieldsRecord_data();
-    void truncatedAnswerNeverYieldsRecord();
-    void garbageIsNoAnswer();
-    void faultOnOnePathSparesTheRest();
+    void faultBecomesErrorText_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("operation");
+        QTest::addColumn<int>("timeoutMs");
+        QTest::addColumn<QString>("error");
+        QTest::addRow("hang past the timeout")
+            << args({"--hang", "/v1/status"}) << "status" << 500 << "control request timed out";
+        QTest::addRow("latency past the timeout")
+            << args({"--latency", "1500"}) << "status" << 300 << "control request timed out";
+        QTest::addRow("failure with default body") << args({"--fail", "/v1/nodes=503"}) << "nodes"
+                                                   << 5000 << "demo failure injected for /v1/nodes";
+        QTest::addRow("failure worded by last_error")
+            << args({"--fail",
+                     R"(/v1/nodes/groups=500:{"error":"","last_error":"catalogue offline"})"})
+            << "groups" << 5000 << "catalogue offline";
+        QTest::addRow("failure on every path") << args({"--fail", "*=503"}) << "language" << 5000
+                                               << "demo failure injected for /v1/config/language";
+        QTest::addRow("old daemon without kill switch modes")
+            << args({"--no-kill-switch-mode"}) << "killSwitchMode" << 5000
+            << "Tovra daemon is too old for Kill Switch modes. Update Tovra.";
+        QTest::addRow("incompatible daemon")
+            << args({"--incompatible"}) << "status" << 5000
+            << "control version 1 is not supported; this daemon speaks control version 2";
+    }
+
+    void faultBecomesErrorText()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, operation);
+        QFETCH(int, timeoutMs);
+        QFETCH(QString, error);
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
+        QString message;
+        QVERIFY(!run(operation, daemon.socketPath(), timeoutMs, &message));
+        QCOMPARE(message, error);
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+    void chunkedRecordsParse_data()
+    {
+        QTest::addColumn<QString>("operation");
+        for (const char *operation :
+             {"status", "version", "nodes", "groups", "language", "paths", "killSwitch",
+              "killSwitchMode", "splitDns", "splitRules", "updateCheck", "download", "login"})
+            QTest::addRow("%s", operation) << QString::fromLatin1(operation);
+    }
+
+    void chunkedRecordsParse()
+    {
+        QFETCH(QString, operation);
+        if (!m_chunked.running())
+            QVERIFY2(m_chunked.start({QStringLiteral("--chunked")}),
+                     qPrintable(m_chunked.errorString()));
+        QString error;
+        QVERIFY2(run(operation, m_chunked.socketPath(), 5000, &error), qPrintable(error));
+    }
+
+    void brokenAnswerNeverYieldsRecord_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("operation");
+        QTest::addRow("cut short, content length")
+            << args({"--truncate", "/v1/status"}) << "status";
+        QTest::addRow("cut short, chunked")
+            << args({"--chunked", "--truncate", "/v1/nodes"}) << "nodes";
+        QTest::addRow("cut short, small body") << args({"--truncate", "/v1/version"}) << "version";
+        QTest::addRow("garbage") << args({"--garbage", "/v1/status"}) << "status";
+    }
+
+    void brokenAnswerNeverYieldsRecord()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, operation);
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
+        QString error;
+        QVERIFY(!run(operation, daemon.socketPath(), 5000, &error));
+        QVERIFY(!error.isEmpty());
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+    void faultOnOnePathSparesTheRest()
+    {
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(args({"--hang", "/v1/nodes", "--fail", "/v1/user=500"})),
+                 qPrintable(daemon.errorString()));
+        QString error;
+        QVERIFY(!run(QStringLiteral("nodes"), daemon.socketPath(), 300, &error));
+        QCOMPARE(error, QStringLiteral("control request timed out"));
+        QVERIFY(!run(QStringLiteral("user"), daemon.socketPath(), 5000, &error));
+        QCOMPARE(error, QStringLiteral("demo failure injected for /v1/user"));
+        QVERIFY(run(QStringLiteral("status"), daemon.socketPath(), 5000, &error));
+        QVERIFY(run(QStringLiteral("groups"), daemon.socketPath(), 5000, &error));
+        QCOMPARE(error, QString());
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+private:
+    DemoDaemon m_chunked;
 };
-
-void TestDemoFaults::faultBecomesErrorText_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<int>("timeoutMs");
-    QTest::addColumn<QString>("error");
-    QTest::addRow("hang past the timeout")
-        << args({"--hang", "/v1/status"}) << "status" << 500 << "control request timed out";
-    QTest::addRow("latency past the timeout")
-        << args({"--latency", "1500"}) << "status" << 300 << "control request timed out";
-    QTest::addRow("latency within the timeout")
-        << args({"--latency", "200"}) << "status" << 5000 << "";
-    QTest::addRow("failure with default body") << args({"--fail", "/v1/nodes=503"}) << "nodes"
-                                               << 5000 << "demo failure injected for /v1/nodes";
-    QTest::addRow("failure worded by last_error")
-        << args({"--fail", R"(/v1/nodes/groups=500:{"error":"","last_error":"catalogue offline"})"})
-        << "groups" << 5000 << "catalogue offline";
-    QTest::addRow("failure with a text body")
-        << args({"--fail", "/v1/status=502: upstream gone \n"}) << "status" << 5000
-        << "upstream gone";
-    QTest::addRow("failure with a numeric error")
-        << args({"--fail", R"(/v1/user=500:{"error":7})"}) << "user" << 5000 << R"({"error":7})";
-    QTest::addRow("failure on every path") << args({"--fail", "*=503"}) << "language" << 5000
-                                           << "demo failure injected for /v1/config/language";
-    QTest::addRow("old daemon without kill switch modes")
-        << args({"--no-kill-switch-mode"}) << "killSwitchMode" << 5000
-        << "Tovra daemon is too old for Kill Switch modes. Update Tovra.";
-    QTest::addRow("incompatible daemon")
-        << args({"--incompatible"}) << "status" << 5000
-        << "control version 1 is not supported; this daemon speaks control version 2";
-}
-
-void TestDemoFaults::faultBecomesErrorText()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QString, operation);
-    QFETCH(int, timeoutMs);
-    QFETCH(QString, error);
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
-    QString message;
-    const bool valid = run(operation, daemon.socketPath(), timeoutMs, &message);
-    QCOMPARE(message, error);
-    QCOMPARE(valid, error.isEmpty());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::chunkedRecordsParse_data()
-{
-    QTest::addColumn<QString>("operation");
-    const char *operations[] = {"status",   "version",    "nodes",       "groups",
-                                "language", "paths",      "killSwitch",  "killSwitchMode",
-                                "splitDns", "splitRules", "updateCheck", "download",
-                                "login"};
-    for (const char *operation : operations)
-        QTest::addRow("%s", operation) << QString::fromLatin1(operation);
-}
-
-void TestDemoFaults::chunkedRecordsParse()
-{
-    QFETCH(QString, operation);
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--chunked")}), qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(run(operation, daemon.socketPath(), 5000, &error));
-    QCOMPARE(error, QString());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::truncatedAnswerNeverYieldsRecord_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("operation");
-    QTest::addRow("content length") << args({"--truncate", "/v1/status"}) << "status";
-    QTest::addRow("chunked") << args({"--chunked", "--truncate", "/v1/nodes"}) << "nodes";
-    QTest::addRow("small body") << args({"--truncate", "/v1/version"}) << "version";
-}
-
-void TestDemoFaults::truncatedAnswerNeverYieldsRecord()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QString, operation);
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(!run(operation, daemon.socketPath(), 5000, &error));
-    QVERIFY(!error.isEmpty());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::garbageIsNoAnswer()
-{
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--garbage"), QStringLiteral("/v1/status")}),
-             qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(!run(QStringLiteral("status"), daemon.socketPath(), 5000, &error));
-    // The client reports the socket's own text for the close when it has one.
-    QVERIFY2(error == QLatin1String("invalid control response") ||
-                 error == QLatin1String("QLocalSocket: Remote closed"),
-             qPrintable(error));
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::faultOnOnePathSparesTheRest()
-{
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--hang"), QStringLiteral("/v1/nodes"),
-                           QStringLiteral("--fail"), QStringLiteral("/v1/user=500")}),
-             qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(!run(QStringLiteral("nodes"), daemon.socketPath(), 300, &error));
-    QCOMPARE(error, QStringLiteral("control request timed out"));
-    error.clear();
-    QVERIFY(!run(QStringLiteral("user"), daemon.socketPath(), 5000, &error));
-    QCOMPARE(error, QStringLiteral("demo failure injected for /v1/user"));
-    error.clear();
-    QVERIFY(run(QStringLiteral("status"), daemon.socketPath(), 5000, &error));
-    QVERIFY(run(QStringLiteral("groups"), daemon.socketPath(), 5000, &error));
-    QCOMPARE(error, QString());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
 
 QTEST_GUILESS_MAIN(TestDemoFaults)
 #include "TestDemoFaults.moc"

@@ -32,8 +32,6 @@ private Q_SLOTS:
         const QString lockdown = u"lockdown"_s;
         const QString active = u"active"_s;
         QTest::addRow("no record") << record(false, true, lockdown, active) << u"Unavailable"_s;
-        QTest::addRow("lockdown active, disabled")
-            << record(true, false, lockdown, active) << u"Lockdown"_s;
         QTest::addRow("lockdown active, enabled")
             << record(true, true, lockdown, active) << u"Lockdown"_s;
         QTest::addRow("lockdown, empty state")
@@ -59,8 +57,8 @@ private Q_SLOTS:
     {
         TranslationManager translations;
         QVERIFY(translations.apply(u"de"_s));
-        // The caller's context has no entry of its own: the shared wording is used.
-        QCOMPARE(killSwitchStateText(record(true, true), "TrayMenuText"), u"Ein"_s);
+        // The page's context has no entry of its own: the shared wording is used.
+        QCOMPARE(killSwitchStateText(record(true, true), "VpnPage"), u"Ein"_s);
         QCOMPARE(killSwitchStateText(KillSwitchInfo(), nullptr), u"Nicht verfügbar"_s);
     }
 };

@@ -59,17 +59,14 @@ private Q_SLOTS:
         const char *split = "Tovra Proxy Split";
         // clang-format off
         QTest::addRow("auto") << mode("auto") << "Auto" << false;
-        QTest::addRow("wireguard") << mode("wireguard", "split") << "WireGuard" << false;
         QTest::addRow("tovravpn empty policy") << mode("tovravpn") << tunnel << false;
         QTest::addRow("tovravpn proxy-region")
             << mode("tovravpn", "proxy-region") << tunnelSplit << false;
         QTest::addRow("tovravpn unknown word") << mode("tovravpn", "smart") << tunnel << false;
         QTest::addRow("capital Proxy is not proxy") << mode("Proxy", "split") << "Proxy" << false;
         QTest::addRow("unknown transport as is") << mode("shadow") << "shadow" << false;
-        QTest::addRow("empty transport") << mode("", "split") << "" << false;
         QTest::addRow("proxy empty policy") << mode("proxy") << global << false;
         QTest::addRow("proxy gfwlist") << mode("proxy", "gfwlist") << split << true;
-        QTest::addRow("proxy bypass-region") << mode("proxy", "bypass-region") << split << true;
         QTest::addRow("word global")
             << mode("proxy", "split", " Global ", profile("direct")) << global << false;
         QTest::addRow("word split")
@@ -102,8 +99,6 @@ private Q_SLOTS:
         TranslationManager translations;
         QVERIFY(translations.apply(u"ru"_s));
         QCOMPARE(::modeLabel(mode("auto")), u"Авто"_s);
-        QVERIFY(translations.apply(u"en"_s));
-        QCOMPARE(::modeLabel(mode("auto")), u"Auto"_s);
     }
 
     void tunnelSplit_data()

@@ -59,9 +59,7 @@ private Q_SLOTS:
         QTest::addColumn<QString>("expected");
         QTest::addRow("Dark with blanks") << u"  Dark "_s << u"dark"_s;
         QTest::addRow("LIGHT") << u"LIGHT"_s << u"light"_s;
-        QTest::addRow("system") << u"system"_s << u"system"_s;
         QTest::addRow("blue") << u"blue"_s << u"system"_s;
-        QTest::addRow("empty") << u""_s << u"system"_s;
     }
 
     void appearance()
@@ -78,7 +76,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored"); // empty: the key is removed
         QTest::addRow("normalised") << u" zh_CN "_s << u"zh-Hans"_s;
         QTest::addRow("regional") << u"pt_br"_s << u"pt-BR"_s;
-        QTest::addRow("empty removes") << u""_s << u""_s;
         QTest::addRow("blank removes") << u"   "_s << u""_s;
     }
 
@@ -102,7 +99,6 @@ private Q_SLOTS:
         QTest::addRow("same version") << u"1.2.3+4"_s << u"1.2.3+4"_s << true;
         QTest::addRow("same version, blanks") << u" 1.2.3+4 "_s << u"1.2.3+4"_s << true;
         QTest::addRow("after an upgrade") << u"1.2.3+4"_s << u"1.2.4+1"_s << false;
-        QTest::addRow("new build number") << u"1.2.3+4"_s << u"1.2.3+5"_s << false;
     }
 
     void updateBookkeeping()

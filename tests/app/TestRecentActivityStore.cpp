@@ -91,7 +91,6 @@ private Q_SLOTS:
         QTest::addRow("existing moves up")
             << abc << u" c "_s << QStringList{u"c"_s, u"a"_s, u"b"_s} << 1;
         QTest::addRow("already first") << abc << u"a"_s << abc << 0;
-        QTest::addRow("blank ignored") << abc << u"  "_s << abc << 0;
         QTest::addRow("ninth drops the oldest")
             << eight << u"9"_s << QStringList{u"9"_s} + eight.mid(0, 7) << 1;
     }

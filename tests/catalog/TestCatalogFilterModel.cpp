@@ -71,141 +71,136 @@ class TestCatalogFilterModel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tokenize_data();
-    void tokenize();
-    void filters_data();
-    void filters();
-    void sameTokensDoNotFilterAgain();
-    void changedSourceIsFilteredAgain();
+    void tokenize_data()
+    {
+        QTest::addColumn<QString>("text");
+        QTest::addColumn<QStringList>("tokens");
+        const QStringList newYork{QStringLiteral("new"), QStringLiteral("york")};
+        QTest::addRow("underscore") << QStringLiteral("new_york") << newYork;
+        QTest::addRow("hyphen") << QStringLiteral("new-york") << newYork;
+        QTest::addRow("space, mixed case") << QStringLiteral("  New   YORK ") << newYork;
+        QTest::addRow("separator runs") << QStringLiteral("new -_ york") << newYork;
+        QTest::addRow("separators only") << QStringLiteral(" -_ \t-") << QStringList();
+        QTest::addRow("empty") << QString() << QStringList();
+    }
+
+    void tokenize()
+    {
+        QFETCH(QString, text);
+        QFETCH(QStringList, tokens);
+        QCOMPARE(CatalogFilterModel::tokenize(text), tokens);
+    }
+
+    void filters_data()
+    {
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<QStringList>("shown");
+        const QStringList everything{
+            QStringLiteral("US"),         QStringLiteral("New York"), QStringLiteral("US East 01"),
+            QStringLiteral("US West 02"), QStringLiteral("Russia"),   QStringLiteral("Moscow"),
+            QStringLiteral("Moscow 01"),  QStringLiteral("Zürich"),   QStringLiteral("Zürich 01"),
+            QStringLiteral("Japan"),      QStringLiteral("Tokyo 2"),  QStringLiteral("Osaka 10")};
+        QTest::addRow("separators only show everything") << QStringLiteral(" _-") << everything;
+        // "us" starts a word of "us west" but sits inside "russia".
+        QTest::addRow("word start, not inside a word")
+            << QStringLiteral("us") << QStringList(everything.mid(0, 4));
+        QTest::addRow("node matched through its ancestors")
+            << QStringLiteral("states west")
+            << QStringList({QStringLiteral("US"), QStringLiteral("New York"),
+                            QStringLiteral("US West 02")});
+        QTest::addRow("group kept for a matching descendant")
+            << QStringLiteral("01 moscow")
+            << QStringList({QStringLiteral("Russia"), QStringLiteral("Moscow"),
+                            QStringLiteral("Moscow 01")});
+        QTest::addRow("non-ascii token anywhere in the text")
+            << QStringLiteral("ÜRICH")
+            << QStringList({QStringLiteral("Zürich"), QStringLiteral("Zürich 01")});
+        // "ü" is a letter, so "rich" does not start a word of "zürich".
+        QTest::addRow("no word start after a non-ascii letter")
+            << QStringLiteral("rich") << QStringList();
+        QTest::addRow("every token must match")
+            << QStringLiteral("japan 2")
+            << QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")});
+        QTest::addRow("digits start a word too") << QStringLiteral("japan 0") << QStringList();
+        QTest::addRow("punctuation as plain text") << QStringLiteral("k.") << QStringList();
+        QTest::addRow("nothing matches") << QStringLiteral("atlantis") << QStringList();
+        QTest::addRow("more words than a row keeps bits for")
+            << QStringLiteral("jp ").repeated(64) + QStringLiteral("osaka")
+            << QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")});
+        // The city between them holds neither word: it stays for the node below it.
+        QTest::addRow("more words than bits, one only above the middle row")
+            << QStringLiteral("us ").repeated(64) + QStringLiteral("states east")
+            << QStringList({QStringLiteral("US"), QStringLiteral("New York"),
+                            QStringLiteral("US East 01")});
+    }
+
+    void filters()
+    {
+        QFETCH(QString, search);
+        QFETCH(QStringList, shown);
+        QStandardItemModel source;
+        fill(source);
+        CatalogFilterModel filter;
+        QAbstractItemModelTester tester(&filter,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        filter.setSourceModel(&source);
+        filter.setFilterText(search);
+        QCOMPARE(visible(filter), shown);
+        filter.setFilterText(QString());
+        QCOMPARE(visible(filter).size(), 12);
+    }
+
+    void sameTokensDoNotFilterAgain()
+    {
+        CountingModel source;
+        fill(source);
+        CatalogFilterModel filter;
+        QAbstractItemModelTester tester(&filter,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        filter.setSourceModel(&source);
+        filter.setFilterText(QStringLiteral("Tokyo"));
+        QCOMPARE(visible(filter),
+                 QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")}));
+        source.searchReads = 0;
+        QSignalSpy layout(&filter, &QAbstractItemModel::layoutChanged);
+        QSignalSpy removed(&filter, &QAbstractItemModel::rowsRemoved);
+        for (const QString &same :
+             {QStringLiteral("tokyo "), QStringLiteral(" TOKYO-"), QStringLiteral("tokyo")})
+            filter.setFilterText(same);
+        QCOMPARE(source.searchReads, 0);
+        QCOMPARE(layout.size() + removed.size(), 0);
+        filter.setFilterText(QStringLiteral("tokyo 2"));
+        QVERIFY(source.searchReads > 0);
+    }
+
+    void changedSourceIsFilteredAgain()
+    {
+        QStandardItemModel source;
+        fill(source);
+        CatalogFilterModel filter;
+        QAbstractItemModelTester tester(&filter,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        filter.setSourceModel(&source);
+        filter.setFilterText(QStringLiteral("tokyo"));
+        QCOMPARE(visible(filter),
+                 QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")}));
+        QStandardItem *japan = source.item(3);
+        // A node renamed into the search, another out of it, a new one, a whole group gone.
+        japan->child(1)->setData(QStringLiteral("osaka tokyo 10"), LocationSearchTextRole);
+        japan->child(0)->setData(QStringLiteral("kyoto 2"), LocationSearchTextRole);
+        QTRY_COMPARE(visible(filter),
+                     QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")}));
+        source.item(0)->child(0)->appendRow(
+            row(QStringLiteral("Tokyo Lane"), QStringLiteral("tokyo lane")));
+        QTRY_COMPARE(visible(filter),
+                     QStringList({QStringLiteral("US"), QStringLiteral("New York"),
+                                  QStringLiteral("Tokyo Lane"), QStringLiteral("Japan"),
+                                  QStringLiteral("Osaka 10")}));
+        source.removeRow(3);
+        QTRY_COMPARE(visible(filter), QStringList({QStringLiteral("US"), QStringLiteral("New York"),
+                                                   QStringLiteral("Tokyo Lane")}));
+    }
 };
-
-void TestCatalogFilterModel::tokenize_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("tokens");
-    const QStringList newYork{QStringLiteral("new"), QStringLiteral("york")};
-    QTest::addRow("underscore") << QStringLiteral("new_york") << newYork;
-    QTest::addRow("hyphen") << QStringLiteral("new-york") << newYork;
-    QTest::addRow("space, mixed case") << QStringLiteral("  New   YORK ") << newYork;
-    QTest::addRow("separator runs") << QStringLiteral("new -_ york") << newYork;
-    QTest::addRow("separators only") << QStringLiteral(" -_ \t-") << QStringList();
-    QTest::addRow("empty") << QString() << QStringList();
-}
-
-void TestCatalogFilterModel::tokenize()
-{
-    QFETCH(QString, text);
-    QFETCH(QStringList, tokens);
-    QCOMPARE(CatalogFilterModel::tokenize(text), tokens);
-}
-
-void TestCatalogFilterModel::filters_data()
-{
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<QStringList>("shown");
-    const QStringList everything{
-        QStringLiteral("US"),         QStringLiteral("New York"), QStringLiteral("US East 01"),
-        QStringLiteral("US West 02"), QStringLiteral("Russia"),   QStringLiteral("Moscow"),
-        QStringLiteral("Moscow 01"),  QStringLiteral("Zürich"),   QStringLiteral("Zürich 01"),
-        QStringLiteral("Japan"),      QStringLiteral("Tokyo 2"),  QStringLiteral("Osaka 10")};
-    QTest::addRow("separators only show everything") << QStringLiteral(" _-") << everything;
-    // "us" starts a word of "us west" but sits inside "russia".
-    QTest::addRow("word start, not inside a word")
-        << QStringLiteral("us") << QStringList(everything.mid(0, 4));
-    QTest::addRow("node matched through its ancestors")
-        << QStringLiteral("states west")
-        << QStringList(
-               {QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("US West 02")});
-    QTest::addRow("group kept for a matching descendant")
-        << QStringLiteral("01 moscow")
-        << QStringList(
-               {QStringLiteral("Russia"), QStringLiteral("Moscow"), QStringLiteral("Moscow 01")});
-    QTest::addRow("non-ascii token anywhere in the text")
-        << QStringLiteral("ÜRICH")
-        << QStringList({QStringLiteral("Zürich"), QStringLiteral("Zürich 01")});
-    // "ü" is a letter, so "rich" does not start a word of "zürich".
-    QTest::addRow("no word start after a non-ascii letter")
-        << QStringLiteral("rich") << QStringList();
-    QTest::addRow("every token must match")
-        << QStringLiteral("japan 2")
-        << QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")});
-    QTest::addRow("digits start a word too") << QStringLiteral("japan 0") << QStringList();
-    QTest::addRow("punctuation as plain text") << QStringLiteral("k.") << QStringList();
-    QTest::addRow("nothing matches") << QStringLiteral("atlantis") << QStringList();
-    QTest::addRow("more words than a row keeps bits for")
-        << QStringLiteral("jp ").repeated(64) + QStringLiteral("osaka")
-        << QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")});
-    // The city between them holds neither word: it stays for the node below it.
-    QTest::addRow("more words than bits, one only above the middle row")
-        << QStringLiteral("us ").repeated(64) + QStringLiteral("states east")
-        << QStringList(
-               {QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("US East 01")});
-}
-
-void TestCatalogFilterModel::filters()
-{
-    QFETCH(QString, search);
-    QFETCH(QStringList, shown);
-    QStandardItemModel source;
-    fill(source);
-    CatalogFilterModel filter;
-    QAbstractItemModelTester tester(&filter,
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    filter.setSourceModel(&source);
-    filter.setFilterText(search);
-    QCOMPARE(visible(filter), shown);
-    filter.setFilterText(QString());
-    QCOMPARE(visible(filter).size(), 12);
-}
-
-void TestCatalogFilterModel::sameTokensDoNotFilterAgain()
-{
-    CountingModel source;
-    fill(source);
-    CatalogFilterModel filter;
-    QAbstractItemModelTester tester(&filter,
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    filter.setSourceModel(&source);
-    filter.setFilterText(QStringLiteral("Tokyo"));
-    QCOMPARE(visible(filter), QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")}));
-    source.searchReads = 0;
-    QSignalSpy layout(&filter, &QAbstractItemModel::layoutChanged);
-    QSignalSpy removed(&filter, &QAbstractItemModel::rowsRemoved);
-    for (const QString &same :
-         {QStringLiteral("tokyo "), QStringLiteral(" TOKYO-"), QStringLiteral("tokyo")})
-        filter.setFilterText(same);
-    QCOMPARE(source.searchReads, 0);
-    QCOMPARE(layout.size() + removed.size(), 0);
-    filter.setFilterText(QStringLiteral("tokyo 2"));
-    QVERIFY(source.searchReads > 0);
-}
-
-void TestCatalogFilterModel::changedSourceIsFilteredAgain()
-{
-    QStandardItemModel source;
-    fill(source);
-    CatalogFilterModel filter;
-    QAbstractItemModelTester tester(&filter,
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    filter.setSourceModel(&source);
-    filter.setFilterText(QStringLiteral("tokyo"));
-    QCOMPARE(visible(filter), QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")}));
-    QStandardItem *japan = source.item(3);
-    // A node renamed into the search, another out of it, a new one, a whole group gone.
-    japan->child(1)->setData(QStringLiteral("osaka tokyo 10"), LocationSearchTextRole);
-    japan->child(0)->setData(QStringLiteral("kyoto 2"), LocationSearchTextRole);
-    QTRY_COMPARE(visible(filter),
-                 QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")}));
-    source.item(0)->child(0)->appendRow(
-        row(QStringLiteral("Tokyo Lane"), QStringLiteral("tokyo lane")));
-    QTRY_COMPARE(
-        visible(filter),
-        QStringList({QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("Tokyo Lane"),
-                     QStringLiteral("Japan"), QStringLiteral("Osaka 10")}));
-    source.removeRow(3);
-    QTRY_COMPARE(visible(filter), QStringList({QStringLiteral("US"), QStringLiteral("New York"),
-                                               QStringLiteral("Tokyo Lane")}));
-}
 
 QTEST_MAIN(TestCatalogFilterModel)
 #include "TestCatalogFilterModel.moc"

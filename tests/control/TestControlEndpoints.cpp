@@ -5,6 +5,8 @@
 
 #include <functional>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using E = ControlEndpoints;
@@ -49,7 +51,7 @@ private Q_SLOTS:
         const auto s = [](const char *text) { return QString::fromUtf8(text); };
         row("language from the system", "POST /v1/config/language HTTP/1.1",
             R"({"source":"system"})",
-            [](const QString &p) { E::setLanguage(p, QStringLiteral("system"), {}, kTimeout); });
+            [](const QString &p) { E::setLanguage(p, u"system"_s, {}, kTimeout); });
         row("purchase link without language", "GET /v1/account/purchase-url HTTP/1.1", "",
             [](const QString &p) { E::fetchPurchaseURL(p, QString(), kTimeout); });
         row("purchase link", "GET /v1/account/purchase-url?lang=zh-Hans HTTP/1.1", "",
@@ -64,10 +66,10 @@ private Q_SLOTS:
             R"("gfwlist":false,"lan_routing":"","proxy_regions":[]},"transport":"tovravpn"})",
             [](const QString &p) {
                 ModeInfo mode;
-                mode.transport = QStringLiteral("tovravpn");
-                mode.policy = QStringLiteral("split");
+                mode.transport = u"tovravpn"_s;
+                mode.policy = u"split"_s;
                 mode.splitProfile.valid = true;
-                mode.splitProfile.directRegions = {QStringLiteral("CN")};
+                mode.splitProfile.directRegions = {u"CN"_s};
                 mode.proxySplitProfile.valid = true; // valid but empty: not sent
                 E::setMode(p, mode, kTimeout);
             });
@@ -108,17 +110,16 @@ private Q_SLOTS:
     {
         ScriptedPeer peer;
         peer.setReply(ScriptedPeer::response(401, R"({"error":"wrong password"})"));
-        QString error = QStringLiteral("left over");
-        const RuntimeInfo info = E::login(peer.socketPath(), QStringLiteral("a"),
-                                          QStringLiteral("b"), false, kTimeout, &error);
-        QCOMPARE(error, QStringLiteral("wrong password"));
+        QString error = u"left over"_s;
+        const RuntimeInfo info =
+            E::login(peer.socketPath(), u"a"_s, u"b"_s, false, kTimeout, &error);
+        QCOMPARE(error, u"wrong password"_s);
         QCOMPARE(info, RuntimeInfo());
 
         peer.setReply(ScriptedPeer::response(200, R"({"auth_state":"signed_in"})"));
-        const RuntimeInfo ok = E::login(peer.socketPath(), QStringLiteral("a"), QStringLiteral("b"),
-                                        false, kTimeout, &error);
+        const RuntimeInfo ok = E::login(peer.socketPath(), u"a"_s, u"b"_s, false, kTimeout, &error);
         QCOMPARE(error, QString());
-        QCOMPARE(ok.authState, QStringLiteral("signed_in"));
+        QCOMPARE(ok.authState, u"signed_in"_s);
     }
 
     void version_data()
@@ -132,25 +133,23 @@ private Q_SLOTS:
 
         QTest::addRow("compatible")
             << ScriptedPeer::response(200, R"({"version":"2.0","api_version":"1"})") << true << true
-            << QStringLiteral("2.0") << QStringLiteral("1") << QString();
+            << u"2.0"_s << u"1"_s << QString();
         QTest::addRow("other protocol in body")
             << ScriptedPeer::response(200, R"({"version":"3.0","api_version":"2"})") << true
-            << false << QStringLiteral("3.0") << QStringLiteral("2") << QString();
+            << false << u"3.0"_s << u"2"_s << QString();
         QTest::addRow("409 with both headers")
             << ScriptedPeer::response(
                    409, R"({"error":"unsupported control version"})",
                    {"X-Tovra-Daemon-Version:  3.1.0 ", "X-Tovra-Control-Version: 2"})
-            << true << false << QStringLiteral("3.1.0") << QStringLiteral("2")
-            << QStringLiteral("unsupported control version");
+            << true << false << u"3.1.0"_s << u"2"_s << u"unsupported control version"_s;
         QTest::addRow("409 without headers")
             << ScriptedPeer::response(409, "") << true << false << QString() << QString()
-            << QStringLiteral("control request failed with HTTP 409");
+            << u"control request failed with HTTP 409"_s;
         QTest::addRow("500 is not incompatible")
             << ScriptedPeer::response(500, "") << false << true << QString() << QString()
-            << QStringLiteral("control request failed with HTTP 500");
-        QTest::addRow("2xx not an object")
-            << ScriptedPeer::response(200, "[]") << false << false << QString() << QString()
-            << QStringLiteral("invalid version JSON");
+            << u"control request failed with HTTP 500"_s;
+        QTest::addRow("2xx not an object") << ScriptedPeer::response(200, "[]") << false << false
+                                           << QString() << QString() << u"invalid version JSON"_s;
     }
 
     void version()
@@ -171,13 +170,12 @@ private Q_SLOTS:
     {
         QTest::addColumn<QByteArray>("body");
         QTest::addColumn<QString>("error");
-        const QString tooOld =
-            QStringLiteral("Tovra daemon is too old for Kill Switch modes. Update Tovra.");
+        const QString tooOld = u"Tovra daemon is too old for Kill Switch modes. Update Tovra."_s;
         QTest::addRow("no body") << QByteArray() << tooOld;
         QTest::addRow("plain text") << QByteArray("404 page not found") << tooOld;
         QTest::addRow("blank error") << QByteArray(R"({"error":"  "})") << tooOld;
         QTest::addRow("daemon explains")
-            << QByteArray(R"({"error":"unknown mode"})") << QStringLiteral("unknown mode");
+            << QByteArray(R"({"error":"unknown mode"})") << u"unknown mode"_s;
     }
 
     void killSwitchModeOnOlderDaemon()
@@ -187,7 +185,7 @@ private Q_SLOTS:
         peer.setReply(ScriptedPeer::response(404, body));
         QString error;
         const KillSwitchInfo info =
-            E::setKillSwitchMode(peer.socketPath(), QStringLiteral("lockdown"), kTimeout, &error);
+            E::setKillSwitchMode(peer.socketPath(), u"lockdown"_s, kTimeout, &error);
         QTEST(error, "error");
         QVERIFY(!info.valid);
     }
@@ -210,19 +208,17 @@ private Q_SLOTS:
         QCOMPARE(split(requests.at(1)).body, QByteArray(R"({"force":false})"));
         QCOMPARE(split(requests.at(2)).line, QByteArray("POST /v1/vpn/repair HTTP/1.1"));
         QVERIFY(info.valid);
-        QCOMPARE(info.lines,
-                 (QStringList{QStringLiteral("kill-switch: repaired, rules"),
-                              QStringLiteral("proxy: proxy busy"), QStringLiteral("vpn: ok")}));
-        QCOMPARE(info.failedLines, QStringList{QStringLiteral("proxy: proxy busy")});
-        QCOMPARE(error, QStringLiteral("proxy: proxy busy"));
+        QCOMPARE(info.lines, (QStringList{u"kill-switch: repaired, rules"_s, u"proxy: proxy busy"_s,
+                                          u"vpn: ok"_s}));
+        QCOMPARE(info.failedLines, QStringList{u"proxy: proxy busy"_s});
+        QCOMPARE(error, u"proxy: proxy busy"_s);
 
         // Unreachable: the first step says so and the rest are not tried.
         const RepairResultInfo none =
-            E::repairDiagnostics(QStringLiteral("/nonexistent/tovra.sock"), kTimeout, &error);
+            E::repairDiagnostics(u"/nonexistent/tovra.sock"_s, kTimeout, &error);
         QVERIFY(!none.valid);
-        QCOMPARE(none.lines,
-                 QStringList{QStringLiteral("kill-switch: Tovra daemon is not running.")});
-        QCOMPARE(error, QStringLiteral("Tovra daemon is not running."));
+        QCOMPARE(none.lines, QStringList{u"kill-switch: Tovra daemon is not running."_s});
+        QCOMPARE(error, u"Tovra daemon is not running."_s);
     }
 };
 

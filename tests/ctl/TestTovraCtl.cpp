@@ -7,6 +7,8 @@
 #include <QTest>
 #include <QVariantMap>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 struct Run
@@ -21,7 +23,7 @@ Run runCtl(const QStringList &arguments, const QString &socketOverride = QString
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TOVRA_CONTROL_SOCKET"), socketOverride);
+    environment.insert(u"TOVRA_CONTROL_SOCKET"_s, socketOverride);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TOVRA_BINARY_DIR "/src/ctl/tovra-ctl"), arguments);
     process.write(input);
@@ -46,21 +48,15 @@ private Q_SLOTS:
             R"({"tunnel_state":"connected","mode":{"transport":"auto","policy":"split"},)"
             R"("selected_node":{"id":3,"region":"SE","name":"Stockholm"},"kill_switch":{"enabled":true}})"));
         // The environment override is how scripts point it at another daemon.
-        const Run run = runCtl({QStringLiteral("fetchStatus")}, peer.socketPath());
+        const Run run = runCtl({u"fetchStatus"_s}, peer.socketPath());
         QCOMPARE(run.exitCode, 0);
         QVERIFY(run.err.isEmpty());
         const QVariantMap record = QJsonDocument::fromJson(run.out).toVariant().toMap();
-        QCOMPARE(record.value(QStringLiteral("valid")), QVariant(true));
-        QCOMPARE(record.value(QStringLiteral("mode_summary")),
-                 QVariant(QStringLiteral("auto split")));
-        QCOMPARE(record.value(QStringLiteral("selected_node")),
-                 QVariant(QStringLiteral("[3] [SE] Stockholm")));
-        QCOMPARE(
-            record.value(QStringLiteral("mode")).toMap().value(QStringLiteral("local_network")),
-            QVariant(QStringLiteral("direct")));
-        QCOMPARE(
-            record.value(QStringLiteral("kill_switch")).toMap().value(QStringLiteral("enabled")),
-            QVariant(true));
+        QCOMPARE(record.value(u"valid"_s), QVariant(true));
+        QCOMPARE(record.value(u"mode_summary"_s), QVariant(u"auto split"_s));
+        QCOMPARE(record.value(u"selected_node"_s), QVariant(u"[3] [SE] Stockholm"_s));
+        QCOMPARE(record.value(u"mode"_s).toMap().value(u"local_network"_s), QVariant(u"direct"_s));
+        QCOMPARE(record.value(u"kill_switch"_s).toMap().value(u"enabled"_s), QVariant(true));
     }
 
     void rawPrintsWholeResponse()
@@ -68,9 +64,8 @@ private Q_SLOTS:
         ScriptedPeer peer;
         peer.setReply(
             ScriptedPeer::response(500, "{\"error\":\"x\"}", {"Zeta: last", "Alpha:  first "}));
-        const Run run =
-            runCtl({QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("raw"),
-                    QStringLiteral("POST"), QStringLiteral("/v1/connect"), QStringLiteral("{}")});
+        const Run run = runCtl(
+            {u"--socket"_s, peer.socketPath(), u"raw"_s, u"POST"_s, u"/v1/connect"_s, u"{}"_s});
         QCOMPARE(run.exitCode, 0);
         QCOMPARE(run.out, QByteArray("500\nalpha: first\nzeta: last\n\n{\"error\":\"x\"}"));
         QVERIFY(peer.lastRequest().endsWith("Content-Length: 2\r\n\r\n{}"));
@@ -82,20 +77,17 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QByteArray>("stderr");
 
-        QTest::addRow("not running") << QByteArray() << QStringList{QStringLiteral("fetchStatus")}
+        QTest::addRow("not running") << QByteArray() << QStringList{u"fetchStatus"_s}
                                      << QByteArray("Tovra daemon is not running.\n");
         QTest::addRow("raw, not running")
-            << QByteArray()
-            << QStringList{QStringLiteral("raw"), QStringLiteral("GET"),
-                           QStringLiteral("/v1/status")}
+            << QByteArray() << QStringList{u"raw"_s, u"GET"_s, u"/v1/status"_s}
             << QByteArray("Tovra daemon is not running.\n");
         QTest::addRow("daemon error")
             << ScriptedPeer::response(401, R"({"error":"wrong password"})")
-            << QStringList{QStringLiteral("login"), QStringLiteral("a"), QStringLiteral("b"),
-                           QStringLiteral("false")}
+            << QStringList{u"login"_s, u"a"_s, u"b"_s, u"false"_s}
             << QByteArray("wrong password\n");
         QTest::addRow("bad record")
-            << ScriptedPeer::response(200, "[]") << QStringList{QStringLiteral("fetchUser")}
+            << ScriptedPeer::response(200, "[]") << QStringList{u"fetchUser"_s}
             << QByteArray("invalid user JSON\n");
     }
 
@@ -104,13 +96,13 @@ private Q_SLOTS:
         QFETCH(QByteArray, response);
         QFETCH(QStringList, arguments);
         ScriptedPeer peer;
-        QString socket = peer.socketPath() + QStringLiteral(".absent");
+        QString socket = peer.socketPath() + u".absent"_s;
         if (!response.isEmpty()) {
             peer.setReply(response);
             socket = peer.socketPath();
         }
 
-        const Run run = runCtl(QStringList{QStringLiteral("--socket"), socket} + arguments);
+        const Run run = runCtl(QStringList{u"--socket"_s, socket} + arguments);
         QCOMPARE(run.exitCode, 1);
         QVERIFY(run.out.isEmpty());
         QTEST(run.err, "stderr");
@@ -122,22 +114,18 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("problem");
         QTest::addRow("nothing") << QStringList() << QByteArray("no operation given");
         QTest::addRow("unknown operation")
-            << QStringList{QStringLiteral("fly")} << QByteArray("unknown operation fly");
-        QTest::addRow("boolean spelled otherwise")
-            << QStringList{QStringLiteral("fetchNodes"), QStringLiteral("yes")}
-            << QByteArray("refresh must be true or false");
-        QTest::addRow("missing argument") << QStringList{QStringLiteral("connectNode")}
+            << QStringList{u"fly"_s} << QByteArray("unknown operation fly");
+        QTest::addRow("boolean spelled otherwise") << QStringList{u"fetchNodes"_s, u"yes"_s}
+                                                   << QByteArray("refresh must be true or false");
+        QTest::addRow("missing argument") << QStringList{u"connectNode"_s}
                                           << QByteArray("connectNode takes 1 argument(s), 0 given");
         QTest::addRow("mode not an object")
-            << QStringList{QStringLiteral("setMode"), QStringLiteral("auto")}
-            << QByteArray("mode must be a JSON object");
+            << QStringList{u"setMode"_s, u"auto"_s} << QByteArray("mode must be a JSON object");
         QTest::addRow("timeout not a number")
-            << QStringList{QStringLiteral("--timeout"), QStringLiteral("soon"),
-                           QStringLiteral("fetchStatus")}
+            << QStringList{u"--timeout"_s, u"soon"_s, u"fetchStatus"_s}
             << QByteArray("--timeout needs a whole number");
         QTest::addRow("unknown option")
-            << QStringList{QStringLiteral("--verbose"), QStringLiteral("x")}
-            << QByteArray("unknown option --verbose");
+            << QStringList{u"--verbose"_s, u"x"_s} << QByteArray("unknown option --verbose");
     }
 
     void usageErrors()
@@ -156,7 +144,7 @@ private Q_SLOTS:
         ScriptedPeer peer;
         peer.setReply(ScriptedPeer::response(200, R"({"transport":"tovravpn"})"));
         const Run mode = runCtl(
-            {QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("setMode"),
+            {u"--socket"_s, peer.socketPath(), u"setMode"_s,
              QStringLiteral(R"({"transport":"tovravpn","split_profile":{"gfwlist":true}})")});
         QCOMPARE(mode.exitCode, 0);
         QVERIFY2(peer.lastRequest().endsWith(R"(,"transport":"tovravpn"})"),
@@ -164,9 +152,8 @@ private Q_SLOTS:
         QVERIFY(peer.lastRequest().contains(R"("gfwlist":true)"));
 
         peer.setReply(ScriptedPeer::response(200, "{}"));
-        const Run dns =
-            runCtl({QStringLiteral("--socket"), peer.socketPath(),
-                    QStringLiteral("setSplitDNSLocal"), QStringLiteral("1.1.1.1, 8.8.8.8,")});
+        const Run dns = runCtl(
+            {u"--socket"_s, peer.socketPath(), u"setSplitDNSLocal"_s, u"1.1.1.1, 8.8.8.8,"_s});
         QCOMPARE(dns.exitCode, 0);
         QVERIFY(peer.lastRequest().endsWith(R"({"local_direct_dns":["1.1.1.1","8.8.8.8"]})"));
     }
@@ -178,23 +165,20 @@ private Q_SLOTS:
         QTest::addColumn<int>("exitCode");
         // The request body when the exchange happened, else the error text expected.
         QTest::addColumn<QByteArray>("expected");
-        const QString user = QStringLiteral("u@tovra.invalid");
+        const QString user = u"u@tovra.invalid"_s;
         QTest::addRow("dash, remember")
-            << QStringList{user, QStringLiteral("-"), QStringLiteral("true")}
-            << QByteArray("s3 cret\n") << 0
+            << QStringList{user, u"-"_s, u"true"_s} << QByteArray("s3 cret\n") << 0
             << QByteArray(R"("password":"s3 cret","remember_me":true)");
         QTest::addRow("dash, CRLF, no newline after")
-            << QStringList{user, QStringLiteral("-")} << QByteArray("pw\r\n") << 0
+            << QStringList{user, u"-"_s} << QByteArray("pw\r\n") << 0
             << QByteArray(R"("password":"pw","remember_me":false)");
         QTest::addRow("dash, only the first line")
-            << QStringList{user, QStringLiteral("-")} << QByteArray("first\nsecond\n") << 0
+            << QStringList{user, u"-"_s} << QByteArray("first\nsecond\n") << 0
             << QByteArray(R"("password":"first",)");
-        QTest::addRow("dash, nothing on input")
-            << QStringList{user, QStringLiteral("-")} << QByteArray() << 2
-            << QByteArray("no password on standard input");
-        QTest::addRow("dash, empty line")
-            << QStringList{user, QStringLiteral("-")} << QByteArray("\n") << 2
-            << QByteArray("the password is empty");
+        QTest::addRow("dash, nothing on input") << QStringList{user, u"-"_s} << QByteArray() << 2
+                                                << QByteArray("no password on standard input");
+        QTest::addRow("dash, empty line") << QStringList{user, u"-"_s} << QByteArray("\n") << 2
+                                          << QByteArray("the password is empty");
         QTest::addRow("missing, no terminal")
             << QStringList{user} << QByteArray("pw\n") << 2
             << QByteArray("give - to read it from standard input");
@@ -208,10 +192,9 @@ private Q_SLOTS:
         QFETCH(QByteArray, expected);
         ScriptedPeer peer;
         peer.setReply(ScriptedPeer::response(200, R"({"auth_state":"logged_in"})"));
-        const Run run = runCtl(
-            QStringList{QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("login")} +
-                arguments,
-            QString(), input);
+        const Run run =
+            runCtl(QStringList{u"--socket"_s, peer.socketPath(), u"login"_s} + arguments, QString(),
+                   input);
         QVERIFY2(run.exitCode == exitCode, run.err.constData());
         if (exitCode == 0)
             QVERIFY2(peer.lastRequest().contains(expected), peer.lastRequest().constData());
@@ -250,8 +233,7 @@ private Q_SLOTS:
         QFETCH(QStringList, arguments);
         if (!m_daemon.running())
             QVERIFY2(m_daemon.start(), qPrintable(m_daemon.errorString()));
-        const Run run =
-            runCtl(QStringList{QStringLiteral("--socket"), m_daemon.socketPath()} + arguments);
+        const Run run = runCtl(QStringList{u"--socket"_s, m_daemon.socketPath()} + arguments);
         QVERIFY2(run.exitCode == 0, run.err.constData());
         const QJsonObject record = QJsonDocument::fromJson(run.out).object();
         QCOMPARE(record.value(QLatin1String("valid")).toBool(), true);

@@ -7,12 +7,14 @@
 #include <QUrl>
 #include <QUrlQuery>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 using E = ControlEndpoints;
 constexpr int Timeout = 5000;
-const QString DemoUser = QStringLiteral("demo@tovra.invalid");
-const QString Password = QStringLiteral("demo");
+const QString DemoUser = u"demo@tovra.invalid"_s;
+const QString Password = u"demo"_s;
 
 const NodeEntry *findNode(const NodesInfo &nodes, const QString &id)
 {
@@ -44,7 +46,7 @@ private Q_SLOTS:
     void init()
     {
         m_daemon = std::make_unique<DemoDaemon>();
-        QVERIFY2(m_daemon->start({QStringLiteral("--connect-ms"), QStringLiteral("400")}),
+        QVERIFY2(m_daemon->start({u"--connect-ms"_s, u"400"_s}),
                  qPrintable(m_daemon->errorString()));
     }
 
@@ -59,14 +61,12 @@ private Q_SLOTS:
         QTest::addColumn<QString>("user");
         QTest::addColumn<QString>("password");
         QTest::addColumn<QString>("error");
-        const QString wrong = QStringLiteral("Incorrect email or password.");
+        const QString wrong = u"Incorrect email or password."_s;
         QTest::addRow("svip account") << DemoUser << Password << QString();
         QTest::addRow("user name in capitals") << DemoUser.toUpper() << Password << QString();
-        QTest::addRow("wrong password") << DemoUser << QStringLiteral("nope") << wrong;
-        QTest::addRow("unknown account")
-            << QStringLiteral("who@tovra.invalid") << Password << wrong;
-        QTest::addRow("empty user")
-            << QString() << Password << QStringLiteral("Enter account and password.");
+        QTest::addRow("wrong password") << DemoUser << u"nope"_s << wrong;
+        QTest::addRow("unknown account") << u"who@tovra.invalid"_s << Password << wrong;
+        QTest::addRow("empty user") << QString() << Password << u"Enter account and password."_s;
     }
 
     void signIn()
@@ -79,53 +79,50 @@ private Q_SLOTS:
         QCOMPARE(message, error);
         QCOMPARE(answer.valid, error.isEmpty());
         QCOMPARE(E::fetchStatus(socket(), Timeout).authState,
-                 error.isEmpty() ? QStringLiteral("logged_in") : QStringLiteral("logged_out"));
+                 error.isEmpty() ? u"logged_in"_s : u"logged_out"_s);
     }
 
     void userAndPurchaseLink()
     {
         QString error;
         QVERIFY(!E::fetchUser(socket(), Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("Sign in to see your account."));
+        QCOMPARE(error, u"Sign in to see your account."_s);
         QVERIFY(!E::connectRuntime(socket(), Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("Sign in to Tovra before connecting."));
+        QCOMPARE(error, u"Sign in to Tovra before connecting."_s);
         signInAs();
         const UserInfo user = E::fetchUser(socket(), Timeout, &error);
         QCOMPARE(error, QString());
         QCOMPARE(user.email, DemoUser);
         // The client accepts only links on the vendor host with every query item once.
-        const PurchaseURLInfo link =
-            E::fetchPurchaseURL(socket(), QStringLiteral("de"), Timeout, &error);
+        const PurchaseURLInfo link = E::fetchPurchaseURL(socket(), u"de"_s, Timeout, &error);
         QVERIFY2(link.valid, qPrintable(error));
         const QUrlQuery query(QUrl(link.url).query());
-        QCOMPARE(query.queryItemValue(QStringLiteral("lang")), QStringLiteral("de"));
-        QCOMPARE(query.queryItemValue(QStringLiteral("account")), user.userNumber);
+        QCOMPARE(query.queryItemValue(u"lang"_s), u"de"_s);
+        QCOMPARE(query.queryItemValue(u"account"_s), user.userNumber);
     }
 
     void connectGoesThroughConnecting()
     {
         signInAs();
         QString error;
-        const RuntimeInfo answer =
-            E::connectNode(socket(), QStringLiteral("1009"), Timeout, &error);
+        const RuntimeInfo answer = E::connectNode(socket(), u"1009"_s, Timeout, &error);
         QCOMPARE(error, QString());
-        QCOMPARE(answer.tunnelState, QStringLiteral("connecting"));
-        QCOMPARE(answer.selectedNode, QStringLiteral("[1009] [NL] Amsterdam 01"));
+        QCOMPARE(answer.tunnelState, u"connecting"_s);
+        QCOMPARE(answer.selectedNode, u"[1009] [NL] Amsterdam 01"_s);
         QVERIFY(answer.connectedNode.isEmpty() && answer.connectedSince.isEmpty());
 
-        QTRY_COMPARE_WITH_TIMEOUT(E::fetchStatus(socket(), Timeout).tunnelState,
-                                  QStringLiteral("connected"), 5000);
+        QTRY_COMPARE_WITH_TIMEOUT(E::fetchStatus(socket(), Timeout).tunnelState, u"connected"_s,
+                                  5000);
         const RuntimeInfo connected = E::fetchStatus(socket(), Timeout);
-        QCOMPARE(connected.connectedNode, QStringLiteral("[1009] [NL] Amsterdam 01"));
-        QCOMPARE(connected.connectedSource, QStringLiteral("node"));
+        QCOMPARE(connected.connectedNode, u"[1009] [NL] Amsterdam 01"_s);
+        QCOMPARE(connected.connectedSource, u"node"_s);
         const QDateTime since = QDateTime::fromString(connected.connectedSince, Qt::ISODate);
         QVERIFY(since.isValid() && since.timeSpec() == Qt::UTC);
-        QCOMPARE(E::fetchNodes(socket(), false, Timeout).connected.id, QStringLiteral("1009"));
+        QCOMPARE(E::fetchNodes(socket(), false, Timeout).connected.id, u"1009"_s);
 
-        QCOMPARE(E::disconnectRuntime(socket(), Timeout, &error).tunnelState,
-                 QStringLiteral("disconnecting"));
-        QTRY_COMPARE_WITH_TIMEOUT(E::fetchStatus(socket(), Timeout).tunnelState,
-                                  QStringLiteral("disconnected"), 5000);
+        QCOMPARE(E::disconnectRuntime(socket(), Timeout, &error).tunnelState, u"disconnecting"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(E::fetchStatus(socket(), Timeout).tunnelState, u"disconnected"_s,
+                                  5000);
         QVERIFY(E::fetchStatus(socket(), Timeout).connectedNode.isEmpty());
     }
 
@@ -162,7 +159,7 @@ private Q_SLOTS:
                               : E::connectRuntime(socket(), Timeout, &error);
         if (source.isEmpty()) {
             QCOMPARE(error, region);
-            QCOMPARE(E::fetchStatus(socket(), Timeout).tunnelState, QStringLiteral("disconnected"));
+            QCOMPARE(E::fetchStatus(socket(), Timeout).tunnelState, u"disconnected"_s);
             return;
         }
 
@@ -176,18 +173,18 @@ private Q_SLOTS:
 
     void freePlanRefusesSvipNode()
     {
-        signInAs(QStringLiteral("free@tovra.invalid"));
+        signInAs(u"free@tovra.invalid"_s);
         const NodesInfo nodes = E::fetchNodes(socket(), false, Timeout);
         const auto svip = std::find_if(nodes.nodes.cbegin(), nodes.nodes.cend(),
                                        [](const NodeEntry &node) { return node.type == u"svip"; });
         QVERIFY(svip != nodes.nodes.cend());
         QString error;
         QVERIFY(!E::connectNode(socket(), svip->id, Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("This location needs an SVIP plan."));
-        const RuntimeInfo smart = E::connectSmart(socket(), QStringLiteral("all"), Timeout, &error);
+        QCOMPARE(error, u"This location needs an SVIP plan."_s);
+        const RuntimeInfo smart = E::connectSmart(socket(), u"all"_s, Timeout, &error);
         QCOMPARE(error, QString());
         const QString chosen = smart.selectedNode.section(QLatin1Char(' '), 0, 0).mid(1).chopped(1);
-        QCOMPARE(findNode(nodes, chosen)->type, QStringLiteral("free"));
+        QCOMPARE(findNode(nodes, chosen)->type, u"free"_s);
     }
 
     void logoutDisconnects()
@@ -197,10 +194,10 @@ private Q_SLOTS:
         QString error;
         const RuntimeInfo answer = E::logout(socket(), Timeout, &error);
         QCOMPARE(error, QString());
-        QCOMPARE(answer.authState, QStringLiteral("logged_out"));
-        QCOMPARE(answer.tunnelReason, QStringLiteral("signed_out"));
-        QTRY_COMPARE_WITH_TIMEOUT(E::fetchStatus(socket(), Timeout).tunnelState,
-                                  QStringLiteral("disconnected"), 5000);
+        QCOMPARE(answer.authState, u"logged_out"_s);
+        QCOMPARE(answer.tunnelReason, u"signed_out"_s);
+        QTRY_COMPARE_WITH_TIMEOUT(E::fetchStatus(socket(), Timeout).tunnelState, u"disconnected"_s,
+                                  5000);
     }
 
     void catalogue()
@@ -218,9 +215,7 @@ private Q_SLOTS:
         QVERIFY(regions.size() >= 40);
 
         const NodeGroupsInfo groups = E::fetchNodeGroups(socket(), Timeout);
-        QCOMPARE(tab(groups, QStringLiteral("free")).size() +
-                     tab(groups, QStringLiteral("svip")).size(),
-                 nodes.nodes.size());
+        QCOMPARE(tab(groups, u"free"_s).size() + tab(groups, u"svip"_s).size(), nodes.nodes.size());
         const NodeGroupEntry &frankfurt = groups.groups.first().subgroups.first().subgroups.first();
         QCOMPARE(frankfurt.level, 3);
         QCOMPARE(frankfurt.nodeIds.first(), nodes.nodes.first().id);
@@ -231,7 +226,7 @@ private Q_SLOTS:
         const NodesInfo started = E::fetchNodes(socket(), true, Timeout);
         QVERIFY(started.pingRunning);
         QCOMPARE(started.nodes.last().pingMs, -1);
-        QCOMPARE(E::fetchStatus(socket(), Timeout).catalogRefresh, QStringLiteral("running"));
+        QCOMPARE(E::fetchStatus(socket(), Timeout).catalogRefresh, u"running"_s);
         QTRY_VERIFY_WITH_TIMEOUT(!E::fetchNodes(socket(), false, Timeout).pingRunning, 10000);
         for (const NodeEntry &node : E::fetchNodes(socket(), false, Timeout).nodes)
             QVERIFY(node.pingMs > 0 && node.signalLevel >= 1 && node.signalLevel <= 4);
@@ -239,28 +234,27 @@ private Q_SLOTS:
 
     void favouritesPersist()
     {
-        const QString id = QStringLiteral("1030");
-        const QString favorite = QStringLiteral("FAVORITE");
+        const QString id = u"1030"_s;
+        const QString favorite = u"FAVORITE"_s;
         QString error;
         QVERIFY(findNode(E::setNodeFavorite(socket(), id, true, Timeout, &error), id)
                     ->tags.contains(favorite));
         QVERIFY(findNode(E::fetchNodes(socket(), false, Timeout), id)->tags.contains(favorite));
-        QCOMPARE(tab(E::fetchNodeGroups(socket(), Timeout), QStringLiteral("favorite")),
-                 QStringList{id});
+        QCOMPARE(tab(E::fetchNodeGroups(socket(), Timeout), u"favorite"_s), QStringList{id});
         QVERIFY(!findNode(E::setNodeFavorite(socket(), id, false, Timeout, &error), id)
                      ->tags.contains(favorite));
-        QVERIFY(!E::setNodeFavorite(socket(), QStringLiteral("5"), true, Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("unknown location"));
+        QVERIFY(!E::setNodeFavorite(socket(), u"5"_s, true, Timeout, &error).valid);
+        QCOMPARE(error, u"unknown location"_s);
     }
 
     void modeRoundTrip()
     {
         ModeInfo wanted;
-        wanted.transport = QStringLiteral("tovravpn");
-        wanted.policy = QStringLiteral("split");
+        wanted.transport = u"tovravpn"_s;
+        wanted.policy = u"split"_s;
         wanted.splitProfile.valid = true;
-        wanted.splitProfile.defaultRoute = QStringLiteral("direct");
-        wanted.splitProfile.proxyRegions = {QStringLiteral("US"), QStringLiteral("JP")};
+        wanted.splitProfile.defaultRoute = u"direct"_s;
+        wanted.splitProfile.proxyRegions = {u"US"_s, u"JP"_s};
         wanted.splitProfile.gfwlist = true;
         QString error;
         const ModeInfo answer = E::setMode(socket(), wanted, Timeout, &error);
@@ -269,11 +263,11 @@ private Q_SLOTS:
         QCOMPARE(answer.lastTovravpnSplitProfile, answer.splitProfile);
         const RuntimeInfo status = E::fetchStatus(socket(), Timeout);
         QCOMPARE(status.mode, answer);
-        QCOMPARE(status.modeSummary, QStringLiteral("tovravpn split"));
+        QCOMPARE(status.modeSummary, u"tovravpn split"_s);
 
-        wanted.transport = QStringLiteral("teleport");
+        wanted.transport = u"teleport"_s;
         QVERIFY(!E::setMode(socket(), wanted, Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("unknown transport \"teleport\""));
+        QCOMPARE(error, u"unknown transport \"teleport\""_s);
     }
 
     void familyRestoresLastPolicy()
@@ -286,33 +280,30 @@ private Q_SLOTS:
         };
         QVERIFY(E::setMode(socket(), mode("tovravpn", "gfwlist"), Timeout).valid);
         QCOMPARE(E::setMode(socket(), mode("proxy", "global"), Timeout).lastTovravpnPolicy,
-                 QStringLiteral("gfwlist"));
+                 u"gfwlist"_s);
         const ModeInfo back = E::setMode(socket(), mode("tovravpn", ""), Timeout);
-        QCOMPARE(back.policy, QStringLiteral("gfwlist"));
-        QCOMPARE(back.lastProxyPolicy, QStringLiteral("global"));
+        QCOMPARE(back.policy, u"gfwlist"_s);
+        QCOMPARE(back.lastProxyPolicy, u"global"_s);
     }
 
     void proxyPreferences()
     {
         QString error;
-        const ModeInfo mode =
-            E::setSystemProxyPreference(socket(), QStringLiteral("on"), Timeout, &error);
-        QCOMPARE(mode.systemProxy, QStringLiteral("on"));
+        const ModeInfo mode = E::setSystemProxyPreference(socket(), u"on"_s, Timeout, &error);
+        QCOMPARE(mode.systemProxy, u"on"_s);
         QVERIFY(mode.pacPort > 0);
-        QCOMPARE(E::fetchStatus(socket(), Timeout).pacStatus.state, QStringLiteral("active"));
+        QCOMPARE(E::fetchStatus(socket(), Timeout).pacStatus.state, u"active"_s);
         QVERIFY(E::setProxyLANPreference(socket(), true, Timeout, &error).proxyLan);
         QVERIFY(!E::setProxyLANPreference(socket(), false, Timeout, &error).proxyLan);
 
-        const ProxyListenResultInfo listen = E::setProxyListeners(
-            socket(), QStringLiteral("127.0.0.1:2080"), QString(), Timeout, &error);
+        const ProxyListenResultInfo listen =
+            E::setProxyListeners(socket(), u"127.0.0.1:2080"_s, QString(), Timeout, &error);
         QCOMPARE(error, QString());
         QCOMPARE(listen.proxyListeners.size(), 1);
-        QCOMPARE(listen.proxyListeners.first().address, QStringLiteral("127.0.0.1:2080"));
+        QCOMPARE(listen.proxyListeners.first().address, u"127.0.0.1:2080"_s);
         QVERIFY(!listen.appliesOnReconnect);
-        QVERIFY(
-            !E::setProxyListeners(socket(), QStringLiteral("nowhere"), QString(), Timeout, &error)
-                 .valid);
-        QCOMPARE(error, QStringLiteral("invalid listen address \"nowhere\": use HOST:PORT"));
+        QVERIFY(!E::setProxyListeners(socket(), u"nowhere"_s, QString(), Timeout, &error).valid);
+        QCOMPARE(error, u"invalid listen address \"nowhere\": use HOST:PORT"_s);
     }
 
     void killSwitch()
@@ -320,18 +311,18 @@ private Q_SLOTS:
         QString error;
         KillSwitchInfo info = E::setKillSwitchEnabled(socket(), true, Timeout, &error);
         QVERIFY(info.enabled);
-        QCOMPARE(info.guard, QStringLiteral("active"));
+        QCOMPARE(info.guard, u"active"_s);
         ModeInfo proxy;
-        proxy.transport = QStringLiteral("proxy");
+        proxy.transport = u"proxy"_s;
         QVERIFY(!E::setMode(socket(), proxy, Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("Turn off Kill Switch before switching to Tovra Proxy."));
+        QCOMPARE(error, u"Turn off Kill Switch before switching to Tovra Proxy."_s);
 
         info = E::setKillSwitchAllowLAN(socket(), false, Timeout, &error);
         QVERIFY(!info.allowLan && info.lanDiscovery.isEmpty());
-        info = E::setKillSwitchMode(socket(), QStringLiteral("lockdown"), Timeout, &error);
-        QCOMPARE(info.mode, QStringLiteral("lockdown"));
+        info = E::setKillSwitchMode(socket(), u"lockdown"_s, Timeout, &error);
+        QCOMPARE(info.mode, u"lockdown"_s);
         QVERIFY(!E::setKillSwitchEnabled(socket(), false, Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("Kill Switch is in lockdown and cannot be turned off."));
+        QCOMPARE(error, u"Kill Switch is in lockdown and cannot be turned off."_s);
         QCOMPARE(E::fetchKillSwitch(socket(), Timeout), info);
         QCOMPARE(E::fetchStatus(socket(), Timeout).killSwitch, info);
     }
@@ -340,23 +331,21 @@ private Q_SLOTS:
     {
         QString error;
         SplitDNSInfo dns = E::fetchSplitDNS(socket(), Timeout, &error);
-        QCOMPARE(dns.localDnsSource, QStringLiteral("system"));
+        QCOMPARE(dns.localDnsSource, u"system"_s);
         QVERIFY(QFileInfo::exists(dns.configuredPath));
-        const QStringList servers{QStringLiteral("9.9.9.9"), QStringLiteral("1.1.1.1")};
+        const QStringList servers{u"9.9.9.9"_s, u"1.1.1.1"_s};
         dns = E::setSplitDNSLocal(socket(), servers, Timeout, &error);
         QCOMPARE(dns.configuredLocalDirectDns, servers);
-        QCOMPARE(dns.localDnsSource, QStringLiteral("config"));
+        QCOMPARE(dns.localDnsSource, u"config"_s);
         QVERIFY(dns.changed);
-        dns = E::setSplitDNSPolicy(socket(), QStringLiteral("remote"), Timeout, &error);
-        QCOMPARE(dns.effectivePolicy, QStringLiteral("remote"));
+        dns = E::setSplitDNSPolicy(socket(), u"remote"_s, Timeout, &error);
+        QCOMPARE(dns.effectivePolicy, u"remote"_s);
         QVERIFY(
             E::clearSplitDNSLocal(socket(), Timeout, &error).configuredLocalDirectDns.isEmpty());
-        QCOMPARE(E::resetSplitDNS(socket(), Timeout, &error).configuredPolicy,
-                 QStringLiteral("auto"));
+        QCOMPARE(E::resetSplitDNS(socket(), Timeout, &error).configuredPolicy, u"auto"_s);
         QCOMPARE(error, QString());
-        QVERIFY(
-            !E::setSplitDNSLocal(socket(), {QStringLiteral("dns.example")}, Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("\"dns.example\" is not an IP address"));
+        QVERIFY(!E::setSplitDNSLocal(socket(), {u"dns.example"_s}, Timeout, &error).valid);
+        QCOMPARE(error, u"\"dns.example\" is not an IP address"_s);
     }
 
     void languageResolves_data()
@@ -377,8 +366,8 @@ private Q_SLOTS:
         QFETCH(QString, tag);
         QFETCH(QString, effective);
         QString error;
-        const LanguageConfigInfo info = E::setLanguageIfSource(
-            socket(), QStringLiteral("system"), tag, QStringLiteral("system"), Timeout, &error);
+        const LanguageConfigInfo info =
+            E::setLanguageIfSource(socket(), u"system"_s, tag, u"system"_s, Timeout, &error);
         QCOMPARE(error, QString());
         QTEST(info.language, "language");
         QCOMPARE(info.effectiveLanguage, effective);
@@ -389,20 +378,19 @@ private Q_SLOTS:
     {
         QString error;
         LanguageConfigInfo language = E::fetchLanguageConfig(socket(), Timeout, &error);
-        QCOMPARE(language.source, QStringLiteral("system"));
+        QCOMPARE(language.source, u"system"_s);
         QVERIFY(language.supportedLanguages.size() >= 10);
-        language = E::setLanguage(socket(), QStringLiteral("user"), QStringLiteral("de_AT"),
-                                  Timeout, &error);
-        QCOMPARE(language.language, QStringLiteral("de-AT"));
-        QCOMPARE(language.effectiveLanguage, QStringLiteral("de"));
+        language = E::setLanguage(socket(), u"user"_s, u"de_AT"_s, Timeout, &error);
+        QCOMPARE(language.language, u"de-AT"_s);
+        QCOMPARE(language.effectiveLanguage, u"de"_s);
         // The system's tag applies only while the source is still "system".
-        language = E::setLanguageIfSource(socket(), QStringLiteral("system"), QStringLiteral("fr"),
-                                          QStringLiteral("system"), Timeout, &error);
-        QCOMPARE(language.language, QStringLiteral("de-AT"));
-        QCOMPARE(E::fetchStatus(socket(), Timeout).effectiveLanguage, QStringLiteral("de"));
+        language =
+            E::setLanguageIfSource(socket(), u"system"_s, u"fr"_s, u"system"_s, Timeout, &error);
+        QCOMPARE(language.language, u"de-AT"_s);
+        QCOMPARE(E::fetchStatus(socket(), Timeout).effectiveLanguage, u"de"_s);
 
-        QVERIFY(!E::setAPIURL(socket(), QStringLiteral("ftp://x"), Timeout, &error).valid);
-        QCOMPARE(error, QStringLiteral("API URL must be an http or https URL with a host"));
+        QVERIFY(!E::setAPIURL(socket(), u"ftp://x"_s, Timeout, &error).valid);
+        QCOMPARE(error, u"API URL must be an http or https URL with a host"_s);
     }
 
     // The download itself, its file and cancel are driven end to end by TestUpdateFlow; here only
@@ -416,8 +404,8 @@ private Q_SLOTS:
         QCOMPARE(QUrl(offer.artifactURL).host(), QStringLiteral(TOVRA_VENDOR_HOST));
         const GUIUpdateDownloadInfo mismatch =
             E::startGUIUpdateDownload(socket(), QStringLiteral(TOVRA_VERSION), 42, Timeout, &error);
-        QCOMPARE(mismatch.state, QStringLiteral("failed"));
-        QCOMPARE(mismatch.errorCode, QStringLiteral("release_mismatch"));
+        QCOMPARE(mismatch.state, u"failed"_s);
+        QCOMPARE(mismatch.errorCode, u"release_mismatch"_s);
     }
 
 private:
@@ -427,7 +415,7 @@ private:
         QString error;
         const RuntimeInfo info = E::login(socket(), user, Password, true, Timeout, &error);
         QVERIFY2(error.isEmpty(), qPrintable(error));
-        QCOMPARE(info.authState, QStringLiteral("logged_in"));
+        QCOMPARE(info.authState, u"logged_in"_s);
     }
 
     std::unique_ptr<DemoDaemon> m_daemon;

@@ -51,19 +51,6 @@ private Q_SLOTS:
         QCOMPARE(state.runtime(), runtime);
     }
 
-    void clearUserEmitsOnce()
-    {
-        AppState state;
-        UserInfo user;
-        user.email = u"ann@example.org"_s;
-        state.setUser(user);
-        QSignalSpy spy(&state, &AppState::userChanged);
-        state.clearUser();
-        state.clearUser();
-        QCOMPARE(spy.count(), 1);
-        QCOMPARE(state.user(), UserInfo());
-    }
-
     void cooldownCountsDownToZero()
     {
         AppState state;

@@ -298,13 +298,6 @@ private Q_SLOTS:
         QCOMPARE(instance.waitForPrimary(0, 1, &error), SingleInstanceResult::Failed);
         QVERIFY(!error.isEmpty());
     }
-
-    void destructionReleasesTheName()
-    {
-        const QString name = uniqueName();
-        QVERIFY(GuiSingleInstance(name).tryListen());
-        QVERIFY(GuiSingleInstance(name).tryListen());
-    }
 };
 
 QTEST_GUILESS_MAIN(TestGuiSingleInstance)

@@ -57,12 +57,6 @@ private Q_SLOTS:
         QTest::addColumn<QStringList>("stored");
         QTest::addColumn<QString>("added"); // blank: nothing is added, nothing written
         QTest::addColumn<QStringList>("shown");
-        QStringList forty;
-        for (int i = 0; i < 40; ++i) // five distinct, padded, then new ones from the 31st
-            forty.append(i >= 30 && i < 38 ? u"late%1"_s.arg(i - 30) : u" q%1 "_s.arg(i % 5));
-        QTest::addRow("40 stored with duplicates, 32 examined")
-            << forty << QString()
-            << QStringList{u"q0"_s, u"q1"_s, u"q2"_s, u"q3"_s, u"q4"_s, u"late0"_s, u"late1"_s};
         const QStringList twenty = ids(locations(20));
         QTest::addRow("eight shown in order") << twenty << QString() << twenty.mid(0, 8);
         QTest::addRow("blanks skipped") << QStringList{u""_s, u"  "_s, u"tokyo"_s, u" tokyo"_s}
@@ -94,12 +88,6 @@ private Q_SLOTS:
         const bool written = shown != stored;
         QCOMPARE(changed.count(), written && !added.isEmpty() ? 1 : 0);
         QCOMPARE(m_preferences->recentSearches(), written && !added.isEmpty() ? shown : stored);
-    }
-
-    void locationsReadAtMostTwenty()
-    {
-        m_preferences->setRecentNodes(locations(25));
-        QCOMPARE(RecentActivityStore(m_preferences.get()).recentLocations(), locations(20));
     }
 
     void addLocation_data()

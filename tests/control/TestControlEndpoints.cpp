@@ -106,22 +106,6 @@ private Q_SLOTS:
         QCOMPARE(request.hasContentHeaders, !body.isEmpty());
     }
 
-    void failureGivesDefaultRecordAndText()
-    {
-        ScriptedPeer peer;
-        peer.setReply(ScriptedPeer::response(401, R"({"error":"wrong password"})"));
-        QString error = u"left over"_s;
-        const RuntimeInfo info =
-            E::login(peer.socketPath(), u"a"_s, u"b"_s, false, kTimeout, &error);
-        QCOMPARE(error, u"wrong password"_s);
-        QCOMPARE(info, RuntimeInfo());
-
-        peer.setReply(ScriptedPeer::response(200, R"({"auth_state":"signed_in"})"));
-        const RuntimeInfo ok = E::login(peer.socketPath(), u"a"_s, u"b"_s, false, kTimeout, &error);
-        QCOMPARE(error, QString());
-        QCOMPARE(ok.authState, u"signed_in"_s);
-    }
-
     void version_data()
     {
         QTest::addColumn<QByteArray>("response");

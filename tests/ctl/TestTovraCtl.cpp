@@ -112,7 +112,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<QStringList>("arguments");
         QTest::addColumn<QByteArray>("problem");
-        QTest::addRow("nothing") << QStringList() << QByteArray("no operation given");
         QTest::addRow("unknown operation")
             << QStringList{u"fly"_s} << QByteArray("unknown operation fly");
         QTest::addRow("boolean spelled otherwise") << QStringList{u"fetchNodes"_s, u"yes"_s}
@@ -124,8 +123,6 @@ private Q_SLOTS:
         QTest::addRow("timeout not a number")
             << QStringList{u"--timeout"_s, u"soon"_s, u"fetchStatus"_s}
             << QByteArray("--timeout needs a whole number");
-        QTest::addRow("unknown option")
-            << QStringList{u"--verbose"_s, u"x"_s} << QByteArray("unknown option --verbose");
     }
 
     void usageErrors()

@@ -32,7 +32,6 @@ private Q_SLOTS:
         QTest::addRow("de-DE drops region") << u"de-DE"_s << u"de"_s;
         QTest::addRow("de-CH keeps region") << u"de_ch"_s << u"de-CH"_s;
         QTest::addRow("es-419 stays") << u"es-419"_s << u"es-419"_s;
-        QTest::addRow("fil base") << u"FIL-ph"_s << u"fil"_s;
         QTest::addRow("blanks and underscores") << u"  fr__CA  "_s << u"fr-CA"_s;
         QTest::addRow("posix locale name") << u"de_DE.UTF-8"_s << u"de"_s;
         QTest::addRow("locale modifier") << u"ca_ES@valencia"_s << u"ca"_s;

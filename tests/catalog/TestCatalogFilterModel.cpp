@@ -73,24 +73,6 @@ class TestCatalogFilterModel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tokenize_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("tokens");
-        const QStringList newYork{u"new"_s, u"york"_s};
-        QTest::addRow("underscore") << u"new_york"_s << newYork;
-        QTest::addRow("space, mixed case") << u"  New   YORK "_s << newYork;
-        QTest::addRow("separator runs") << u"new -_ york"_s << newYork;
-        QTest::addRow("separators only") << u" -_ \t-"_s << QStringList();
-    }
-
-    void tokenize()
-    {
-        QFETCH(QString, text);
-        QFETCH(QStringList, tokens);
-        QCOMPARE(CatalogFilterModel::tokenize(text), tokens);
-    }
-
     void filters_data()
     {
         QTest::addColumn<QString>("search");

@@ -108,8 +108,6 @@ void TestCatalogTreeModel::rowRoles_data()
     QTest::addRow("connected") << u"1001"_s << int(LocationConnectedRole) << QVariant(true);
     QTest::addRow("its continent too")
         << u"continent:eu"_s << int(LocationConnectedRole) << QVariant(true);
-    QTest::addRow("not another country")
-        << u"country:gb"_s << int(LocationConnectedRole) << QVariant(false);
     QTest::addRow("node search text") << frankfurt2 << int(LocationSearchTextRole)
                                       << QVariant(u"frankfurt 02 svip p2p premium de germany"_s);
     QTest::addRow("group flag region")

@@ -22,7 +22,6 @@ private Q_SLOTS:
         QTest::addRow("uk is no code") << u"uk"_s << u"UK"_s;
         QTest::addRow("unknown shows upper-cased") << u" zz "_s << u"ZZ"_s;
         QTest::addRow("blank gives the trimmed input") << u"   "_s << QString();
-        QTest::addRow("empty") << QString() << QString();
     }
 
     void names()

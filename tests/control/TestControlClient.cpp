@@ -257,27 +257,6 @@ private Q_SLOTS:
         }
     }
 
-    void headers()
-    {
-        const QByteArray buffer = "HTTP/1.1 409 Conflict\r\n"
-                                  "X-Tovra-Daemon-Version:  2.0.1 \r\n"
-                                  "x-tovra-daemon-version: 2.0.2\r\n"
-                                  "Content-Length: 2\r\n"
-                                  "Transfer-Encoding: identity\r\n"
-                                  ":no-name\r\n"
-                                  "no colon here\r\n"
-                                  "Empty:\r\n"
-                                  "\r\n{}";
-        ControlResponse response;
-        QVERIFY(ControlResponseParser::parse(buffer, false, &response));
-        QCOMPARE(response.statusCode, 409);
-        QCOMPARE(response.body, QByteArray("{}"));
-        // Later duplicates replace earlier ones; content-length is never kept; values are trimmed.
-        const QHash<QByteArray, QByteArray> expected{
-            {"x-tovra-daemon-version", "2.0.2"}, {"transfer-encoding", "identity"}, {"empty", ""}};
-        QCOMPARE(response.headers, expected);
-    }
-
     void socketPathOverride_data()
     {
         QTest::addColumn<QByteArray>("value");

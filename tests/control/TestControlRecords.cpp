@@ -97,7 +97,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("text");
         QTest::addRow("whole number as 7.0")
             << QByteArray(R"({"id":7.0,"name":"A"})") << u"[7] A"_s;
-        QTest::addRow("fractional id becomes 0") << QByteArray(R"({"id":7.5})") << u"[0]"_s;
         QTest::addRow("boolean id adds nothing")
             << QByteArray(R"({"id":true,"region":"DE"})") << u"[DE]"_s;
         QTest::addRow("string id") << QByteArray(R"({"id":"x1","region":"JP","name":"Tokyo 2"})")

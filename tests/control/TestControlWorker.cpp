@@ -51,20 +51,6 @@ private Q_SLOTS:
         delete m_peer;
     }
 
-    void blankPathMeansDefault_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QString>("expected");
-        QTest::addRow("blank") << u"  \t"_s << u"/run/tovracli/control.sock"_s;
-        QTest::addRow("trimmed") << u" /tmp/x.sock "_s << u"/tmp/x.sock"_s;
-    }
-
-    void blankPathMeansDefault()
-    {
-        QFETCH(QString, path);
-        QTEST(ControlWorker(path).socketPath(), "expected");
-    }
-
     void answersInRequestOrder()
     {
         // The first answer is the slowest; order must still follow the queue.

@@ -5,7 +5,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QTest>
 
 #include <memory>
@@ -14,46 +13,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// The desktop-entry rule for a quoted argument: inside double quotes a backslash escapes the
-// next character (", `, $ and \ are the ones that need it). Returns the arguments of Exec.
-QStringList parseExec(const QString &value)
-{
-    QStringList args;
-    QString current;
-    bool inQuotes = false;
-    bool haveArg = false;
-    for (qsizetype i = 0; i < value.size(); ++i) {
-        const QChar c = value.at(i);
-        if (inQuotes && c == u'\\' && i + 1 < value.size()) {
-            current.append(value.at(++i));
-        } else if (c == u'"') {
-            inQuotes = !inQuotes;
-            haveArg = true;
-        } else if (c == u' ' && !inQuotes) {
-            if (haveArg)
-                args.append(current);
-            current.clear();
-            haveArg = false;
-        } else {
-            current.append(c);
-            haveArg = true;
-        }
-    }
-    if (haveArg)
-        args.append(current);
-    return args;
-}
-
 QByteArray readFile(const QString &path)
 {
     QFile file(path);
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
-QString entryValue(const QByteArray &contents, const QString &key)
-{
-    const QRegularExpression line(u"^"_s + key + u"=(.*)$"_s, QRegularExpression::MultilineOption);
-    return line.match(QString::fromUtf8(contents)).captured(1);
 }
 
 } // namespace
@@ -94,27 +57,29 @@ private Q_SLOTS:
                  QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     }
 
-    void execRoundTrip_data()
+    void execLine_data()
     {
         QTest::addColumn<QString>("path");
-        QTest::addRow("space") << u"/home/ann/My Apps/tovra"_s;
-        QTest::addRow("double quote") << u"/home/ann/\"quoted\"/tovra"_s;
-        QTest::addRow("dollar") << u"/home/ann/$HOME/tovra"_s;
-        QTest::addRow("backquote") << u"/home/ann/`id`/tovra"_s;
-        QTest::addRow("backslash") << u"/home/ann/back\\slash/tovra"_s;
-        QTest::addRow("all at once") << u"/tmp/a b/\"c\"/$d/`e`/f\\g"_s;
-        QTest::addRow("non-ascii") << u"/home/zoë/Programme/tovra"_s;
+        QTest::addColumn<QByteArray>("exec"); // inside double quotes, \ " ` $ take a backslash
+        QTest::addRow("space") << u"/home/ann/My Apps/tovra"_s
+                               << QByteArray("\"/home/ann/My Apps/tovra\"");
+        QTest::addRow("shell characters")
+            << u"/tmp/a b/\"c\"/$d/`e`/f\\g"_s
+            << QByteArray("\"/tmp/a b/\\\"c\\\"/\\$d/\\`e\\`/f\\\\g\"");
+        QTest::addRow("non-ascii")
+            << u"/home/zoë/tovra"_s << QByteArray("\"/home/zo\xc3\xab/tovra\"");
     }
 
-    void execRoundTrip()
+    void execLine()
     {
         QFETCH(QString, path);
+        QFETCH(QByteArray, exec);
         const GuiAutostart autostart({}, path);
         QVERIFY(autostart.reconcile(true, nullptr));
         const QByteArray contents = readFile(autostart.entryPath());
-        QCOMPARE(parseExec(entryValue(contents, u"Exec"_s)),
-                 (QStringList{path, u"--tovra-autostart"_s}));
-        QCOMPARE(entryValue(contents, u"TryExec"_s), path);
+        const QByteArray lines =
+            "\nExec=" + exec + " --tovra-autostart\nTryExec=" + path.toUtf8() + '\n';
+        QVERIFY2(contents.contains(lines), contents.constData());
     }
 
     void configDirectory_data()
@@ -123,7 +88,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("xdgConfigHome");
         QTest::addColumn<QString>("expectedDir"); // relative to the temporary root
         QTest::addRow("XDG_CONFIG_HOME") << u""_s << u"xdg"_s << u"xdg"_s;
-        QTest::addRow("XDG_CONFIG_HOME blanks is unset") << u""_s << u"   "_s << u"home/.config"_s;
         QTest::addRow("XDG_CONFIG_HOME cleaned") << u""_s << u" xdg//sub/../ "_s << u"xdg"_s;
         QTest::addRow("explicit wins") << u" given/ "_s << u"xdg"_s << u"given"_s;
     }

@@ -68,12 +68,6 @@ class TestGuiSingleInstance : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void defaultServerNameIsPerUser()
-    {
-        QCOMPARE(GuiSingleInstance::defaultServerName(),
-                 u"com.tovra.Vpn.gui."_s + QString::number(::getuid()));
-    }
-
     void defaultServerPathIsPrivate_data()
     {
         QTest::addColumn<QString>("runtimeMode"); // "private", "shared" or "unset"
@@ -136,6 +130,10 @@ private Q_SLOTS:
         const DesktopAnswer answer = DesktopCommandSender(name, u"/nonexistent/tovra"_s).send({});
         QCOMPARE(answer.result, DesktopAnswer::Result::Failed);
         QVERIFY2(answer.detail.contains(u"belongs to uid 65534"_s), qPrintable(answer.detail));
+
+        // Even a socket file that looks like ours is not talked to when its peer is another user.
+        QCOMPARE(::chown(QFile::encodeName(name).constData(), ::getuid(), ::getgid()), 0);
+        QCOMPARE(GuiSingleInstance(name).acquire(), SingleInstanceResult::Primary);
 
         squatter.write("quit\n");
         QVERIFY(squatter.waitForFinished());
@@ -299,13 +297,6 @@ private Q_SLOTS:
         error.clear();
         QCOMPARE(instance.waitForPrimary(0, 1, &error), SingleInstanceResult::Failed);
         QVERIFY(!error.isEmpty());
-    }
-
-    void destructionReleasesTheName()
-    {
-        const QString name = uniqueName();
-        QVERIFY(GuiSingleInstance(name).tryListen());
-        QVERIFY(GuiSingleInstance(name).tryListen());
     }
 };
 

@@ -24,27 +24,18 @@ private Q_SLOTS:
         QTest::addColumn<QString>("tag");
         QTest::addColumn<QString>("expected");
         QTest::addRow("zh_CN") << u"zh_CN"_s << u"zh-Hans"_s;
-        QTest::addRow("ZH-cn") << u"ZH-cn"_s << u"zh-Hans"_s;
         QTest::addRow("zh-Hans-CN") << u"zh-Hans-CN"_s << u"zh-Hans"_s;
-        QTest::addRow("zh alone") << u"zh"_s << u"zh-Hans"_s;
-        QTest::addRow("zh-SG") << u"zh-sg"_s << u"zh-Hans"_s;
         QTest::addRow("zh_TW") << u"zh_TW"_s << u"zh-Hant"_s;
-        QTest::addRow("zh-hant-tw") << u"zh-hant-tw"_s << u"zh-Hant"_s;
         QTest::addRow("zh-hant script") << u"ZH-HANT"_s << u"zh-Hant"_s;
         QTest::addRow("zh-HK regional") << u"zh_hk"_s << u"zh-HK"_s;
         QTest::addRow("pt_br") << u"pt_br"_s << u"pt-BR"_s;
-        QTest::addRow("pt-PT") << u"PT-pt"_s << u"pt-PT"_s;
         QTest::addRow("de-DE drops region") << u"de-DE"_s << u"de"_s;
         QTest::addRow("de-CH keeps region") << u"de_ch"_s << u"de-CH"_s;
         QTest::addRow("es-419 stays") << u"es-419"_s << u"es-419"_s;
-        QTest::addRow("en-us") << u"en-us"_s << u"en-US"_s;
-        QTest::addRow("fil base") << u"FIL-ph"_s << u"fil"_s;
         QTest::addRow("blanks and underscores") << u"  fr__CA  "_s << u"fr-CA"_s;
         QTest::addRow("posix locale name") << u"de_DE.UTF-8"_s << u"de"_s;
         QTest::addRow("locale modifier") << u"ca_ES@valencia"_s << u"ca"_s;
         QTest::addRow("unknown language kept cased") << u"xx-yy"_s << u"xx-YY"_s;
-        QTest::addRow("unlisted region of unlisted language") << u"ur_pk"_s << u"ur-PK"_s;
-        QTest::addRow("empty") << u""_s << u""_s;
         QTest::addRow("only separators") << u" -_- "_s << u""_s;
     }
 
@@ -60,12 +51,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("tag");
         QTest::addColumn<Qt::LayoutDirection>("expected");
         QTest::addRow("fa-IR") << u"fa-IR"_s << Qt::RightToLeft;
-        QTest::addRow("ar") << u"ar"_s << Qt::RightToLeft;
         QTest::addRow("he upper") << u"HE-il"_s << Qt::RightToLeft;
-        QTest::addRow("ur") << u"ur"_s << Qt::RightToLeft;
         QTest::addRow("de") << u"de"_s << Qt::LeftToRight;
-        QTest::addRow("zh-Hant") << u"zh-Hant"_s << Qt::LeftToRight;
-        QTest::addRow("empty") << u""_s << Qt::LeftToRight;
     }
 
     void layoutDirection()
@@ -94,12 +81,8 @@ private Q_SLOTS:
             << u"zh_CN"_s << true << u"zh-Hans"_s << autoText << u"自动"_s;
         QTest::addRow("zh-TW loads the Hant file")
             << u"zh-TW"_s << true << u"zh-Hant"_s << u"KillSwitchConfirm:Off"_s << u"已關閉"_s;
-        QTest::addRow("pt_BR") << u"pt_br"_s << true << u"pt-BR"_s << u"KillSwitchConfirm:On"_s
-                               << u"Ativado"_s;
         QTest::addRow("listed but not shipped falls back")
             << u"sw"_s << false << u"en-US"_s << autoText << u"Auto"_s;
-        QTest::addRow("unknown falls back")
-            << u"xx"_s << false << u"en-US"_s << autoText << u"Auto"_s;
     }
 
     void apply()

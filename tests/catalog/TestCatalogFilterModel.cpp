@@ -6,6 +6,8 @@
 #include <QStandardItemModel>
 #include <QTest>
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 // Counts reads of the search text, so a test can tell whether the proxy filtered again.
@@ -32,20 +34,20 @@ QStandardItem *row(const QString &label, const QString &searchText)
 // zürich > "zürich 01"; japan > tokyo > "tokyo 2", "osaka 10".
 void fill(QStandardItemModel &model)
 {
-    QStandardItem *us = row(QStringLiteral("US"), QStringLiteral("united states us"));
-    QStandardItem *newYork = row(QStringLiteral("New York"), QStringLiteral("new york"));
-    newYork->appendRow(row(QStringLiteral("US East 01"), QStringLiteral("us east 01")));
-    newYork->appendRow(row(QStringLiteral("US West 02"), QStringLiteral("us west 02")));
+    QStandardItem *us = row(u"US"_s, u"united states us"_s);
+    QStandardItem *newYork = row(u"New York"_s, u"new york"_s);
+    newYork->appendRow(row(u"US East 01"_s, u"us east 01"_s));
+    newYork->appendRow(row(u"US West 02"_s, u"us west 02"_s));
     us->appendRow(newYork);
-    QStandardItem *russia = row(QStringLiteral("Russia"), QStringLiteral("russia"));
-    QStandardItem *moscow = row(QStringLiteral("Moscow"), QStringLiteral("moscow"));
-    moscow->appendRow(row(QStringLiteral("Moscow 01"), QStringLiteral("moscow 01")));
+    QStandardItem *russia = row(u"Russia"_s, u"russia"_s);
+    QStandardItem *moscow = row(u"Moscow"_s, u"moscow"_s);
+    moscow->appendRow(row(u"Moscow 01"_s, u"moscow 01"_s));
     russia->appendRow(moscow);
-    QStandardItem *swiss = row(QStringLiteral("Zürich"), QStringLiteral("zürich"));
-    swiss->appendRow(row(QStringLiteral("Zürich 01"), QStringLiteral("zürich 01")));
-    QStandardItem *japan = row(QStringLiteral("Japan"), QStringLiteral("japan jp"));
-    japan->appendRow(row(QStringLiteral("Tokyo 2"), QStringLiteral("tokyo 2")));
-    japan->appendRow(row(QStringLiteral("Osaka 10"), QStringLiteral("osaka 10")));
+    QStandardItem *swiss = row(u"Zürich"_s, u"zürich"_s);
+    swiss->appendRow(row(u"Zürich 01"_s, u"zürich 01"_s));
+    QStandardItem *japan = row(u"Japan"_s, u"japan jp"_s);
+    japan->appendRow(row(u"Tokyo 2"_s, u"tokyo 2"_s));
+    japan->appendRow(row(u"Osaka 10"_s, u"osaka 10"_s));
     model.appendRow(us);
     model.appendRow(russia);
     model.appendRow(swiss);
@@ -71,141 +73,97 @@ class TestCatalogFilterModel : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void tokenize_data();
-    void tokenize();
-    void filters_data();
-    void filters();
-    void sameTokensDoNotFilterAgain();
-    void changedSourceIsFilteredAgain();
+    void filters_data()
+    {
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<QStringList>("shown");
+        const QStringList everything{u"US"_s,         u"New York"_s, u"US East 01"_s,
+                                     u"US West 02"_s, u"Russia"_s,   u"Moscow"_s,
+                                     u"Moscow 01"_s,  u"Zürich"_s,   u"Zürich 01"_s,
+                                     u"Japan"_s,      u"Tokyo 2"_s,  u"Osaka 10"_s};
+        QTest::addRow("separators only show everything") << u" _-"_s << everything;
+        // "us" starts a word of "us west" but sits inside "russia".
+        QTest::addRow("word start, not inside a word")
+            << u"us"_s << QStringList(everything.mid(0, 4));
+        QTest::addRow("node matched through its ancestors")
+            << u"states west"_s << QStringList({u"US"_s, u"New York"_s, u"US West 02"_s});
+        QTest::addRow("group kept for a matching descendant")
+            << u"01 moscow"_s << QStringList({u"Russia"_s, u"Moscow"_s, u"Moscow 01"_s});
+        QTest::addRow("non-ascii token anywhere in the text")
+            << u"ÜRICH"_s << QStringList({u"Zürich"_s, u"Zürich 01"_s});
+        // "ü" is a letter, so "rich" does not start a word of "zürich".
+        QTest::addRow("no word start after a non-ascii letter") << u"rich"_s << QStringList();
+        QTest::addRow("every token must match")
+            << u"japan 2"_s << QStringList({u"Japan"_s, u"Tokyo 2"_s});
+        QTest::addRow("digits start a word too") << u"japan 0"_s << QStringList();
+        QTest::addRow("punctuation as plain text") << u"k."_s << QStringList();
+        QTest::addRow("more words than a row keeps bits for")
+            << u"jp "_s.repeated(64) + u"osaka"_s << QStringList({u"Japan"_s, u"Osaka 10"_s});
+        // The city between them holds neither word: it stays for the node below it.
+        QTest::addRow("more words than bits, one only above the middle row")
+            << u"us "_s.repeated(64) + u"states east"_s
+            << QStringList({u"US"_s, u"New York"_s, u"US East 01"_s});
+    }
+
+    void filters()
+    {
+        QFETCH(QString, search);
+        QFETCH(QStringList, shown);
+        QStandardItemModel source;
+        fill(source);
+        CatalogFilterModel filter;
+        QAbstractItemModelTester tester(&filter,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        filter.setSourceModel(&source);
+        filter.setFilterText(search);
+        QCOMPARE(visible(filter), shown);
+        filter.setFilterText(QString());
+        QCOMPARE(visible(filter).size(), 12);
+    }
+
+    void sameTokensDoNotFilterAgain()
+    {
+        CountingModel source;
+        fill(source);
+        CatalogFilterModel filter;
+        QAbstractItemModelTester tester(&filter,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        filter.setSourceModel(&source);
+        filter.setFilterText(u"Tokyo"_s);
+        QCOMPARE(visible(filter), QStringList({u"Japan"_s, u"Tokyo 2"_s}));
+        source.searchReads = 0;
+        QSignalSpy layout(&filter, &QAbstractItemModel::layoutChanged);
+        QSignalSpy removed(&filter, &QAbstractItemModel::rowsRemoved);
+        for (const QString &same : {u"tokyo "_s, u" TOKYO-"_s, u"tokyo"_s})
+            filter.setFilterText(same);
+        QCOMPARE(source.searchReads, 0);
+        QCOMPARE(layout.size() + removed.size(), 0);
+        filter.setFilterText(u"tokyo 2"_s);
+        QVERIFY(source.searchReads > 0);
+    }
+
+    void changedSourceIsFilteredAgain()
+    {
+        QStandardItemModel source;
+        fill(source);
+        CatalogFilterModel filter;
+        QAbstractItemModelTester tester(&filter,
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        filter.setSourceModel(&source);
+        filter.setFilterText(u"tokyo"_s);
+        QCOMPARE(visible(filter), QStringList({u"Japan"_s, u"Tokyo 2"_s}));
+        QStandardItem *japan = source.item(3);
+        // A node renamed into the search, another out of it, a new one, a whole group gone.
+        japan->child(1)->setData(u"osaka tokyo 10"_s, LocationSearchTextRole);
+        japan->child(0)->setData(u"kyoto 2"_s, LocationSearchTextRole);
+        QTRY_COMPARE(visible(filter), QStringList({u"Japan"_s, u"Osaka 10"_s}));
+        source.item(0)->child(0)->appendRow(row(u"Tokyo Lane"_s, u"tokyo lane"_s));
+        QTRY_COMPARE(visible(filter), QStringList({u"US"_s, u"New York"_s, u"Tokyo Lane"_s,
+                                                   u"Japan"_s, u"Osaka 10"_s}));
+        source.removeRow(3);
+        QTRY_COMPARE(visible(filter), QStringList({u"US"_s, u"New York"_s, u"Tokyo Lane"_s}));
+    }
 };
-
-void TestCatalogFilterModel::tokenize_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QStringList>("tokens");
-    const QStringList newYork{QStringLiteral("new"), QStringLiteral("york")};
-    QTest::addRow("underscore") << QStringLiteral("new_york") << newYork;
-    QTest::addRow("hyphen") << QStringLiteral("new-york") << newYork;
-    QTest::addRow("space, mixed case") << QStringLiteral("  New   YORK ") << newYork;
-    QTest::addRow("separator runs") << QStringLiteral("new -_ york") << newYork;
-    QTest::addRow("separators only") << QStringLiteral(" -_ \t-") << QStringList();
-    QTest::addRow("empty") << QString() << QStringList();
-}
-
-void TestCatalogFilterModel::tokenize()
-{
-    QFETCH(QString, text);
-    QFETCH(QStringList, tokens);
-    QCOMPARE(CatalogFilterModel::tokenize(text), tokens);
-}
-
-void TestCatalogFilterModel::filters_data()
-{
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<QStringList>("shown");
-    const QStringList everything{
-        QStringLiteral("US"),         QStringLiteral("New York"), QStringLiteral("US East 01"),
-        QStringLiteral("US West 02"), QStringLiteral("Russia"),   QStringLiteral("Moscow"),
-        QStringLiteral("Moscow 01"),  QStringLiteral("Zürich"),   QStringLiteral("Zürich 01"),
-        QStringLiteral("Japan"),      QStringLiteral("Tokyo 2"),  QStringLiteral("Osaka 10")};
-    QTest::addRow("separators only show everything") << QStringLiteral(" _-") << everything;
-    // "us" starts a word of "us west" but sits inside "russia".
-    QTest::addRow("word start, not inside a word")
-        << QStringLiteral("us") << QStringList(everything.mid(0, 4));
-    QTest::addRow("node matched through its ancestors")
-        << QStringLiteral("states west")
-        << QStringList(
-               {QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("US West 02")});
-    QTest::addRow("group kept for a matching descendant")
-        << QStringLiteral("01 moscow")
-        << QStringList(
-               {QStringLiteral("Russia"), QStringLiteral("Moscow"), QStringLiteral("Moscow 01")});
-    QTest::addRow("non-ascii token anywhere in the text")
-        << QStringLiteral("ÜRICH")
-        << QStringList({QStringLiteral("Zürich"), QStringLiteral("Zürich 01")});
-    // "ü" is a letter, so "rich" does not start a word of "zürich".
-    QTest::addRow("no word start after a non-ascii letter")
-        << QStringLiteral("rich") << QStringList();
-    QTest::addRow("every token must match")
-        << QStringLiteral("japan 2")
-        << QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")});
-    QTest::addRow("digits start a word too") << QStringLiteral("japan 0") << QStringList();
-    QTest::addRow("punctuation as plain text") << QStringLiteral("k.") << QStringList();
-    QTest::addRow("nothing matches") << QStringLiteral("atlantis") << QStringList();
-    QTest::addRow("more words than a row keeps bits for")
-        << QStringLiteral("jp ").repeated(64) + QStringLiteral("osaka")
-        << QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")});
-    // The city between them holds neither word: it stays for the node below it.
-    QTest::addRow("more words than bits, one only above the middle row")
-        << QStringLiteral("us ").repeated(64) + QStringLiteral("states east")
-        << QStringList(
-               {QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("US East 01")});
-}
-
-void TestCatalogFilterModel::filters()
-{
-    QFETCH(QString, search);
-    QFETCH(QStringList, shown);
-    QStandardItemModel source;
-    fill(source);
-    CatalogFilterModel filter;
-    QAbstractItemModelTester tester(&filter,
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    filter.setSourceModel(&source);
-    filter.setFilterText(search);
-    QCOMPARE(visible(filter), shown);
-    filter.setFilterText(QString());
-    QCOMPARE(visible(filter).size(), 12);
-}
-
-void TestCatalogFilterModel::sameTokensDoNotFilterAgain()
-{
-    CountingModel source;
-    fill(source);
-    CatalogFilterModel filter;
-    QAbstractItemModelTester tester(&filter,
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    filter.setSourceModel(&source);
-    filter.setFilterText(QStringLiteral("Tokyo"));
-    QCOMPARE(visible(filter), QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")}));
-    source.searchReads = 0;
-    QSignalSpy layout(&filter, &QAbstractItemModel::layoutChanged);
-    QSignalSpy removed(&filter, &QAbstractItemModel::rowsRemoved);
-    for (const QString &same :
-         {QStringLiteral("tokyo "), QStringLiteral(" TOKYO-"), QStringLiteral("tokyo")})
-        filter.setFilterText(same);
-    QCOMPARE(source.searchReads, 0);
-    QCOMPARE(layout.size() + removed.size(), 0);
-    filter.setFilterText(QStringLiteral("tokyo 2"));
-    QVERIFY(source.searchReads > 0);
-}
-
-void TestCatalogFilterModel::changedSourceIsFilteredAgain()
-{
-    QStandardItemModel source;
-    fill(source);
-    CatalogFilterModel filter;
-    QAbstractItemModelTester tester(&filter,
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    filter.setSourceModel(&source);
-    filter.setFilterText(QStringLiteral("tokyo"));
-    QCOMPARE(visible(filter), QStringList({QStringLiteral("Japan"), QStringLiteral("Tokyo 2")}));
-    QStandardItem *japan = source.item(3);
-    // A node renamed into the search, another out of it, a new one, a whole group gone.
-    japan->child(1)->setData(QStringLiteral("osaka tokyo 10"), LocationSearchTextRole);
-    japan->child(0)->setData(QStringLiteral("kyoto 2"), LocationSearchTextRole);
-    QTRY_COMPARE(visible(filter),
-                 QStringList({QStringLiteral("Japan"), QStringLiteral("Osaka 10")}));
-    source.item(0)->child(0)->appendRow(
-        row(QStringLiteral("Tokyo Lane"), QStringLiteral("tokyo lane")));
-    QTRY_COMPARE(
-        visible(filter),
-        QStringList({QStringLiteral("US"), QStringLiteral("New York"), QStringLiteral("Tokyo Lane"),
-                     QStringLiteral("Japan"), QStringLiteral("Osaka 10")}));
-    source.removeRow(3);
-    QTRY_COMPARE(visible(filter), QStringList({QStringLiteral("US"), QStringLiteral("New York"),
-                                               QStringLiteral("Tokyo Lane")}));
-}
 
 QTEST_MAIN(TestCatalogFilterModel)
 #include "TestCatalogFilterModel.moc"

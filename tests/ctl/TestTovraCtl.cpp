@@ -5,6 +5,9 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTest>
+#include <QVariantMap>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -20,7 +23,7 @@ Run runCtl(const QStringList &arguments, const QString &socketOverride = QString
 {
     QProcess process;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("TOVRA_CONTROL_SOCKET"), socketOverride);
+    environment.insert(u"TOVRA_CONTROL_SOCKET"_s, socketOverride);
     process.setProcessEnvironment(environment);
     process.start(QStringLiteral(TOVRA_BINARY_DIR "/src/ctl/tovra-ctl"), arguments);
     process.write(input);
@@ -37,273 +40,205 @@ class TestTovraCtl : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void fetchStatusPrintsRecord();
-    void rawPrintsWholeResponse();
-    void failures_data();
-    void failures();
-    void usageErrors_data();
-    void usageErrors();
-    void argumentsReachTheWire();
-    void loginPasswordFromStandardInput_data();
-    void loginPasswordFromStandardInput();
-    void everyOperationAgainstDemoDaemon_data();
-    void everyOperationAgainstDemoDaemon();
+    void fetchStatusPrintsRecord()
+    {
+        ScriptedPeer peer;
+        peer.setReply(ScriptedPeer::response(
+            200,
+            R"({"tunnel_state":"connected","mode":{"transport":"auto","policy":"split"},)"
+            R"("selected_node":{"id":3,"region":"SE","name":"Stockholm"},"kill_switch":{"enabled":true}})"));
+        // The environment override is how scripts point it at another daemon.
+        const Run run = runCtl({u"fetchStatus"_s}, peer.socketPath());
+        QCOMPARE(run.exitCode, 0);
+        QVERIFY(run.err.isEmpty());
+        const QVariantMap record = QJsonDocument::fromJson(run.out).toVariant().toMap();
+        QCOMPARE(record.value(u"valid"_s), QVariant(true));
+        QCOMPARE(record.value(u"mode_summary"_s), QVariant(u"auto split"_s));
+        QCOMPARE(record.value(u"selected_node"_s), QVariant(u"[3] [SE] Stockholm"_s));
+        QCOMPARE(record.value(u"mode"_s).toMap().value(u"local_network"_s), QVariant(u"direct"_s));
+        QCOMPARE(record.value(u"kill_switch"_s).toMap().value(u"enabled"_s), QVariant(true));
+    }
+
+    void rawPrintsWholeResponse()
+    {
+        ScriptedPeer peer;
+        peer.setReply(
+            ScriptedPeer::response(500, "{\"error\":\"x\"}", {"Zeta: last", "Alpha:  first "}));
+        const Run run = runCtl(
+            {u"--socket"_s, peer.socketPath(), u"raw"_s, u"POST"_s, u"/v1/connect"_s, u"{}"_s});
+        QCOMPARE(run.exitCode, 0);
+        QCOMPARE(run.out, QByteArray("500\nalpha: first\nzeta: last\n\n{\"error\":\"x\"}"));
+        QVERIFY(peer.lastRequest().endsWith("Content-Length: 2\r\n\r\n{}"));
+    }
+
+    void failures_data()
+    {
+        QTest::addColumn<QByteArray>("response");
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("stderr");
+
+        QTest::addRow("not running") << QByteArray() << QStringList{u"fetchStatus"_s}
+                                     << QByteArray("Tovra daemon is not running.\n");
+        QTest::addRow("raw, not running")
+            << QByteArray() << QStringList{u"raw"_s, u"GET"_s, u"/v1/status"_s}
+            << QByteArray("Tovra daemon is not running.\n");
+        QTest::addRow("daemon error")
+            << ScriptedPeer::response(401, R"({"error":"wrong password"})")
+            << QStringList{u"login"_s, u"a"_s, u"b"_s, u"false"_s}
+            << QByteArray("wrong password\n");
+        QTest::addRow("bad record")
+            << ScriptedPeer::response(200, "[]") << QStringList{u"fetchUser"_s}
+            << QByteArray("invalid user JSON\n");
+    }
+
+    void failures()
+    {
+        QFETCH(QByteArray, response);
+        QFETCH(QStringList, arguments);
+        ScriptedPeer peer;
+        QString socket = peer.socketPath() + u".absent"_s;
+        if (!response.isEmpty()) {
+            peer.setReply(response);
+            socket = peer.socketPath();
+        }
+
+        const Run run = runCtl(QStringList{u"--socket"_s, socket} + arguments);
+        QCOMPARE(run.exitCode, 1);
+        QVERIFY(run.out.isEmpty());
+        QTEST(run.err, "stderr");
+    }
+
+    void usageErrors_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("problem");
+        QTest::addRow("unknown operation")
+            << QStringList{u"fly"_s} << QByteArray("unknown operation fly");
+        QTest::addRow("boolean spelled otherwise") << QStringList{u"fetchNodes"_s, u"yes"_s}
+                                                   << QByteArray("refresh must be true or false");
+        QTest::addRow("missing argument") << QStringList{u"connectNode"_s}
+                                          << QByteArray("connectNode takes 1 argument(s), 0 given");
+        QTest::addRow("mode not an object")
+            << QStringList{u"setMode"_s, u"auto"_s} << QByteArray("mode must be a JSON object");
+        QTest::addRow("timeout not a number")
+            << QStringList{u"--timeout"_s, u"soon"_s, u"fetchStatus"_s}
+            << QByteArray("--timeout needs a whole number");
+    }
+
+    void usageErrors()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, problem);
+        const Run run = runCtl(arguments);
+        QCOMPARE(run.exitCode, 2);
+        QVERIFY2(run.err.contains(QByteArray(QByteArray("tovra-ctl: ") + problem)),
+                 run.err.constData());
+        QVERIFY(run.err.contains("Usage: tovra-ctl"));
+    }
+
+    void argumentsReachTheWire()
+    {
+        ScriptedPeer peer;
+        peer.setReply(ScriptedPeer::response(200, R"({"transport":"tovravpn"})"));
+        const Run mode = runCtl(
+            {u"--socket"_s, peer.socketPath(), u"setMode"_s,
+             QStringLiteral(R"({"transport":"tovravpn","split_profile":{"gfwlist":true}})")});
+        QCOMPARE(mode.exitCode, 0);
+        QVERIFY2(peer.lastRequest().endsWith(R"(,"transport":"tovravpn"})"),
+                 peer.lastRequest().constData());
+        QVERIFY(peer.lastRequest().contains(R"("gfwlist":true)"));
+
+        peer.setReply(ScriptedPeer::response(200, "{}"));
+        const Run dns = runCtl(
+            {u"--socket"_s, peer.socketPath(), u"setSplitDNSLocal"_s, u"1.1.1.1, 8.8.8.8,"_s});
+        QCOMPARE(dns.exitCode, 0);
+        QVERIFY(peer.lastRequest().endsWith(R"({"local_direct_dns":["1.1.1.1","8.8.8.8"]})"));
+    }
+
+    void loginPasswordFromStandardInput_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QByteArray>("input");
+        QTest::addColumn<int>("exitCode");
+        // The request body when the exchange happened, else the error text expected.
+        QTest::addColumn<QByteArray>("expected");
+        const QString user = u"u@tovra.invalid"_s;
+        QTest::addRow("dash, remember")
+            << QStringList{user, u"-"_s, u"true"_s} << QByteArray("s3 cret\n") << 0
+            << QByteArray(R"("password":"s3 cret","remember_me":true)");
+        QTest::addRow("dash, CRLF, no newline after")
+            << QStringList{user, u"-"_s} << QByteArray("pw\r\n") << 0
+            << QByteArray(R"("password":"pw","remember_me":false)");
+        QTest::addRow("dash, only the first line")
+            << QStringList{user, u"-"_s} << QByteArray("first\nsecond\n") << 0
+            << QByteArray(R"("password":"first",)");
+        QTest::addRow("dash, nothing on input") << QStringList{user, u"-"_s} << QByteArray() << 2
+                                                << QByteArray("no password on standard input");
+        QTest::addRow("dash, empty line") << QStringList{user, u"-"_s} << QByteArray("\n") << 2
+                                          << QByteArray("the password is empty");
+        QTest::addRow("missing, no terminal")
+            << QStringList{user} << QByteArray("pw\n") << 2
+            << QByteArray("give - to read it from standard input");
+    }
+
+    void loginPasswordFromStandardInput()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, input);
+        QFETCH(int, exitCode);
+        QFETCH(QByteArray, expected);
+        ScriptedPeer peer;
+        peer.setReply(ScriptedPeer::response(200, R"({"auth_state":"logged_in"})"));
+        const Run run =
+            runCtl(QStringList{u"--socket"_s, peer.socketPath(), u"login"_s} + arguments, QString(),
+                   input);
+        QVERIFY2(run.exitCode == exitCode, run.err.constData());
+        if (exitCode == 0)
+            QVERIFY2(peer.lastRequest().contains(expected), peer.lastRequest().constData());
+        else
+            QVERIFY2(run.err.contains(expected), run.err.constData());
+    }
+
+    void everyOperationAgainstDemoDaemon_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        // In this order: the daemon keeps its state from row to row. Arguments are split at blanks.
+        // clang-format off
+        for (const char *row : {
+                 "fetchVersion", "fetchAPIURLConfig", "setAPIURL https://api.tovra.invalid/",
+                 "resetAPIURL", "setAutoConnectPreference last", "fetchLanguageConfig",
+                 "setLanguage user de-DE", "setLanguageIfSource system fr-FR user",
+                 "checkUpdate 0.1.0+1", "login demo@tovra.invalid demo true", "fetchStatus",
+                 "fetchUser", "fetchPurchaseURL en", "fetchNodes false", "fetchNodes true",
+                 "setNodeFavorite 1001 true", "fetchNodeGroups", "fetchConfigPaths", "fetchKillSwitch",
+                 "setKillSwitchEnabled true", "setKillSwitchMode always", "setKillSwitchAllowLAN true",
+                 "setKillSwitchEnabled false", R"(setMode {"transport":"tovravpn","policy":"split"})",
+                 "setSystemProxyPreference on", "setLocalNetworkPreference protected",
+                 "setProxyLANPreference true", "setProxyListeners 127.0.0.1:1080 127.0.0.1:8080",
+                 "fetchSplitDNS", "setSplitDNSLocal 1.1.1.1,9.9.9.9", "setSplitDNSPolicy local",
+                 "clearSplitDNSLocal", "resetSplitDNS", "fetchSplitRules direct",
+                 "importSplitRules direct a.example\nb.example", "repairDiagnostics",
+                 "connectRuntime", "connectNode 1002", "connectSmart DE", "disconnectRuntime",
+                 "startGUIUpdateDownload 0.3.0 3000", "fetchGUIUpdateDownload",
+                 "cancelGUIUpdateDownload", "logout"})
+            QTest::newRow(QByteArray(row).left(48).constData()) << QString::fromUtf8(row).split(u' ');
+        // clang-format on
+    }
+
+    void everyOperationAgainstDemoDaemon()
+    {
+        QFETCH(QStringList, arguments);
+        if (!m_daemon.running())
+            QVERIFY2(m_daemon.start(), qPrintable(m_daemon.errorString()));
+        const Run run = runCtl(QStringList{u"--socket"_s, m_daemon.socketPath()} + arguments);
+        QVERIFY2(run.exitCode == 0, run.err.constData());
+        const QJsonObject record = QJsonDocument::fromJson(run.out).object();
+        QCOMPARE(record.value(QLatin1String("valid")).toBool(), true);
+    }
 
 private:
     DemoDaemon m_daemon;
 };
-
-void TestTovraCtl::fetchStatusPrintsRecord()
-{
-    ScriptedPeer peer;
-    peer.setReply(ScriptedPeer::response(
-        200,
-        R"({"tunnel_state":"connected","mode":{"transport":"auto","policy":"split"},)"
-        R"("selected_node":{"id":3,"region":"SE","name":"Stockholm"},"kill_switch":{"enabled":true}})"));
-    // The environment override is how scripts point it at another daemon.
-    const Run run = runCtl({QStringLiteral("fetchStatus")}, peer.socketPath());
-    QCOMPARE(run.exitCode, 0);
-    QVERIFY(run.err.isEmpty());
-    const QJsonObject record = QJsonDocument::fromJson(run.out).object();
-    QCOMPARE(record.value(QLatin1String("valid")).toBool(), true);
-    QCOMPARE(record.value(QLatin1String("tunnel_state")).toString(), QStringLiteral("connected"));
-    QCOMPARE(record.value(QLatin1String("mode_summary")).toString(), QStringLiteral("auto split"));
-    QCOMPARE(record.value(QLatin1String("selected_node")).toString(),
-             QStringLiteral("[3] [SE] Stockholm"));
-    QCOMPARE(record.value(QLatin1String("connected_node")).toString(), QString());
-    QCOMPARE(record.value(QLatin1String("mode"))
-                 .toObject()
-                 .value(QLatin1String("local_network"))
-                 .toString(),
-             QStringLiteral("direct"));
-    QCOMPARE(record.value(QLatin1String("kill_switch"))
-                 .toObject()
-                 .value(QLatin1String("enabled"))
-                 .toBool(),
-             true);
-    QVERIFY(peer.lastRequest().startsWith("GET /v1/status HTTP/1.1\r\n"));
-}
-
-void TestTovraCtl::rawPrintsWholeResponse()
-{
-    ScriptedPeer peer;
-    peer.setReply(
-        ScriptedPeer::response(500, "{\"error\":\"x\"}", {"Zeta: last", "Alpha:  first "}));
-    const Run run =
-        runCtl({QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("raw"),
-                QStringLiteral("POST"), QStringLiteral("/v1/connect"), QStringLiteral("{}")});
-    QCOMPARE(run.exitCode, 0);
-    QCOMPARE(run.out, QByteArray("500\nalpha: first\nzeta: last\n\n{\"error\":\"x\"}"));
-    QVERIFY(peer.lastRequest().endsWith("Content-Length: 2\r\n\r\n{}"));
-}
-
-void TestTovraCtl::failures_data()
-{
-    QTest::addColumn<QByteArray>("response");
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("stderr");
-
-    QTest::addRow("not running") << QByteArray() << QStringList{QStringLiteral("fetchStatus")}
-                                 << QByteArray("Tovra daemon is not running.\n");
-    QTest::addRow("raw, not running")
-        << QByteArray()
-        << QStringList{QStringLiteral("raw"), QStringLiteral("GET"), QStringLiteral("/v1/status")}
-        << QByteArray("Tovra daemon is not running.\n");
-    QTest::addRow("daemon error") << ScriptedPeer::response(401, R"({"error":"wrong password"})")
-                                  << QStringList{QStringLiteral("login"), QStringLiteral("a"),
-                                                 QStringLiteral("b"), QStringLiteral("false")}
-                                  << QByteArray("wrong password\n");
-    QTest::addRow("bad record") << ScriptedPeer::response(200, "[]")
-                                << QStringList{QStringLiteral("fetchUser")}
-                                << QByteArray("invalid user JSON\n");
-}
-
-void TestTovraCtl::failures()
-{
-    QFETCH(QByteArray, response);
-    QFETCH(QStringList, arguments);
-    ScriptedPeer peer;
-    QString socket = peer.socketPath() + QStringLiteral(".absent");
-    if (!response.isEmpty()) {
-        peer.setReply(response);
-        socket = peer.socketPath();
-    }
-    const Run run = runCtl(QStringList{QStringLiteral("--socket"), socket} + arguments);
-    QCOMPARE(run.exitCode, 1);
-    QVERIFY(run.out.isEmpty());
-    QTEST(run.err, "stderr");
-}
-
-void TestTovraCtl::usageErrors_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("problem");
-    QTest::addRow("nothing") << QStringList() << QByteArray("no operation given");
-    QTest::addRow("unknown operation")
-        << QStringList{QStringLiteral("fly")} << QByteArray("unknown operation fly");
-    QTest::addRow("boolean spelled otherwise")
-        << QStringList{QStringLiteral("fetchNodes"), QStringLiteral("yes")}
-        << QByteArray("refresh must be true or false");
-    QTest::addRow("missing argument") << QStringList{QStringLiteral("connectNode")}
-                                      << QByteArray("connectNode takes 1 argument(s), 0 given");
-    QTest::addRow("mode not an object")
-        << QStringList{QStringLiteral("setMode"), QStringLiteral("auto")}
-        << QByteArray("mode must be a JSON object");
-    QTest::addRow("timeout not a number")
-        << QStringList{QStringLiteral("--timeout"), QStringLiteral("soon"),
-                       QStringLiteral("fetchStatus")}
-        << QByteArray("--timeout needs a whole number");
-    QTest::addRow("unknown option") << QStringList{QStringLiteral("--verbose"), QStringLiteral("x")}
-                                    << QByteArray("unknown option --verbose");
-}
-
-void TestTovraCtl::usageErrors()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, problem);
-    const Run run = runCtl(arguments);
-    QCOMPARE(run.exitCode, 2);
-    QVERIFY2(run.err.contains(QByteArray(QByteArray("tovra-ctl: ") + problem)),
-             run.err.constData());
-    QVERIFY(run.err.contains("Usage: tovra-ctl"));
-}
-
-void TestTovraCtl::argumentsReachTheWire()
-{
-    ScriptedPeer peer;
-    peer.setReply(ScriptedPeer::response(200, R"({"transport":"tovravpn"})"));
-    const Run mode =
-        runCtl({QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("setMode"),
-                QStringLiteral(R"({"transport":"tovravpn","split_profile":{"gfwlist":true}})")});
-    QCOMPARE(mode.exitCode, 0);
-    QVERIFY2(peer.lastRequest().endsWith(R"(,"transport":"tovravpn"})"),
-             peer.lastRequest().constData());
-    QVERIFY(peer.lastRequest().contains(R"("gfwlist":true)"));
-
-    peer.setReply(ScriptedPeer::response(200, "{}"));
-    const Run dns =
-        runCtl({QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("setSplitDNSLocal"),
-                QStringLiteral("1.1.1.1, 8.8.8.8,")});
-    QCOMPARE(dns.exitCode, 0);
-    QVERIFY(peer.lastRequest().endsWith(R"({"local_direct_dns":["1.1.1.1","8.8.8.8"]})"));
-}
-
-void TestTovraCtl::loginPasswordFromStandardInput_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    QTest::addColumn<QByteArray>("input");
-    QTest::addColumn<int>("exitCode");
-    // The request body when the exchange happened, else the error text expected.
-    QTest::addColumn<QByteArray>("expected");
-    const QString user = QStringLiteral("u@tovra.invalid");
-    QTest::addRow("dash, remember")
-        << QStringList{user, QStringLiteral("-"), QStringLiteral("true")} << QByteArray("s3 cret\n")
-        << 0 << QByteArray(R"("password":"s3 cret","remember_me":true)");
-    QTest::addRow("dash, CRLF, no newline after")
-        << QStringList{user, QStringLiteral("-")} << QByteArray("pw\r\n") << 0
-        << QByteArray(R"("password":"pw","remember_me":false)");
-    QTest::addRow("dash, only the first line")
-        << QStringList{user, QStringLiteral("-")} << QByteArray("first\nsecond\n") << 0
-        << QByteArray(R"("password":"first",)");
-    QTest::addRow("dash, nothing on input")
-        << QStringList{user, QStringLiteral("-")} << QByteArray() << 2
-        << QByteArray("no password on standard input");
-    QTest::addRow("dash, empty line") << QStringList{user, QStringLiteral("-")} << QByteArray("\n")
-                                      << 2 << QByteArray("the password is empty");
-    QTest::addRow("missing, no terminal") << QStringList{user} << QByteArray("pw\n") << 2
-                                          << QByteArray("give - to read it from standard input");
-}
-
-void TestTovraCtl::loginPasswordFromStandardInput()
-{
-    QFETCH(QStringList, arguments);
-    QFETCH(QByteArray, input);
-    QFETCH(int, exitCode);
-    QFETCH(QByteArray, expected);
-    ScriptedPeer peer;
-    peer.setReply(ScriptedPeer::response(200, R"({"auth_state":"logged_in"})"));
-    const Run run =
-        runCtl(QStringList{QStringLiteral("--socket"), peer.socketPath(), QStringLiteral("login")} +
-                   arguments,
-               QString(), input);
-    QVERIFY2(run.exitCode == exitCode, run.err.constData());
-    if (exitCode == 0)
-        QVERIFY2(peer.lastRequest().contains(expected), peer.lastRequest().constData());
-    else
-        QVERIFY2(run.err.contains(expected), run.err.constData());
-}
-
-void TestTovraCtl::everyOperationAgainstDemoDaemon_data()
-{
-    QTest::addColumn<QStringList>("arguments");
-    // In this order: the daemon keeps its state from row to row.
-    const QList<QStringList> rows{
-        {QStringLiteral("fetchVersion")},
-        {QStringLiteral("fetchAPIURLConfig")},
-        {QStringLiteral("setAPIURL"), QStringLiteral("https://api.tovra.invalid/")},
-        {QStringLiteral("resetAPIURL")},
-        {QStringLiteral("setAutoConnectPreference"), QStringLiteral("last")},
-        {QStringLiteral("fetchLanguageConfig")},
-        {QStringLiteral("setLanguage"), QStringLiteral("user"), QStringLiteral("de-DE")},
-        {QStringLiteral("setLanguageIfSource"), QStringLiteral("system"), QStringLiteral("fr-FR"),
-         QStringLiteral("user")},
-        {QStringLiteral("checkUpdate"), QStringLiteral("0.1.0+1")},
-        {QStringLiteral("login"), QStringLiteral("demo@tovra.invalid"), QStringLiteral("demo"),
-         QStringLiteral("true")},
-        {QStringLiteral("fetchStatus")},
-        {QStringLiteral("fetchUser")},
-        {QStringLiteral("fetchPurchaseURL"), QStringLiteral("en")},
-        {QStringLiteral("fetchNodes"), QStringLiteral("false")},
-        {QStringLiteral("fetchNodes"), QStringLiteral("true")},
-        {QStringLiteral("setNodeFavorite"), QStringLiteral("1001"), QStringLiteral("true")},
-        {QStringLiteral("fetchNodeGroups")},
-        {QStringLiteral("fetchConfigPaths")},
-        {QStringLiteral("fetchKillSwitch")},
-        {QStringLiteral("setKillSwitchEnabled"), QStringLiteral("true")},
-        {QStringLiteral("setKillSwitchMode"), QStringLiteral("always")},
-        {QStringLiteral("setKillSwitchAllowLAN"), QStringLiteral("true")},
-        {QStringLiteral("setKillSwitchEnabled"), QStringLiteral("false")},
-        {QStringLiteral("setMode"), QStringLiteral(R"({"transport":"tovravpn","policy":"split"})")},
-        {QStringLiteral("setSystemProxyPreference"), QStringLiteral("on")},
-        {QStringLiteral("setLocalNetworkPreference"), QStringLiteral("protected")},
-        {QStringLiteral("setProxyLANPreference"), QStringLiteral("true")},
-        {QStringLiteral("setProxyListeners"), QStringLiteral("127.0.0.1:1080"),
-         QStringLiteral("127.0.0.1:8080")},
-        {QStringLiteral("fetchSplitDNS")},
-        {QStringLiteral("setSplitDNSLocal"), QStringLiteral("1.1.1.1,9.9.9.9")},
-        {QStringLiteral("setSplitDNSPolicy"), QStringLiteral("local")},
-        {QStringLiteral("clearSplitDNSLocal")},
-        {QStringLiteral("resetSplitDNS")},
-        {QStringLiteral("fetchSplitRules"), QStringLiteral("direct")},
-        {QStringLiteral("importSplitRules"), QStringLiteral("direct"),
-         QStringLiteral("a.example\nb.example")},
-        {QStringLiteral("repairDiagnostics")},
-        {QStringLiteral("connectRuntime")},
-        {QStringLiteral("connectNode"), QStringLiteral("1002")},
-        {QStringLiteral("connectSmart"), QStringLiteral("DE")},
-        {QStringLiteral("disconnectRuntime")},
-        {QStringLiteral("startGUIUpdateDownload"), QStringLiteral("0.3.0"), QStringLiteral("3000")},
-        {QStringLiteral("fetchGUIUpdateDownload")},
-        {QStringLiteral("cancelGUIUpdateDownload")},
-        {QStringLiteral("logout")},
-    };
-    for (const QStringList &row : rows) {
-        const QString tag = QString(row.constFirst() + u' ' + row.mid(1).join(u' ')).left(48);
-        QTest::newRow(qPrintable(tag)) << row;
-    }
-}
-
-void TestTovraCtl::everyOperationAgainstDemoDaemon()
-{
-    QFETCH(QStringList, arguments);
-    if (!m_daemon.running())
-        QVERIFY2(m_daemon.start(), qPrintable(m_daemon.errorString()));
-    const Run run =
-        runCtl(QStringList{QStringLiteral("--socket"), m_daemon.socketPath()} + arguments);
-    QVERIFY2(run.exitCode == 0, run.err.constData());
-    const QJsonObject record = QJsonDocument::fromJson(run.out).object();
-    QCOMPARE(record.value(QLatin1String("valid")).toBool(), true);
-}
 
 QTEST_GUILESS_MAIN(TestTovraCtl)
 #include "TestTovraCtl.moc"

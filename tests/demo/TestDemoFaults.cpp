@@ -1,7 +1,15 @@
 #include "ControlEndpoints.h"
 #include "DemoDaemon.h"
 
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QSignalSpy>
 #include <QTest>
+
+#include <csignal>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -28,170 +36,247 @@ bool run(const QString &operation, const QString &socket, int timeoutMs, QString
         return ControlEndpoints::fetchUser(socket, timeoutMs, error).valid;
     if (operation == QLatin1String("language"))
         return ControlEndpoints::fetchLanguageConfig(socket, timeoutMs, error).valid;
-    if (operation == QLatin1String("paths"))
-        return ControlEndpoints::fetchConfigPaths(socket, timeoutMs, error).valid;
-    if (operation == QLatin1String("killSwitch"))
-        return ControlEndpoints::fetchKillSwitch(socket, timeoutMs, error).valid;
     if (operation == QLatin1String("killSwitchMode"))
-        return ControlEndpoints::setKillSwitchMode(socket, QStringLiteral("always"), timeoutMs,
-                                                   error)
-            .valid;
-    if (operation == QLatin1String("splitDns"))
-        return ControlEndpoints::fetchSplitDNS(socket, timeoutMs, error).valid;
-    if (operation == QLatin1String("splitRules"))
-        return ControlEndpoints::fetchSplitRules(socket, QString(), timeoutMs, error).valid;
-    if (operation == QLatin1String("updateCheck"))
-        return ControlEndpoints::checkUpdate(socket, QStringLiteral("0.1.0"), timeoutMs, error)
-            .valid;
-    if (operation == QLatin1String("download"))
-        return ControlEndpoints::fetchGUIUpdateDownload(socket, timeoutMs, error).valid;
+        return ControlEndpoints::setKillSwitchMode(socket, u"always"_s, timeoutMs, error).valid;
     if (operation == QLatin1String("login"))
-        return ControlEndpoints::login(socket, QStringLiteral("demo@tovra.invalid"),
-                                       QStringLiteral("demo"), false, timeoutMs, error)
+        return ControlEndpoints::login(socket, u"demo@tovra.invalid"_s, u"demo"_s, false, timeoutMs,
+                                       error)
             .valid;
     qFatal("unknown operation");
 }
 
+// One raw exchange, for what the client library never sends.
+QByteArray exchange(const QString &socketPath, const QByteArray &request)
+{
+    QLocalSocket socket;
+    socket.connectToServer(socketPath);
+    if (!socket.waitForConnected(5000))
+        return {};
+    socket.write(request);
+    QByteArray answer;
+    QSignalSpy closed(&socket, &QLocalSocket::disconnected);
+    while (socket.state() == QLocalSocket::ConnectedState && closed.wait(5000)) {
+    }
+    answer += socket.readAll();
+    return answer;
+}
+
 } // namespace
 
-// Each fault the daemon injects reaches the client as the error text the client promises.
+// Each fault the daemon injects reaches the client as the error text the client promises; the
+// daemon as a process stops on signals, replaces a stale socket, refuses a second instance, and
+// answers what only raw requests can send.
 class TestDemoFaults : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void faultBecomesErrorText_data();
-    void faultBecomesErrorText();
-    void chunkedRecordsParse_data();
-    void chunkedRecordsParse();
-    void truncatedAnswerNeverYieldsRecord_data();
-    void truncatedAnswerNeverYieldsRecord();
-    void garbageIsNoAnswer();
-    void faultOnOnePathSparesTheRest();
+    void faultBecomesErrorText_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("operation");
+        QTest::addColumn<int>("timeoutMs");
+        QTest::addColumn<QString>("error");
+        QTest::addRow("hang past the timeout")
+            << args({"--hang", "/v1/status"}) << "status" << 500 << "control request timed out";
+        QTest::addRow("latency past the timeout")
+            << args({"--latency", "1500"}) << "status" << 300 << "control request timed out";
+        QTest::addRow("failure with default body") << args({"--fail", "/v1/nodes=503"}) << "nodes"
+                                                   << 5000 << "demo failure injected for /v1/nodes";
+        QTest::addRow("failure worded by last_error")
+            << args({"--fail",
+                     R"(/v1/nodes/groups=500:{"error":"","last_error":"catalogue offline"})"})
+            << "groups" << 5000 << "catalogue offline";
+        QTest::addRow("failure on every path") << args({"--fail", "*=503"}) << "language" << 5000
+                                               << "demo failure injected for /v1/config/language";
+        QTest::addRow("old daemon without kill switch modes")
+            << args({"--no-kill-switch-mode"}) << "killSwitchMode" << 5000
+            << "Tovra daemon is too old for Kill Switch modes. Update Tovra.";
+        QTest::addRow("incompatible daemon")
+            << args({"--incompatible"}) << "status" << 5000
+            << "control version 1 is not supported; this daemon speaks control version 2";
+    }
+
+    void faultBecomesErrorText()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, operation);
+        QFETCH(int, timeoutMs);
+        QFETCH(QString, error);
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
+        QString message;
+        QVERIFY(!run(operation, daemon.socketPath(), timeoutMs, &message));
+        QCOMPARE(message, error);
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+    void chunkedRecordsParse_data()
+    {
+        QTest::addColumn<QString>("operation");
+        // Small and large bodies, and the answer to a request that has one of its own.
+        for (const char *operation : {"status", "nodes", "groups", "login"})
+            QTest::addRow("%s", operation) << QString::fromLatin1(operation);
+    }
+
+    void chunkedRecordsParse()
+    {
+        QFETCH(QString, operation);
+        if (!m_chunked.running())
+            QVERIFY2(m_chunked.start({u"--chunked"_s}), qPrintable(m_chunked.errorString()));
+        QString error;
+        QVERIFY2(run(operation, m_chunked.socketPath(), 5000, &error), qPrintable(error));
+    }
+
+    void brokenAnswerNeverYieldsRecord_data()
+    {
+        QTest::addColumn<QStringList>("options");
+        QTest::addColumn<QString>("operation");
+        QTest::addRow("cut short, content length")
+            << args({"--truncate", "/v1/status"}) << "status";
+        QTest::addRow("cut short, chunked")
+            << args({"--chunked", "--truncate", "/v1/nodes"}) << "nodes";
+        QTest::addRow("cut short, small body") << args({"--truncate", "/v1/version"}) << "version";
+        QTest::addRow("garbage") << args({"--garbage", "/v1/status"}) << "status";
+    }
+
+    void brokenAnswerNeverYieldsRecord()
+    {
+        QFETCH(QStringList, options);
+        QFETCH(QString, operation);
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
+        QString error;
+        QVERIFY(!run(operation, daemon.socketPath(), 5000, &error));
+        QVERIFY(!error.isEmpty());
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+    void faultOnOnePathSparesTheRest()
+    {
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(args({"--hang", "/v1/nodes", "--fail", "/v1/user=500"})),
+                 qPrintable(daemon.errorString()));
+        QString error;
+        QVERIFY(!run(u"nodes"_s, daemon.socketPath(), 300, &error));
+        QCOMPARE(error, u"control request timed out"_s);
+        QVERIFY(!run(u"user"_s, daemon.socketPath(), 5000, &error));
+        QCOMPARE(error, u"demo failure injected for /v1/user"_s);
+        QVERIFY(run(u"status"_s, daemon.socketPath(), 5000, &error));
+        QVERIFY(run(u"groups"_s, daemon.socketPath(), 5000, &error));
+        QCOMPARE(error, QString());
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+    void stopsCleanlyOnSignal_data()
+    {
+        QTest::addColumn<int>("signalNumber");
+        QTest::addRow("SIGTERM") << int(SIGTERM);
+        QTest::addRow("SIGINT") << int(SIGINT);
+    }
+
+    void stopsCleanlyOnSignal()
+    {
+        QFETCH(int, signalNumber);
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+        QVERIFY(QFileInfo::exists(daemon.socketPath()));
+        QVERIFY(ControlEndpoints::fetchStatus(daemon.socketPath(), 5000).valid);
+        QVERIFY2(daemon.stop(signalNumber), qPrintable(daemon.errorString()));
+        QVERIFY(!QFileInfo::exists(QFileInfo(daemon.socketPath()).absolutePath() +
+                                   u"/tovra-demo.pid"_s));
+        QString error;
+        QVERIFY(!ControlEndpoints::fetchStatus(daemon.socketPath(), 1000, &error).valid);
+        QCOMPARE(error, u"Tovra daemon is not running."_s);
+    }
+
+    void replacesStaleSocket()
+    {
+        // A daemon killed outright leaves its socket file behind, with nobody listening.
+        DemoDaemon daemon;
+        QProcess crashed;
+        crashed.start(DemoDaemon::binaryPath(),
+                      {u"--socket"_s, daemon.socketPath(), u"--data-dir"_s, daemon.dataDir()});
+        QTRY_VERIFY(ControlEndpoints::fetchStatus(daemon.socketPath(), 1000).valid);
+        crashed.kill();
+        QVERIFY(crashed.waitForFinished());
+        QString error;
+        QVERIFY(!ControlEndpoints::fetchStatus(daemon.socketPath(), 1000, &error).valid);
+        QCOMPARE(error, u"Tovra daemon is not running."_s);
+        QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+        QVERIFY(ControlEndpoints::fetchStatus(daemon.socketPath(), 5000).valid);
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+    void refusesSecondInstance()
+    {
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+        QProcess second;
+        second.start(DemoDaemon::binaryPath(), {u"--socket"_s, daemon.socketPath()});
+        QVERIFY(second.waitForFinished(10000));
+        QCOMPARE(second.exitCode(), 1);
+        QVERIFY(second.readAllStandardError().contains("another daemon is already listening"));
+        QVERIFY(ControlEndpoints::fetchStatus(daemon.socketPath(), 5000).valid);
+        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
+    }
+
+    void rawRequests_data()
+    {
+        QTest::addColumn<QByteArray>("request");
+        QTest::addColumn<QByteArray>("statusLine");
+        QTest::addColumn<QByteArray>("expected");
+        const QByteArray v1 = "X-Tovra-Control-Version: 1\r\n";
+        QTest::addRow("missing version header")
+            << QByteArray("GET /v1/status HTTP/1.1\r\nHost: tovra\r\n\r\n")
+            << QByteArray("HTTP/1.1 409 ") << QByteArray("X-Tovra-Control-Version: 1\r\n");
+        QTest::addRow("wrong version header")
+            << QByteArray("GET /v1/status HTTP/1.1\r\nX-Tovra-Control-Version: 7\r\n\r\n")
+            << QByteArray("HTTP/1.1 409 ") << QByteArray("X-Tovra-Daemon-Version: 2.8.0-demo\r\n");
+        QTest::addRow("unknown path")
+            << QByteArray("GET /v1/nothing HTTP/1.1\r\n" + v1 + "\r\n")
+            << QByteArray("HTTP/1.1 404 ") << QByteArray("{\"error\":\"not found\"}");
+        QTest::addRow("wrong method")
+            << QByteArray("DELETE /v1/status HTTP/1.1\r\n" + v1 + "\r\n")
+            << QByteArray("HTTP/1.1 405 ") << QByteArray("Allow: GET\r\n");
+        QTest::addRow("body not JSON")
+            << QByteArray("POST /v1/mode HTTP/1.1\r\n" + v1 + "Content-Length: 5\r\n\r\n{nope")
+            << QByteArray("HTTP/1.1 400 ") << QByteArray("{\"error\":\"invalid JSON body");
+        QTest::addRow("body an array")
+            << QByteArray("POST /v1/mode HTTP/1.1\r\n" + v1 + "Content-Length: 2\r\n\r\n[]")
+            << QByteArray("HTTP/1.1 400 ")
+            << QByteArray("{\"error\":\"request body must be a JSON object\"}");
+        QTest::addRow("malformed request line")
+            << QByteArray("HELLO\r\n\r\n") << QByteArray("HTTP/1.1 400 ")
+            << QByteArray("malformed request line");
+        QTest::addRow("body with a wrong type")
+            << QByteArray("POST /v1/kill-switch HTTP/1.1\r\n" + v1 +
+                          "Content-Length: 17\r\n\r\n{\"enabled\":\"yes\"}")
+            << QByteArray("HTTP/1.1 400 ")
+            << QByteArray("{\"error\":\"\\\"enabled\\\" must be true or false\"}");
+        const QByteArray hugeId = "{\"node\":1e300,\"favorite\":true}";
+        QTest::addRow("node id out of range")
+            << QByteArray("POST /v1/nodes/favorite HTTP/1.1\r\n" + v1 + "Content-Length: " +
+                          QByteArray::number(hugeId.size()) + "\r\n\r\n" + hugeId)
+            << QByteArray("HTTP/1.1 404 ") << QByteArray("{\"error\":\"unknown location\"}");
+    }
+
+    void rawRequests()
+    {
+        QFETCH(QByteArray, request);
+        QFETCH(QByteArray, statusLine);
+        QFETCH(QByteArray, expected);
+        if (!m_raw.running())
+            QVERIFY2(m_raw.start(), qPrintable(m_raw.errorString()));
+        const QByteArray answer = exchange(m_raw.socketPath(), request);
+        QVERIFY2(answer.startsWith(statusLine), answer.constData());
+        QVERIFY2(answer.contains(expected), answer.constData());
+    }
+
+private:
+    DemoDaemon m_chunked;
+    DemoDaemon m_raw; // requests the client never sends
 };
-
-void TestDemoFaults::faultBecomesErrorText_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("operation");
-    QTest::addColumn<int>("timeoutMs");
-    QTest::addColumn<QString>("error");
-    QTest::addRow("hang past the timeout")
-        << args({"--hang", "/v1/status"}) << "status" << 500 << "control request timed out";
-    QTest::addRow("latency past the timeout")
-        << args({"--latency", "1500"}) << "status" << 300 << "control request timed out";
-    QTest::addRow("latency within the timeout")
-        << args({"--latency", "200"}) << "status" << 5000 << "";
-    QTest::addRow("failure with default body") << args({"--fail", "/v1/nodes=503"}) << "nodes"
-                                               << 5000 << "demo failure injected for /v1/nodes";
-    QTest::addRow("failure worded by last_error")
-        << args({"--fail", R"(/v1/nodes/groups=500:{"error":"","last_error":"catalogue offline"})"})
-        << "groups" << 5000 << "catalogue offline";
-    QTest::addRow("failure with a text body")
-        << args({"--fail", "/v1/status=502: upstream gone \n"}) << "status" << 5000
-        << "upstream gone";
-    QTest::addRow("failure with a numeric error")
-        << args({"--fail", R"(/v1/user=500:{"error":7})"}) << "user" << 5000 << R"({"error":7})";
-    QTest::addRow("failure on every path") << args({"--fail", "*=503"}) << "language" << 5000
-                                           << "demo failure injected for /v1/config/language";
-    QTest::addRow("old daemon without kill switch modes")
-        << args({"--no-kill-switch-mode"}) << "killSwitchMode" << 5000
-        << "Tovra daemon is too old for Kill Switch modes. Update Tovra.";
-    QTest::addRow("incompatible daemon")
-        << args({"--incompatible"}) << "status" << 5000
-        << "control version 1 is not supported; this daemon speaks control version 2";
-}
-
-void TestDemoFaults::faultBecomesErrorText()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QString, operation);
-    QFETCH(int, timeoutMs);
-    QFETCH(QString, error);
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
-    QString message;
-    const bool valid = run(operation, daemon.socketPath(), timeoutMs, &message);
-    QCOMPARE(message, error);
-    QCOMPARE(valid, error.isEmpty());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::chunkedRecordsParse_data()
-{
-    QTest::addColumn<QString>("operation");
-    const char *operations[] = {"status",   "version",    "nodes",       "groups",
-                                "language", "paths",      "killSwitch",  "killSwitchMode",
-                                "splitDns", "splitRules", "updateCheck", "download",
-                                "login"};
-    for (const char *operation : operations)
-        QTest::addRow("%s", operation) << QString::fromLatin1(operation);
-}
-
-void TestDemoFaults::chunkedRecordsParse()
-{
-    QFETCH(QString, operation);
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--chunked")}), qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(run(operation, daemon.socketPath(), 5000, &error));
-    QCOMPARE(error, QString());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::truncatedAnswerNeverYieldsRecord_data()
-{
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QString>("operation");
-    QTest::addRow("content length") << args({"--truncate", "/v1/status"}) << "status";
-    QTest::addRow("chunked") << args({"--chunked", "--truncate", "/v1/nodes"}) << "nodes";
-    QTest::addRow("small body") << args({"--truncate", "/v1/version"}) << "version";
-}
-
-void TestDemoFaults::truncatedAnswerNeverYieldsRecord()
-{
-    QFETCH(QStringList, options);
-    QFETCH(QString, operation);
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(!run(operation, daemon.socketPath(), 5000, &error));
-    QVERIFY(!error.isEmpty());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::garbageIsNoAnswer()
-{
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--garbage"), QStringLiteral("/v1/status")}),
-             qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(!run(QStringLiteral("status"), daemon.socketPath(), 5000, &error));
-    // The client reports the socket's own text for the close when it has one.
-    QVERIFY2(error == QLatin1String("invalid control response") ||
-                 error == QLatin1String("QLocalSocket: Remote closed"),
-             qPrintable(error));
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
-
-void TestDemoFaults::faultOnOnePathSparesTheRest()
-{
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--hang"), QStringLiteral("/v1/nodes"),
-                           QStringLiteral("--fail"), QStringLiteral("/v1/user=500")}),
-             qPrintable(daemon.errorString()));
-    QString error;
-    QVERIFY(!run(QStringLiteral("nodes"), daemon.socketPath(), 300, &error));
-    QCOMPARE(error, QStringLiteral("control request timed out"));
-    error.clear();
-    QVERIFY(!run(QStringLiteral("user"), daemon.socketPath(), 5000, &error));
-    QCOMPARE(error, QStringLiteral("demo failure injected for /v1/user"));
-    error.clear();
-    QVERIFY(run(QStringLiteral("status"), daemon.socketPath(), 5000, &error));
-    QVERIFY(run(QStringLiteral("groups"), daemon.socketPath(), 5000, &error));
-    QCOMPARE(error, QString());
-    QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-}
 
 QTEST_GUILESS_MAIN(TestDemoFaults)
 #include "TestDemoFaults.moc"

@@ -1,3 +1,4 @@
+#include "KillSwitchState.h"
 #include "RoutingMode.h"
 
 #include "TranslationManager.h"
@@ -39,11 +40,21 @@ ModeInfo proxySplitWith(const SplitProfileInfo &proxyProfile)
     return mode("proxy", "split", "", proxyProfile);
 }
 
+KillSwitchInfo record(bool known, bool enabled, const QString &mode = {}, const QString &guard = {})
+{
+    KillSwitchInfo result;
+    result.valid = known;
+    result.enabled = enabled;
+    result.mode = mode;
+    result.guard = guard;
+    return result;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(ModeChoice)
 
-class TestRoutingMode : public QObject
+class TestRouting : public QObject
 {
     Q_OBJECT
 
@@ -59,17 +70,14 @@ private Q_SLOTS:
         const char *split = "Tovra Proxy Split";
         // clang-format off
         QTest::addRow("auto") << mode("auto") << "Auto" << false;
-        QTest::addRow("wireguard") << mode("wireguard", "split") << "WireGuard" << false;
         QTest::addRow("tovravpn empty policy") << mode("tovravpn") << tunnel << false;
         QTest::addRow("tovravpn proxy-region")
             << mode("tovravpn", "proxy-region") << tunnelSplit << false;
         QTest::addRow("tovravpn unknown word") << mode("tovravpn", "smart") << tunnel << false;
         QTest::addRow("capital Proxy is not proxy") << mode("Proxy", "split") << "Proxy" << false;
         QTest::addRow("unknown transport as is") << mode("shadow") << "shadow" << false;
-        QTest::addRow("empty transport") << mode("", "split") << "" << false;
         QTest::addRow("proxy empty policy") << mode("proxy") << global << false;
         QTest::addRow("proxy gfwlist") << mode("proxy", "gfwlist") << split << true;
-        QTest::addRow("proxy bypass-region") << mode("proxy", "bypass-region") << split << true;
         QTest::addRow("word global")
             << mode("proxy", "split", " Global ", profile("direct")) << global << false;
         QTest::addRow("word split")
@@ -95,15 +103,6 @@ private Q_SLOTS:
         QFETCH(bool, proxySplit);
         QCOMPARE(::modeLabel(mode), label);
         QCOMPARE(isProxySplit(mode), proxySplit);
-    }
-
-    void labelIsTranslated()
-    {
-        TranslationManager translations;
-        QVERIFY(translations.apply(u"ru"_s));
-        QCOMPARE(::modeLabel(mode("auto")), u"Авто"_s);
-        QVERIFY(translations.apply(u"en"_s));
-        QCOMPARE(::modeLabel(mode("auto")), u"Auto"_s);
     }
 
     void tunnelSplit_data()
@@ -250,7 +249,45 @@ private Q_SLOTS:
         QVERIFY(changed == expected);
         QVERIFY(!(changed == current));
     }
+
+    void killSwitchWord_data()
+    {
+        QTest::addColumn<KillSwitchInfo>("record");
+        QTest::addColumn<QString>("word");
+        const QString lockdown = u"lockdown"_s;
+        const QString active = u"active"_s;
+        QTest::addRow("no record") << record(false, true, lockdown, active) << u"Unavailable"_s;
+        QTest::addRow("lockdown active, enabled")
+            << record(true, true, lockdown, active) << u"Lockdown"_s;
+        QTest::addRow("lockdown, empty state")
+            << record(true, true, lockdown) << u"Lockdown unavailable"_s;
+        QTest::addRow("lockdown, Active capital")
+            << record(true, true, lockdown, u"Active"_s) << u"Lockdown unavailable"_s;
+        QTest::addRow("Lockdown capital is ordinary")
+            << record(true, true, u"Lockdown"_s, active) << u"On"_s;
+        QTest::addRow("lockdown with blank")
+            << record(true, false, u"lockdown "_s, active) << u"Off"_s;
+        QTest::addRow("on") << record(true, true, u"auto"_s) << u"On"_s;
+        QTest::addRow("off") << record(true, false, {}, active) << u"Off"_s;
+    }
+
+    void killSwitchWord()
+    {
+        QFETCH(KillSwitchInfo, record);
+        QFETCH(QString, word);
+        QCOMPARE(killSwitchStateText(record, "TrayMenuText"), word);
+    }
+
+    void translated()
+    {
+        TranslationManager translations;
+        QVERIFY(translations.apply(u"ru"_s));
+        QCOMPARE(::modeLabel(mode("auto")), u"Авто"_s);
+        // The page's context has no entry of its own: the shared wording is used.
+        QCOMPARE(killSwitchStateText(record(true, true), "VpnPage"), u"Вкл."_s);
+        QCOMPARE(killSwitchStateText(KillSwitchInfo(), nullptr), u"Недоступно"_s);
+    }
 };
 
-QTEST_GUILESS_MAIN(TestRoutingMode)
-#include "TestRoutingMode.moc"
+QTEST_GUILESS_MAIN(TestRouting)
+#include "TestRouting.moc"

@@ -54,38 +54,6 @@ QString blueprintKey(const CatalogBlueprint &row)
     return row.group ? QLatin1String("g:") + row.id : QLatin1String("n:") + row.id;
 }
 
-QString searchTextFor(const CatalogBlueprint &row, const QString &tier,
-                      QHash<QString, QStringList> &countryWords)
-{
-    QStringList words{row.label};
-    if (row.group && row.entry) {
-        words << row.entry->name << row.entry->code;
-    } else if (row.node) {
-        words << row.node->name;
-        for (const QString &tag : row.node->tags) {
-            if (tag.compare(QLatin1String("FAVORITE"), Qt::CaseInsensitive) != 0)
-                words << tag;
-        }
-        words << tier;
-        if (tier == QLatin1String("SVIP"))
-            words << QCoreApplication::translate("CatalogTreeModel", "Premium");
-    }
-    if (!row.region.isEmpty() && (!row.group || row.country)) {
-        // The table is scanned once per country, not once per node.
-        auto found = countryWords.constFind(row.region);
-        if (found == countryWords.cend()) {
-            found = countryWords.insert(
-                row.region, {row.region, countryEnglishName(row.region), countryName(row.region)});
-        }
-        words << found.value();
-    }
-    for (QString &word : words)
-        word = word.trimmed().toLower();
-    words.removeAll(QString());
-    words.removeDuplicates();
-    return words.join(QLatin1Char(' '));
-}
-
 } // namespace
 
 CatalogTreeModel::CatalogTreeModel(QObject *parent)
@@ -419,7 +387,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->tier = CatalogTreeBuilder::tierOf(node);
             item->label = blueprint.label;
             item->region = blueprint.region;
-            item->searchText = searchTextFor(blueprint, item->tier, m_countryWords);
+            item->searchText = m_searchTexts.text(blueprint, item->tier);
             change |= TextChange;
         }
         set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1, StateChange);
@@ -440,7 +408,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->groupName = name;
             item->groupCode = code;
             item->country = blueprint.country;
-            item->searchText = searchTextFor(blueprint, QString(), m_countryWords);
+            item->searchText = m_searchTexts.text(blueprint, QString());
             change |= TextChange;
         }
         set(item->pingMs, blueprint.bestPingMs, StateChange);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CatalogSearchText.h"
 #include "CatalogTreeBuilder.h"
 #include "NodeGroupsInfo.h"
 #include "NodesInfo.h"
@@ -83,5 +84,5 @@ private:
     mutable QHash<QString, const Item *> m_byNode;
     mutable QHash<QString, const Item *> m_bySelector;
     mutable bool m_lookupValid = false;
-    mutable QHash<QString, QStringList> m_countryWords; // region -> its words for the search
+    mutable CatalogSearchText m_searchTexts;
 };

@@ -172,7 +172,7 @@ void TestCatalogFilterModel::sameTokensDoNotFilterAgain()
     QCOMPARE(source.searchReads, 0);
     QCOMPARE(layout.size() + removed.size(), 0);
     filter.setFilterText(QStringLiteral("tokyo 2"));
-    QVERIFY(source.searchReads > 0);
+    QCOMPARE(layout.size(), 1);
 }
 
 void TestCatalogFilterModel::changedSourceIsFilteredAgain()

@@ -43,6 +43,19 @@ bool forEachRow(const QAbstractItemModel *model, const QModelIndex &parent, Visi
     return true;
 }
 
+// Calls visit(index) for every group of the model (a row with rows below it), parents first.
+template<typename Visit>
+void forEachGroup(const QAbstractItemModel *model, const QModelIndex &parent, Visit &&visit)
+{
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex index = model->index(row, 0, parent);
+        if (model->hasChildren(index)) {
+            visit(index);
+            forEachGroup(model, index, visit);
+        }
+    }
+}
+
 // Down moves from the search field into the tree; Escape empties the field.
 class SearchKeys : public QObject
 {
@@ -393,13 +406,14 @@ void LocationsPage::typeIntoSearch(const QString &text)
     m_search->insert(text);
 }
 
+// Both walk the catalogue's groups in the source model: through the filter, every group and
+// node would get a row table of its own.
 QSet<QString> LocationsPage::expandedSelectors() const
 {
     QSet<QString> selectors;
-    forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-        if (m_tree->isExpanded(index))
-            selectors.insert(index.data(LocationSelectorRole).toString());
-        return true;
+    forEachGroup(m_model, {}, [&](const QModelIndex &group) {
+        if (m_tree->isExpanded(m_filter->mapFromSource(group)))
+            selectors.insert(group.data(LocationSelectorRole).toString());
     });
     return selectors;
 }
@@ -408,11 +422,9 @@ void LocationsPage::restoreExpansion(const QSet<QString> &selectors)
 {
     QModelIndexList groups;
     if (!selectors.isEmpty()) {
-        forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-            if (index.data(LocationIsGroupRole).toBool() &&
-                selectors.contains(index.data(LocationSelectorRole).toString()))
-                groups.append(index);
-            return true;
+        forEachGroup(m_model, {}, [&](const QModelIndex &group) {
+            if (selectors.contains(group.data(LocationSelectorRole).toString()))
+                groups.append(m_filter->mapFromSource(group));
         });
     }
     m_tree->expandOnly(groups);

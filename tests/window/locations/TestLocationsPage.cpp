@@ -44,6 +44,7 @@ private Q_SLOTS:
     void keyboardIntents_data();
     void keyboardIntents();
     void emptyStatesSayWhy();
+    void clearedSearchRestoresExpansion();
     void refreshShowsCooldown();
 
 private:
@@ -166,6 +167,28 @@ void TestLocationsPage::emptyStatesSayWhy()
     search->clear();
     QVERIFY(says("No favourites yet"));
     QVERIFY(!tabs->property("tovraSearchGlobal").toBool());
+}
+
+void TestLocationsPage::clearedSearchRestoresExpansion()
+{
+    m_state->setRuntime(runningDaemon());
+    loadInto(*m_state, CatalogFixture::small());
+    m_page->refresh(*m_state);
+    auto *tree = m_page->findChild<QTreeView *>(QStringLiteral("TovraLocationsTree"));
+    auto *search = m_page->findChild<QLineEdit *>(QStringLiteral("TovraLocationsSearch"));
+    const auto expanded = [&](const char *selector) {
+        return tree->isExpanded(m_page->filterModel()->mapFromSource(
+            m_page->catalogModel()->indexForSelector(QLatin1String(selector))));
+    };
+    tree->expand(m_page->filterModel()->index(0, 0)); // Europe
+    // A city opened under a folded country stays open for when the country is unfolded.
+    tree->expand(m_page->filterModel()->mapFromSource(
+        m_page->catalogModel()->indexForSelector(QStringLiteral("city:de:berlin"))));
+    search->setText(QStringLiteral("tokyo"));
+    QVERIFY(expanded("continent:as"));
+    search->clear();
+    QVERIFY(expanded("continent:eu"));
+    QVERIFY(expanded("city:de:berlin"));
 }
 
 void TestLocationsPage::refreshShowsCooldown()

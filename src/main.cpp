@@ -12,6 +12,7 @@
 #include "TranslationManager.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QIcon>
 #include <QTimer>
 
@@ -40,6 +41,32 @@ QString startupLanguage(const QString &socketPath, GuiPreferences &preferences)
     return stored.isEmpty() ? TranslationManager::systemLanguage() : stored;
 }
 
+// Sets the application icon once the first window is on screen. The icon is a 256-pixel picture
+// that each window hands to the window manager: set before, it only delays the first paint.
+class WindowIconAfterFirstExpose : public QObject
+{
+public:
+    explicit WindowIconAfterFirstExpose(QObject *parent)
+        : QObject(parent)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Expose) {
+            QCoreApplication::instance()->removeEventFilter(this);
+            // After this expose has been painted.
+            QTimer::singleShot(0, this, [this] {
+                QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.png")));
+                deleteLater();
+            });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -50,7 +77,7 @@ int main(int argc, char *argv[])
     QApplication::setOrganizationName(QStringLiteral("Tovra"));
     // Ties the windows to the installed application entry (the Wayland app id).
     QGuiApplication::setDesktopFileName(QLatin1String(kTovraAppId));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.png")));
+    new WindowIconAfterFirstExpose(&app);
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QStringList arguments = QApplication::arguments();

@@ -59,6 +59,8 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     // with the sheet, instead of being restyled after construction.
     const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
     setPalette(ThemeEngine::buildPalette(colors));
+    // Polished first: a sheet set on a window not yet polished is read again when it is.
+    ensurePolished();
     setStyleSheet(ThemeEngine::renderStyleSheet(colors, layoutDirection()));
 
     auto *closeAction = new QAction(this);
@@ -180,6 +182,7 @@ void MainWindow::wirePage(int index, QWidget *built)
         break;
     case AccountPageIndex:
         m_accountPage = static_cast<AccountPage *>(built);
+        m_accountPage->setDaemonUnavailableReason(m_daemonUnavailableReason);
         connectAccountPage(m_accountPage);
         break;
     default:
@@ -431,9 +434,9 @@ void MainWindow::clearAccountMessage()
 
 void MainWindow::setDaemonUnavailableReason(const QString &reason)
 {
-    if (m_accountPage || !reason.isEmpty()) {
-        builtPage<AccountPage>(AccountPageIndex)->setDaemonUnavailableReason(reason);
-    }
+    m_daemonUnavailableReason = reason; // for the account page when it is built
+    if (m_accountPage)
+        m_accountPage->setDaemonUnavailableReason(reason);
     m_vpnPage->setDaemonUnavailableReason(reason);
 }
 

@@ -171,6 +171,7 @@ private:
     ModePage *m_modePage = nullptr;
     SettingsPage *m_settingsPage = nullptr;
     AccountPage *m_accountPage = nullptr;
+    QString m_daemonUnavailableReason;
     NotificationHost *m_notifications = nullptr;
 
     DelayedBusyIndicator *m_modeBusy = nullptr;

@@ -73,6 +73,7 @@ public Q_SLOTS:
 
 private:
     void tickCooldown();
+    void trimHeapSoon();
 
     RuntimeInfo m_runtime;
     UserInfo m_user;
@@ -88,4 +89,5 @@ private:
     SplitRulesInfo m_splitRules;
     unsigned m_nodesRefreshCooldown = 0;
     QTimer *m_cooldownTimer;
+    QTimer *m_heapTrimTimer;
 };

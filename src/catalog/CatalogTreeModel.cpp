@@ -556,6 +556,7 @@ void CatalogTreeModel::buildLookup() const
     if (m_lookupValid)
         return;
     m_byNode.clear();
+    m_byNode.reserve(m_nodes.nodes.size());
     m_bySelector.clear();
     std::vector<const Item *> stack{m_root.get()};
     // Pre-order, so the first row of a node listed twice wins.

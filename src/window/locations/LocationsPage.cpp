@@ -230,7 +230,9 @@ void LocationsPage::refresh(const AppState &state)
     m_cooldown = state.nodesRefreshCooldown();
     m_toolbar->setCooldown(m_cooldown);
     updateEmptyState();
-    updateStatusLine();
+    // Counting the nodes indexes the whole tree: in an event of its own, not on top of a rebuild.
+    if (!m_statusTimer->isActive())
+        m_statusTimer->start();
 }
 
 void LocationsPage::applyTheme(const ThemeColors &colors)

@@ -22,6 +22,14 @@ const char kRestartShowWindow[] = "--tovra-restart-show-window";
 const char kLanguageRestart[] = "--tovra-language-restart";
 const char kAutostart[] = "--tovra-autostart";
 
+// Stores the language only when it changed: each store writes and flushes the settings file,
+// which on a busy disk holds up the first paint by milliseconds.
+void storeLastEffectiveLanguage(GuiPreferences &preferences, const QString &tag)
+{
+    if (preferences.lastEffectiveLanguage() != tag)
+        preferences.setLastEffectiveLanguage(tag);
+}
+
 // The interface language is settled before any widget exists; the daemon owns the setting.
 QString startupLanguage(const QString &socketPath, GuiPreferences &preferences)
 {
@@ -33,7 +41,7 @@ QString startupLanguage(const QString &socketPath, GuiPreferences &preferences)
             tag = status.language.trimmed();
         if (!tag.isEmpty()) {
             tag = TranslationManager::normalize(tag);
-            preferences.setLastEffectiveLanguage(tag);
+            storeLastEffectiveLanguage(preferences, tag);
             return tag;
         }
     }
@@ -117,7 +125,7 @@ int main(int argc, char *argv[])
     TranslationManager translations;
     if (!translations.apply(language))
         translations.apply(TranslationManager::defaultLanguage());
-    preferences.setLastEffectiveLanguage(translations.currentLanguage());
+    storeLastEffectiveLanguage(preferences, translations.currentLanguage());
 
     TovraAppShell shell(nullptr, socketPath, &preferences);
     shell.setCurrentEffectiveLanguage(translations.currentLanguage());

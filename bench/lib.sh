@@ -43,8 +43,13 @@ row() { # WHAT CLIENT FLOOR UNIT [MAX_RATIO] [MAX_CLIENT]
 header() { printf '%-48s %12s %12s %8s %9s\n' measure client floor ratio target; }
 section() { printf -- '-- %s\n' "$1"; }
 
-# Xvfb with trayer docked at the top right, for the programs started after it.
+# Xvfb with trayer docked at the top right, and a session bus, as a desktop session has (without
+# one, the first D-Bus client would have one started through the X server and wait for it).
 start_x() {
+    dbus-daemon --session --nofork --address="unix:path=$work/bus" >/dev/null 2>&1 &
+    pids+=($!)
+    wait_for 10 test -S "$work/bus"
+    export DBUS_SESSION_BUS_ADDRESS="unix:path=$work/bus"
     Xvfb -displayfd 5 -screen 0 1280x800x24 -nolisten tcp 5>"$work/display" 2>/dev/null &
     pids+=($!)
     wait_for 10 test -s "$work/display"
@@ -60,8 +65,9 @@ start_x() {
 # The demo daemon, signed in, replacing the one before. ARGS go to the daemon.
 start_daemon() { # ARGS...
     if [[ -n ${daemon_pid:-} ]]; then kill "$daemon_pid"; wait "$daemon_pid" 2>/dev/null || true; fi
-    rm -f "$work/control.sock"
-    rm -rf "$work/daemon"
+    # The logs go before the programs start: the shell opens them in the background, and the
+    # waits below must not read the last run's lines.
+    rm -rf "$work/control.sock" "$work/daemon" "$work/daemon.log"
     "$daemon" --socket "$work/control.sock" --data-dir "$work/daemon" "$@" >"$work/daemon.log" 2>&1 &
     daemon_pid=$!
     pids+=("$daemon_pid")
@@ -87,6 +93,7 @@ client_env=(env XDG_CONFIG_HOME="$work/config" XDG_RUNTIME_DIR="$work/runtime" T
 # ping run goes on changing rows for a few seconds.
 client_on_locations() { # NODES
     fresh_config
+    rm -f "$work/client.log"
     TOVRA_GUI_TEXT_LOG=1 "${client_env[@]}" "$client" >"$work/client.log" 2>&1 &
     pid=$!
     wait_for 20 grep -q '^tovra.text: window.page: VPN' "$work/client.log"
@@ -96,6 +103,7 @@ client_on_locations() { # NODES
     sleep 3
 }
 plain_on_locations() { # NODES
+    rm -f "$work/plain.log"
     "${client_env[@]}" "$build/bench/tovra-bench-plain-locations" "$work/control.sock" \
         >"$work/plain.log" 2>&1 &
     pid=$!

@@ -25,11 +25,17 @@ measure_start() { # PROGRAM CLASS
     wait_for 5 bash -c "! xwininfo -root -tree 2>/dev/null | grep -qE '\(\"$2\" '"
 }
 
-declare -A startup rss cpu
+# In turns, so that a change in the machine's load falls on both alike.
+measure_start "$client" tovra >/dev/null # warm the file cache
+measure_start "$bare" tovra-bench-bare-tray >/dev/null
+for _ in $(seq "$runs"); do
+    measure_start "$client" tovra >>"$work/start-client"
+    measure_start "$bare" tovra-bench-bare-tray >>"$work/start-bare"
+done
+declare -A startup=([client]=$(median <"$work/start-client") [bare]=$(median <"$work/start-bare"))
+declare -A rss cpu
 for app in client bare; do
     if [[ $app == client ]]; then binary=$client class=tovra; else binary=$bare class=tovra-bench-bare-tray; fi
-    measure_start "$binary" "$class" >/dev/null # warm the file cache
-    startup[$app]=$(for _ in $(seq "$runs"); do measure_start "$binary" "$class"; done | median)
     fresh_config false
     "${client_env[@]}" "$binary" >/dev/null 2>&1 &
     pid=$!

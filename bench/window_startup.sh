@@ -21,12 +21,14 @@ first_paint() { # PROGRAM
     stop "$pid"
     echo "$ms"
 }
-declare -A paint
-for app in client bare; do
-    if [[ $app == client ]]; then binary=$client; else binary=$bare; fi
-    first_paint "$binary" >/dev/null # warm the file cache
-    paint[$app]=$(for _ in $(seq "$runs"); do first_paint "$binary"; done | median)
+# In turns, so that a change in the machine's load falls on both alike.
+first_paint "$client" >/dev/null # warm the file cache
+first_paint "$bare" >/dev/null
+for _ in $(seq "$runs"); do
+    first_paint "$client" >>"$work/paint-client"
+    first_paint "$bare" >>"$work/paint-bare"
 done
+declare -A paint=([client]=$(median <"$work/paint-client") [bare]=$(median <"$work/paint-bare"))
 
 declare -A rss
 for nodes in 154 10000; do

@@ -44,7 +44,7 @@ const QStringList &CatalogSearchText::countryWords(const QString &region)
     return found.value();
 }
 
-QString CatalogSearchText::text(const CatalogBlueprint &row, const QString &tier)
+QString CatalogSearchText::text(const Row &row)
 {
     QVarLengthArray<QString, 12> words;
     qsizetype length = 0;
@@ -56,21 +56,17 @@ QString CatalogSearchText::text(const CatalogBlueprint &row, const QString &tier
         words.append(std::move(next));
     };
     add(row.label);
-    if (row.group && row.entry) {
-        add(row.entry->name);
-        add(row.entry->code);
-    } else if (row.node) {
-        if (row.node->name != row.label)
-            add(row.node->name);
-        for (const QString &tag : row.node->tags) {
-            if (tag.compare(QLatin1String("FAVORITE"), Qt::CaseInsensitive) != 0)
-                add(tag);
-        }
-        add(tier);
-        if (tier == QLatin1String("SVIP"))
-            add(QCoreApplication::translate("CatalogTreeModel", "Premium"));
+    if (row.name != row.label)
+        add(row.name);
+    add(row.code);
+    for (const QString &tag : row.tags) {
+        if (tag.compare(QLatin1String("FAVORITE"), Qt::CaseInsensitive) != 0)
+            add(tag);
     }
-    if (!row.region.isEmpty() && (!row.group || row.country)) {
+    add(row.tier);
+    if (row.tier == QLatin1String("SVIP"))
+        add(QCoreApplication::translate("CatalogTreeModel", "Premium"));
+    if (row.withCountry && !row.region.isEmpty()) {
         for (const QString &word : countryWords(row.region))
             add(word, true);
     }

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "CatalogTreeBuilder.h"
-
 #include <QHash>
 #include <QString>
 #include <QStringList>
@@ -13,7 +11,18 @@
 class CatalogSearchText
 {
 public:
-    QString text(const CatalogBlueprint &row, const QString &tier);
+    struct Row
+    {
+        const QString &label;
+        const QString &name; // the group's or the node's
+        const QString &code; // groups only
+        const QStringList &tags;
+        const QString &tier;
+        const QString &region;
+        bool withCountry = false; // the country's words too (nodes, and groups of one country)
+    };
+
+    QString text(const Row &row);
 
 private:
     const QStringList &countryWords(const QString &region);

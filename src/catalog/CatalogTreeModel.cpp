@@ -28,7 +28,8 @@ struct CatalogTreeModel::Item
     QString groupName; // groups: the daemon's name and code the texts were made from
     QString groupCode;
     QString label;
-    QString searchText;
+    QString searchText; // made when first asked for: most rows are never searched
+    bool textsMade = false;
     QString region;
     QString tier;
     bool country = false;
@@ -379,7 +380,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
     if (blueprint.node) {
         const NodeEntry &node = *blueprint.node;
         item->nodeIndex = blueprint.node - m_nodes.nodes.constData();
-        const bool textsStale = item->searchText.isEmpty() || item->node.name != node.name ||
+        const bool textsStale = !item->textsMade || item->node.name != node.name ||
                                 item->node.region != node.region || item->node.tags != node.tags ||
                                 item->node.type != node.type;
         if (textsStale) {
@@ -387,7 +388,8 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->tier = CatalogTreeBuilder::tierOf(node);
             item->label = blueprint.label;
             item->region = blueprint.region;
-            item->searchText = m_searchTexts.text(blueprint, item->tier);
+            item->textsMade = true;
+            item->searchText.clear();
             change |= TextChange;
         }
         set(item->pingMs, node.pingMs >= 0 ? node.pingMs : -1, StateChange);
@@ -400,7 +402,7 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
     } else {
         const QString name = blueprint.entry ? blueprint.entry->name : QString();
         const QString code = blueprint.entry ? blueprint.entry->code : QString();
-        if (item->searchText.isEmpty() || item->label != blueprint.label ||
+        if (!item->textsMade || item->label != blueprint.label ||
             item->region != blueprint.region || item->groupName != name ||
             item->groupCode != code || item->country != blueprint.country) {
             item->label = blueprint.label;
@@ -408,7 +410,8 @@ int CatalogTreeModel::apply(Item *item, const CatalogBlueprint &blueprint) const
             item->groupName = name;
             item->groupCode = code;
             item->country = blueprint.country;
-            item->searchText = m_searchTexts.text(blueprint, QString());
+            item->textsMade = true;
+            item->searchText.clear();
             change |= TextChange;
         }
         set(item->pingMs, blueprint.bestPingMs, StateChange);
@@ -499,6 +502,18 @@ QString CatalogTreeModel::accessibleText(const Item *item) const
     return parts.join(QLatin1String(", "));
 }
 
+const QString &CatalogTreeModel::searchTextOf(const Item *item) const
+{
+    auto *row = const_cast<Item *>(item);
+    if (row->searchText.isNull()) {
+        row->searchText =
+            m_searchTexts.text({row->label, row->group ? row->groupName : row->node.name,
+                                row->groupCode, row->group ? QStringList() : row->node.tags,
+                                row->tier, row->region, !row->group || row->country});
+    }
+    return row->searchText;
+}
+
 QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.column() != 0)
@@ -518,7 +533,7 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
             return tr("Your plan does not include this location. Upgrade to use it.");
         return item->stale ? tr("This list may be out of date.") : QVariant();
     case LocationSearchTextRole:
-        return item->searchText;
+        return searchTextOf(item);
     case LocationNodeIdRole:
         return item->group ? QString() : item->id;
     case LocationPingMsRole:

@@ -73,6 +73,7 @@ private:
     Item *itemAt(const QModelIndex &index) const;
     void buildLookup() const;
     QString accessibleText(const Item *item) const;
+    const QString &searchTextOf(const Item *item) const;
 
     NodeGroupsInfo m_groups;
     NodesInfo m_nodes;

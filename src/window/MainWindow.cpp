@@ -27,6 +27,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QUrlQuery>
 #include <QVBoxLayout>
 #include <QWindow>
@@ -578,6 +579,9 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
     if (watched == windowHandle() && event->type() == QEvent::Expose &&
         windowHandle()->isExposed()) {
         windowHandle()->removeEventFilter(this);
+        if (guiTextLogEnabled()) // the first picture, once this expose has painted it
+            QTimer::singleShot(0, this,
+                               [this] { guiTextLog("window.shown", m_pageTitle->text()); });
         m_stack->buildRemainingPages();
     }
     return QMainWindow::eventFilter(watched, event);

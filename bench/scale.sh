@@ -29,7 +29,7 @@ search_and_clear() { # X Y
 }
 
 start_daemon --catalog-size "$nodes"
-export TOVRA_GUI_STALL_MS=100
+export TOVRA_GUI_STALL_MS=16 # every stall longer than a frame is reported
 client_on_locations "$nodes"
 search_and_clear 440 200
 stall_client=$(longest_stall "$work/client.log" '^tovra.text: window.shown:')

@@ -2,6 +2,7 @@
 #include "AppId.h"
 #include "ControlClient.h"
 #include "ControlEndpoints.h"
+#include "FontConfigWarmup.h"
 #include "GuiAutostart.h"
 #include "GuiPreferences.h"
 #include "GuiRestartLauncher.h"
@@ -79,6 +80,7 @@ protected:
 
 int main(int argc, char *argv[])
 {
+    const FontConfigWarmup fontConfigWarmup; // on another core while the rest starts
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tovra"));
     QApplication::setApplicationVersion(QStringLiteral(TOVRA_VERSION));

@@ -6,7 +6,7 @@ CMAKE_ARGS ?=
 export CCACHE_BASEDIR := $(CURDIR)
 export CCACHE_NOHASHDIR := 1
 
-.PHONY: all deps configure build test demo clean format package
+.PHONY: all deps configure build test demo bench clean format package
 
 all: build
 
@@ -24,6 +24,10 @@ test: deps
 
 demo: build
 	@scripts/demo.sh $(BUILD_DIR)
+
+# Every benchmark next to its plain-Qt floor, one table (bench/README.md). Not part of `make test`.
+bench: build
+	@bench/run.sh $(BUILD_DIR)
 
 format:
 	@git ls-files '*.cpp' '*.h' | xargs clang-format -i

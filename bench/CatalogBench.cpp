@@ -1,56 +1,49 @@
-// Figures for the Locations page with a large catalogue (10,000 nodes in 1,000 groups), on the
-// offscreen platform, printed side by side with their targets: building the tree and its first
-// layout, filter keystrokes typed into the search field, and a ping update of every node.
-// Each figure is the interface thread's CPU time, so that other work on a busy machine does not
-// count; the wall-clock time is printed beside it.
+// The Locations page with a large catalogue (10,000 nodes in 1,000 groups by default) on the
+// offscreen platform, next to the floor doing the same work with plain Qt classes (PlainCatalog):
+// building the tree and its first layout, filter keystrokes typed into the search field, and a
+// ping update of every node with its repaint. Client and floor take turns at each step, and each
+// figure is the interface thread's CPU time, so that other work on a busy machine counts for
+// neither. Usage: tovra-bench-catalog [NODES [GROUPS]]
 #include "AppState.h"
+#include "BenchTable.h"
 #include "CatalogFilterModel.h"
 #include "CatalogFixture.h"
 #include "CatalogTreeModel.h"
+#include "LocationRoles.h"
 #include "LocationsPage.h"
+#include "PlainCatalog.h"
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QTreeView>
 
 #include <algorithm>
 #include <cstdio>
 #include <ctime>
+#include <functional>
+#include <memory>
 #include <vector>
 
 namespace {
 
-double ms(qint64 ns)
+// Milliseconds of this thread's CPU time that work takes.
+double cpuMs(const std::function<void()> &work)
 {
-    return double(ns) / 1e6;
+    const auto now = [] {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+    };
+    const double start = now();
+    work();
+    return now() - start;
 }
 
-// CPU time of this thread and wall time, in nanoseconds.
-struct Stopwatch
+double percentile(std::vector<double> samples, double p)
 {
-    qint64 cpu0 = 0;
-    QElapsedTimer wall;
-
-    static qint64 cpuNow()
-    {
-        timespec now{};
-        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
-        return qint64(now.tv_sec) * 1000000000 + now.tv_nsec;
-    }
-    void restart()
-    {
-        wall.restart();
-        cpu0 = cpuNow();
-    }
-    qint64 cpu() const { return cpuNow() - cpu0; }
-};
-
-struct Sample
-{
-    qint64 cpu = 0;
-    qint64 wall = 0;
-};
+    std::sort(samples.begin(), samples.end());
+    return samples[std::min(samples.size() - 1, size_t(p * double(samples.size())))];
+}
 
 // The tree lays out and paints its visible rows now, as the next frame would.
 void paintNow(QTreeView *tree)
@@ -62,12 +55,11 @@ void paintNow(QTreeView *tree)
 // Typing and erasing what users look for: cities, countries, node numbers, feature words.
 QStringList keystrokeTexts(int count)
 {
-    const QStringList queries{QStringLiteral("city 123"),  QStringLiteral("country 7"),
-                              QStringLiteral("node 4242"), QStringLiteral("p2p city 9"),
-                              QStringLiteral("free aa"),   QStringLiteral("c3 node 51")};
     QStringList texts;
     while (texts.size() < count) {
-        for (const QString &query : queries) {
+        for (const char16_t *text :
+             {u"city 123", u"country 7", u"node 4242", u"p2p city 9", u"free aa", u"c3 node 51"}) {
+            const QString query = QString::fromUtf16(text);
             for (qsizetype i = 1; i <= query.size(); ++i)
                 texts.append(query.left(i));
             for (qsizetype i = query.size() - 1; i >= 0; --i)
@@ -77,28 +69,30 @@ QStringList keystrokeTexts(int count)
     return texts.mid(0, count);
 }
 
-Sample percentile(const std::vector<Sample> &samples, double p)
+int clientMatches(const QAbstractItemModel &model, const QModelIndex &parent = {})
 {
-    std::vector<qint64> cpu, wall;
-    for (const Sample &sample : samples) {
-        cpu.push_back(sample.cpu);
-        wall.push_back(sample.wall);
+    int count = 0;
+    for (int row = 0; row < model.rowCount(parent); ++row) {
+        const QModelIndex index = model.index(row, 0, parent);
+        count += index.data(LocationIsGroupRole).toBool() ? clientMatches(model, index) : 1;
     }
-    std::sort(cpu.begin(), cpu.end());
-    std::sort(wall.begin(), wall.end());
-    const size_t at = std::min(cpu.size() - 1, size_t(p * double(cpu.size())));
-    return {cpu[at], wall[at]};
+    return count;
 }
 
-void row(const char *what, Sample value, double target)
+struct Client
 {
-    std::printf("%-40s %9.2f ms %9.2f ms   < %4.0f ms   %s\n", what, ms(value.cpu), ms(value.wall),
-                target, ms(value.cpu) < target ? "ok" : "OVER");
-}
+    AppState state;
+    LocationsPage page;
+    QTreeView *tree = page.findChild<QTreeView *>(QStringLiteral("TovraLocationsTree"));
+    QLineEdit *search = page.findChild<QLineEdit *>(QStringLiteral("TovraLocationsSearch"));
+};
 
-Sample take(const Stopwatch &watch)
+template<typename View>
+void showAtPageSize(View &view)
 {
-    return {watch.cpu(), watch.wall.nsecsElapsed()};
+    view.resize(760, 720);
+    view.show();
+    QApplication::processEvents();
 }
 
 } // namespace
@@ -107,64 +101,99 @@ int main(int argc, char **argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QApplication app(argc, argv);
-    CatalogFixture fixture = CatalogFixture::generated(10000, 1000);
+    const int nodeCount = argc > 1 ? std::atoi(argv[1]) : 10000;
+    const int groupCount = argc > 2 ? std::atoi(argv[2]) : nodeCount / 10;
+    CatalogFixture fixture = CatalogFixture::generated(nodeCount, groupCount);
     QString error;
     const NodeGroupsInfo groups = NodeGroupsInfo::parse(fixture.groupsJson(), &error);
-    NodesInfo nodes = NodesInfo::parse(fixture.nodesJson(), &error);
+    const NodesInfo nodes = NodesInfo::parse(fixture.nodesJson(), &error);
     RuntimeInfo runtime;
     runtime.valid = true;
 
-    AppState state;
-    state.setRuntime(runtime);
-    LocationsPage page;
-    page.resize(760, 720);
-    page.show();
-    QApplication::processEvents();
-    auto *tree = page.findChild<QTreeView *>(QStringLiteral("TovraLocationsTree"));
-    auto *search = page.findChild<QLineEdit *>(QStringLiteral("TovraLocationsSearch"));
-
-    Stopwatch timer;
-    timer.restart();
-    state.setNodeGroups(groups);
-    state.setNodes(nodes);
-    page.refresh(state);
-    paintNow(tree);
-    const Sample build = take(timer);
-
-    // Each keystroke as the event loop would run it: the text, then whatever it posted.
-    const QStringList texts = keystrokeTexts(200);
-    std::vector<Sample> keystrokes;
-    keystrokes.reserve(size_t(texts.size()));
-    for (const QString &text : texts) {
-        timer.restart();
-        search->setText(text);
-        QApplication::processEvents(); // lays out and paints, as the next frame would
-        keystrokes.push_back(take(timer));
+    // Building: a fresh view each time, taking turns.
+    std::vector<double> clientBuild, floorBuild;
+    std::unique_ptr<Client> client;
+    std::unique_ptr<PlainCatalog> plain;
+    for (int i = 0; i < 5; ++i) {
+        client = std::make_unique<Client>();
+        client->state.setRuntime(runtime);
+        showAtPageSize(client->page);
+        clientBuild.push_back(cpuMs([&] {
+            client->state.setNodeGroups(groups);
+            client->state.setNodes(nodes);
+            client->page.refresh(client->state);
+            paintNow(client->tree);
+        }));
+        plain = std::make_unique<PlainCatalog>();
+        showAtPageSize(*plain);
+        floorBuild.push_back(cpuMs([&] {
+            plain->setCatalog(groups, nodes);
+            paintNow(plain->tree());
+        }));
     }
-    search->clear();
-    paintNow(tree);
 
-    // Expand some groups, as a user browsing would, then change every ping.
-    tree->expandToDepth(1);
-    paintNow(tree);
-    fixture.setPings(17);
-    const NodesInfo pinged = NodesInfo::parse(fixture.nodesJson(), &error);
-    state.setNodes(pinged);
-    timer.restart();
-    page.refresh(state);
-    const Sample update = take(timer);
-    paintNow(tree);
-    const Sample updateAndPaint = take(timer);
+    // Each keystroke as the event loop would run it: the text, then whatever it posted, which
+    // lays out and paints as the next frame would.
+    std::vector<double> clientKeys, floorKeys;
+    for (const QString &text : keystrokeTexts(200)) {
+        clientKeys.push_back(cpuMs([&] {
+            client->search->setText(text);
+            QApplication::processEvents();
+        }));
+        floorKeys.push_back(cpuMs([&] {
+            plain->search()->setText(text);
+            QApplication::processEvents();
+        }));
+    }
+    // The floor does the same job only if it finds the same nodes.
+    bool sameMatches = true;
+    for (const QString &query : keystrokeTexts(200)) {
+        client->search->setText(query);
+        plain->search()->setText(query);
+        sameMatches =
+            sameMatches && clientMatches(*client->page.filterModel()) == plain->matchingNodes();
+    }
+    client->search->clear();
+    plain->search()->clear();
 
-    std::printf("Locations page, %d nodes in %d groups (%s)\n", page.catalogModel()->nodeCount(),
-                1000, qPrintable(QApplication::platformName()));
-    std::printf("%-40s %12s %12s   %7s\n", "", "cpu", "wall", "target");
-    row("model build + first layout", build, 50);
-    row("filter keystroke p50 (200 keystrokes)", percentile(keystrokes, 0.50), 16);
-    row("filter keystroke p95", percentile(keystrokes, 0.95), 16);
-    row("filter keystroke max", percentile(keystrokes, 1.0), 50);
-    row("ping update of every node", update, 10);
-    std::printf("%-40s %9.2f ms %9.2f ms\n", "  same, with the repaint", ms(updateAndPaint.cpu),
-                ms(updateAndPaint.wall));
-    return 0;
+    // Some groups open, as a user browsing would, then every ping changes.
+    client->tree->expandToDepth(1);
+    plain->tree()->expandToDepth(1);
+    paintNow(client->tree);
+    paintNow(plain->tree());
+    std::vector<double> clientPings, floorPings;
+    for (int i = 0; i < 5; ++i) {
+        fixture.setPings(17 + i);
+        const NodesInfo pinged = NodesInfo::parse(fixture.nodesJson(), &error);
+        client->state.setNodes(pinged);
+        clientPings.push_back(cpuMs([&] {
+            client->page.refresh(client->state);
+            paintNow(client->tree);
+        }));
+        floorPings.push_back(cpuMs([&] {
+            plain->updatePings(pinged);
+            paintNow(plain->tree());
+        }));
+    }
+
+    BenchTable::header();
+    const QByteArray title = QStringLiteral("Locations, %1 nodes in %2 groups, CPU time (%3)%4")
+                                 .arg(client->page.catalogModel()->nodeCount())
+                                 .arg(groupCount)
+                                 .arg(QApplication::platformName(),
+                                      sameMatches ? QString() : QStringLiteral(": MATCHES DIFFER"))
+                                 .toUtf8();
+    BenchTable::section(title.constData());
+    BenchTable::row("build + first layout (median of 5)", percentile(clientBuild, 0.5),
+                    percentile(floorBuild, 0.5), "ms", 1.0);
+    // The floor leaves its results folded; the client opens them, a few screens at most.
+    BenchTable::row("filter keystroke p50 (200 keystrokes)", percentile(clientKeys, 0.5),
+                    percentile(floorKeys, 0.5), "ms", 0);
+    BenchTable::row("filter keystroke p95", percentile(clientKeys, 0.95),
+                    percentile(floorKeys, 0.95), "ms", 0.5);
+    BenchTable::row("filter keystroke max", percentile(clientKeys, 1.0), percentile(floorKeys, 1.0),
+                    "ms", 0);
+    BenchTable::row("ping update of every node + repaint (median)", percentile(clientPings, 0.5),
+                    percentile(floorPings, 0.5), "ms", 1.0);
+    return sameMatches ? 0 : 1;
 }

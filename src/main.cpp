@@ -4,6 +4,7 @@
 #include "ControlEndpoints.h"
 #include "DesktopCommandLine.h"
 #include "DesktopCommandSender.h"
+#include "FontConfigWarmup.h"
 #include "GuiAutostart.h"
 #include "GuiPreferences.h"
 #include "GuiRestartLauncher.h"
@@ -15,6 +16,7 @@
 #include "TranslationManager.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QIcon>
 #include <QPointer>
 #include <QTimer>
@@ -27,6 +29,14 @@ const char kRestartShowWindow[] = "--tovra-restart-show-window";
 const char kLanguageRestart[] = "--tovra-language-restart";
 const char kAutostart[] = "--tovra-autostart";
 
+// Stores the language only when it changed: each store writes and flushes the settings file,
+// which on a busy disk holds up the first paint by milliseconds.
+void storeLastEffectiveLanguage(GuiPreferences &preferences, const QString &tag)
+{
+    if (preferences.lastEffectiveLanguage() != tag)
+        preferences.setLastEffectiveLanguage(tag);
+}
+
 // The interface language is settled before any widget exists; the daemon owns the setting.
 QString startupLanguage(const QString &socketPath, GuiPreferences &preferences)
 {
@@ -38,7 +48,7 @@ QString startupLanguage(const QString &socketPath, GuiPreferences &preferences)
             tag = status.language.trimmed();
         if (!tag.isEmpty()) {
             tag = TranslationManager::normalize(tag);
-            preferences.setLastEffectiveLanguage(tag);
+            storeLastEffectiveLanguage(preferences, tag);
             return tag;
         }
     }
@@ -81,6 +91,32 @@ int runDesktopCommand(int argc, char *argv[], const DesktopCommandLine &commandL
     return 0;
 }
 
+// Sets the application icon once the first window is on screen. The icon is a 256-pixel picture
+// that each window hands to the window manager: set before, it only delays the first paint.
+class WindowIconAfterFirstExpose : public QObject
+{
+public:
+    explicit WindowIconAfterFirstExpose(QObject *parent)
+        : QObject(parent)
+    {
+        QCoreApplication::instance()->installEventFilter(this);
+    }
+
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (event->type() == QEvent::Expose) {
+            QCoreApplication::instance()->removeEventFilter(this);
+            // After this expose has been painted.
+            QTimer::singleShot(0, this, [this] {
+                QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.png")));
+                deleteLater();
+            });
+        }
+        return QObject::eventFilter(watched, event);
+    }
+};
+
 } // namespace
 
 int main(int argc, char *argv[])
@@ -97,13 +133,14 @@ int main(int argc, char *argv[])
             return runDesktopCommand(argc, argv, commandLine, launch);
     }
 
+    const FontConfigWarmup fontConfigWarmup; // on another core while the rest starts
     QApplication app(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Tovra"));
     QApplication::setApplicationVersion(QStringLiteral(TOVRA_VERSION));
     QApplication::setOrganizationName(QStringLiteral("Tovra"));
     // Ties the windows to the installed application entry (the Wayland app id).
     QGuiApplication::setDesktopFileName(QLatin1String(kTovraAppId));
-    QApplication::setWindowIcon(QIcon(QStringLiteral(":/icons/app.png")));
+    new WindowIconAfterFirstExpose(&app);
     QApplication::setQuitOnLastWindowClosed(false);
 
     const QStringList arguments = QApplication::arguments();
@@ -145,7 +182,7 @@ int main(int argc, char *argv[])
     TranslationManager translations;
     if (!translations.apply(language))
         translations.apply(TranslationManager::defaultLanguage());
-    preferences.setLastEffectiveLanguage(translations.currentLanguage());
+    storeLastEffectiveLanguage(preferences, translations.currentLanguage());
 
     TovraAppShell shell(nullptr, socketPath, &preferences);
     shell.setCurrentEffectiveLanguage(translations.currentLanguage());

@@ -1,5 +1,7 @@
 #include "AppState.h"
 
+#include "HeapTrim.h"
+
 #include <QTimer>
 
 namespace {
@@ -18,10 +20,23 @@ bool assignIfChanged(Record &stored, const Record &incoming)
 AppState::AppState(QObject *parent)
     : QObject(parent)
     , m_cooldownTimer(new QTimer(this))
+    , m_heapTrimTimer(new QTimer(this))
 {
+    // A new catalogue frees the old one in every view that rebuilt from it; the freed pages go
+    // back to the system once things have settled.
+    m_heapTrimTimer->setInterval(1000);
+    m_heapTrimTimer->setSingleShot(true);
+    connect(m_heapTrimTimer, &QTimer::timeout, this, &HeapTrim::releaseFreePages);
     m_cooldownTimer->setInterval(1000);
     m_cooldownTimer->setSingleShot(false);
     connect(m_cooldownTimer, &QTimer::timeout, this, &AppState::tickCooldown);
+}
+
+void AppState::trimHeapSoon()
+{
+    // Not pushed back by each change of a burst (the ping run sends one every few hundred ms).
+    if (!m_heapTrimTimer->isActive())
+        m_heapTrimTimer->start();
 }
 
 void AppState::setRuntime(RuntimeInfo runtime)
@@ -38,14 +53,18 @@ void AppState::setUser(UserInfo user)
 
 void AppState::setNodes(NodesInfo nodes)
 {
-    if (assignIfChanged(m_nodes, nodes))
+    if (assignIfChanged(m_nodes, nodes)) {
         Q_EMIT nodesChanged(m_nodes);
+        trimHeapSoon();
+    }
 }
 
 void AppState::setNodeGroups(NodeGroupsInfo nodeGroups)
 {
-    if (assignIfChanged(m_nodeGroups, nodeGroups))
+    if (assignIfChanged(m_nodeGroups, nodeGroups)) {
         Q_EMIT nodeGroupsChanged(m_nodeGroups);
+        trimHeapSoon();
+    }
 }
 
 void AppState::setConfigPaths(ConfigPaths configPaths)

@@ -78,6 +78,7 @@ public Q_SLOTS:
 
 private:
     void tickCooldown();
+    void trimHeapSoon();
 
     RuntimeInfo m_runtime;
     UserInfo m_user;
@@ -94,4 +95,5 @@ private:
     unsigned m_nodesRefreshCooldown = 0;
     QString m_nodesFetchError;
     QTimer *m_cooldownTimer;
+    QTimer *m_heapTrimTimer;
 };

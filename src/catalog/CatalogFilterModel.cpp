@@ -31,21 +31,16 @@ void CatalogFilterModel::watchSource()
     for (const QMetaObject::Connection &connection : std::as_const(m_sourceConnections))
         disconnect(connection);
     m_sourceConnections.clear();
-    forgetResults();
-    m_subtreeTexts.clear();
+    forgetRows();
     const QAbstractItemModel *source = sourceModel();
     if (!source)
         return;
     // Kept results name rows by position, so any change of rows or texts drops them all.
-    const auto forget = [this] {
-        forgetResults();
-        m_subtreeTexts.clear();
-    };
+    const auto forget = [this] { forgetRows(); };
     // The base class filters new or changed rows but never asks again about the groups above
     // them, which may have to appear or go; one full pass once the change is over settles them.
     const auto refilter = [this] {
-        forgetResults();
-        m_subtreeTexts.clear();
+        forgetRows();
         if (m_tokens.isEmpty() || m_refilterQueued)
             return;
         m_refilterQueued = true;
@@ -53,10 +48,8 @@ void CatalogFilterModel::watchSource()
             this,
             [this] {
                 m_refilterQueued = false;
-                if (!m_tokens.isEmpty()) {
-                    forgetResults();
+                if (!m_tokens.isEmpty())
                     invalidate();
-                }
             },
             Qt::QueuedConnection);
     };
@@ -77,10 +70,14 @@ void CatalogFilterModel::watchSource()
     };
 }
 
-void CatalogFilterModel::forgetResults()
+void CatalogFilterModel::forgetRows()
 {
-    m_results.clear();
-    m_joined.clear();
+    m_rows.clear();
+    m_groupEntries.clear();
+    m_lastParent = {};
+    m_lastParentEntry = -1;
+    m_accepted.clear();
+    m_evaluated = false;
 }
 
 QStringList CatalogFilterModel::tokenize(const QString &text)
@@ -112,7 +109,7 @@ void CatalogFilterModel::setFilterText(const QString &text)
     if (next == tokens()) {
         return;
     }
-    forgetResults();
+    m_evaluated = false;
     m_tokens.clear();
     m_tokens.reserve(next.size());
     for (const QString &word : next) {
@@ -132,115 +129,134 @@ void CatalogFilterModel::setFilterText(const QString &text)
     invalidate();
 }
 
-const QString &CatalogFilterModel::joinedText(const QModelIndex &sourceIndex) const
+void CatalogFilterModel::ensureRows() const
 {
-    // The outermost group's text first, then each level down, joined by single spaces.
-    auto found = m_joined.constFind(keyOf(sourceIndex));
-    if (found != m_joined.cend())
-        return found.value();
-    const QString own = sourceIndex.data(LocationSearchTextRole).toString();
-    const QModelIndex parent = sourceIndex.parent();
-    QString joined = parent.isValid() ? joinedText(parent) + QLatin1Char(' ') + own : own;
-    return m_joined.insert(keyOf(sourceIndex), joined).value();
+    const QAbstractItemModel *source = sourceModel();
+    if (!m_rows.empty() || !source)
+        return;
+    // Level by level: a row's children are appended together when the row's turn comes.
+    std::vector<QModelIndex> indexes{QModelIndex()};
+    m_rows.emplace_back();
+    for (size_t entry = 0; entry < m_rows.size(); ++entry) {
+        const QModelIndex parent = indexes[entry];
+        const int count = entry == 0 || source->hasChildren(parent) ? source->rowCount(parent) : 0;
+        m_rows[entry].firstChild = int(m_rows.size());
+        m_rows[entry].childCount = count;
+        if (count > 0 && entry > 0)
+            m_groupEntries.insert(keyOf(parent), int(entry));
+        for (int row = 0; row < count; ++row) {
+            const QModelIndex index = source->index(row, 0, parent);
+            indexes.push_back(index);
+            m_rows.push_back({index.data(LocationSearchTextRole).toString(), int(entry), 0, 0});
+        }
+    }
+}
+
+int CatalogFilterModel::entryOf(int sourceRow, const QModelIndex &sourceParent) const
+{
+    int parent = 0;
+    if (sourceParent.isValid()) {
+        const RowKey key = keyOf(sourceParent);
+        if (!(key == m_lastParent)) {
+            m_lastParent = key;
+            m_lastParentEntry = m_groupEntries.value(key, -1);
+        }
+        parent = m_lastParentEntry;
+    }
+    if (parent < 0 || size_t(parent) >= m_rows.size() || sourceRow >= m_rows[parent].childCount)
+        return -1;
+    return m_rows[parent].firstChild + sourceRow;
 }
 
 bool CatalogFilterModel::tokenMatches(const Token &token, const QString &text) const
 {
-    // Most texts do not hold the token at all; the plain search rules them out before the
-    // word-start expression is asked.
-    if (!text.contains(token.text))
+    // Candidates by their first character (a vectorised search), then the rest compared. A
+    // word starts at the start of the text or after a character that is no word character; the
+    // texts are words joined by spaces, so that neighbour is nearly always plain ASCII and
+    // decided here, any other is left to the expression's Unicode word characters.
+    const QStringView needle(token.text);
+    const QStringView haystack(text);
+    const qsizetype last = haystack.size() - needle.size();
+    for (qsizetype at = haystack.indexOf(needle.front()); at >= 0 && at <= last;
+         at = haystack.indexOf(needle.front(), at + 1)) {
+        if (haystack.sliced(at, needle.size()) != needle)
+            continue;
+        if (!token.byWord || at == 0)
+            return true;
+        const char16_t before = haystack.at(at - 1).unicode();
+        if (before >= 0x80)
+            return token.wordStart.match(text).hasMatch();
+        const bool wordCharacter = (before >= u'a' && before <= u'z') ||
+                                   (before >= u'A' && before <= u'Z') ||
+                                   (before >= u'0' && before <= u'9') || before == u'_';
+        if (!wordCharacter)
+            return true;
+    }
+    return false;
+}
+
+bool CatalogFilterModel::narrows(const QList<Token> &before, const QList<Token> &after)
+{
+    // Each earlier word grown at its end (a word-start match of the longer word is one of the
+    // shorter), and perhaps more words: only rows the earlier search kept can stay.
+    if (after.size() < before.size())
         return false;
-    return !token.byWord || token.wordStart.match(text).hasMatch();
-}
-
-CatalogFilterModel::RowResult &CatalogFilterModel::result(const QModelIndex &sourceIndex) const
-{
-    auto found = m_results.find(keyOf(sourceIndex));
-    if (found != m_results.end())
-        return found.value();
-    const QModelIndex parent = sourceIndex.parent();
-    RowResult row;
-    row.matchedAlongPath = parent.isValid() ? result(parent).matchedAlongPath : 0;
-    const QString own = sourceIndex.data(LocationSearchTextRole).toString();
-    for (qsizetype i = 0; i < m_tokens.size() && i < 64; ++i) {
-        const quint64 bit = quint64(1) << i;
-        if (!(row.matchedAlongPath & bit) && tokenMatches(m_tokens.at(i), own))
-            row.matchedAlongPath |= bit;
-    }
-    return m_results.insert(keyOf(sourceIndex), row).value();
-}
-
-bool CatalogFilterModel::matches(const QModelIndex &sourceIndex) const
-{
-    // A token holds no space, so it matches the texts joined by spaces exactly when it matches
-    // one of them: at the start of a text a word starts just as after the joining space. Each
-    // row therefore keeps which tokens its own and its ancestors' texts match, and the joined
-    // text is built only for searches of more words than those bits hold.
-    if (m_tokens.size() <= 64) {
-        const quint64 all =
-            m_tokens.size() == 64 ? ~quint64(0) : (quint64(1) << m_tokens.size()) - 1;
-        return result(sourceIndex).matchedAlongPath == all;
-    }
-    const QString &joined = joinedText(sourceIndex);
-    for (const Token &token : m_tokens) {
-        if (!tokenMatches(token, joined))
+    for (qsizetype i = 0; i < before.size(); ++i) {
+        if (!after.at(i).text.startsWith(before.at(i).text) ||
+            (before.at(i).byWord && !after.at(i).byWord))
             return false;
     }
     return true;
 }
 
-const QString &CatalogFilterModel::subtreeText(const QModelIndex &sourceIndex) const
+void CatalogFilterModel::evaluate() const
 {
-    auto found = m_subtreeTexts.constFind(keyOf(sourceIndex));
-    if (found != m_subtreeTexts.cend())
-        return found.value();
-    QString text = sourceIndex.data(LocationSearchTextRole).toString();
-    const QAbstractItemModel *model = sourceModel();
-    const int rows = model->rowCount(sourceIndex);
-    for (int row = 0; row < rows; ++row) {
-        const QString &below = subtreeText(model->index(row, 0, sourceIndex));
-        text += QLatin1Char(' ') + below;
-    }
-    return m_subtreeTexts.insert(keyOf(sourceIndex), text).value();
-}
-
-bool CatalogFilterModel::descendantMatches(const QModelIndex &sourceIndex) const
-{
-    const QAbstractItemModel *model = sourceModel();
-    // A word that neither the path down to here nor any text below holds rules out every row
-    // below at once; narrow searches skip most of the catalogue this way. The path's bits cover
-    // the first 64 words; any further word is looked for in the joined path text itself.
-    const quint64 onPath = result(sourceIndex).matchedAlongPath;
-    for (qsizetype i = 0; i < m_tokens.size(); ++i) {
-        const Token &token = m_tokens.at(i);
-        const bool metOnPath = i < 64 ? (onPath & (quint64(1) << i)) != 0
-                                      : tokenMatches(token, joinedText(sourceIndex));
-        if (!metOnPath && !subtreeText(sourceIndex).contains(token.text))
-            return false;
-    }
-    const int rows = model->rowCount(sourceIndex);
-    for (int row = 0; row < rows; ++row) {
-        if (acceptsIndex(model->index(row, 0, sourceIndex))) {
-            return true;
+    // A token holds no space, so it matches the texts joined by spaces exactly when it matches
+    // one of them: at the start of a text a word starts just as after the joining space. Each
+    // row therefore keeps a bit per token met along its path, its parent's bits first; 64
+    // tokens at a time.
+    ensureRows();
+    const size_t count = m_rows.size();
+    std::vector<bool> candidates;
+    if (m_accepted.size() == count && narrows(m_acceptedFor, m_tokens))
+        candidates.swap(m_accepted);
+    m_accepted.assign(count, true);
+    std::vector<quint64> along(count, 0);
+    for (qsizetype first = 0; first < m_tokens.size(); first += 64) {
+        const qsizetype tokens = std::min<qsizetype>(64, m_tokens.size() - first);
+        const quint64 all = tokens == 64 ? ~quint64(0) : (quint64(1) << tokens) - 1;
+        for (size_t entry = 1; entry < count; ++entry) {
+            if (!candidates.empty() && !candidates[entry]) {
+                m_accepted[entry] = false; // and so is every row below it
+                continue;
+            }
+            const Row &row = m_rows[entry];
+            quint64 bits = along[size_t(row.parent)];
+            for (qsizetype i = 0; i < tokens && bits != all; ++i) {
+                const quint64 bit = quint64(1) << i;
+                if (!(bits & bit) && tokenMatches(m_tokens.at(first + i), row.text))
+                    bits |= bit;
+            }
+            along[entry] = bits;
+            if (bits != all)
+                m_accepted[entry] = false;
         }
     }
-    return false;
-}
-
-bool CatalogFilterModel::acceptsIndex(const QModelIndex &sourceIndex) const
-{
-    if (const qint8 known = result(sourceIndex).accepted; known >= 0)
-        return known == 1;
-    const bool accepted = matches(sourceIndex) || descendantMatches(sourceIndex);
-    // Looked up again: the descendants' results may have moved the hash's storage.
-    result(sourceIndex).accepted = accepted ? 1 : 0;
-    return accepted;
+    // A row also stays for a match below it; every row comes after its ancestors.
+    for (size_t entry = count - 1; entry > 0; --entry) {
+        if (m_accepted[entry])
+            m_accepted[size_t(m_rows[entry].parent)] = true;
+    }
+    m_acceptedFor = m_tokens;
+    m_evaluated = true;
 }
 
 bool CatalogFilterModel::filterAcceptsRow(int sourceRow, const QModelIndex &sourceParent) const
 {
-    if (m_tokens.isEmpty()) {
+    if (m_tokens.isEmpty())
         return true;
-    }
-    return acceptsIndex(sourceModel()->index(sourceRow, 0, sourceParent));
+    if (!m_evaluated)
+        evaluate();
+    const int entry = entryOf(sourceRow, sourceParent);
+    return entry < 0 || m_accepted[size_t(entry)];
 }

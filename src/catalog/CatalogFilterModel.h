@@ -6,6 +6,8 @@
 #include <QRegularExpression>
 #include <QSortFilterProxyModel>
 
+#include <vector>
+
 // Narrows the locations tree to the rows that match a search. Each word of the search must
 // match the row's search text joined with its ancestors' texts; a group stays while any row
 // below it matches.
@@ -38,7 +40,7 @@ private:
     struct RowKey
     {
         quintptr id = 0;
-        int row = 0;
+        int row = -1;
         friend bool operator==(const RowKey &a, const RowKey &b)
         {
             return a.id == b.id && a.row == b.row;
@@ -49,30 +51,34 @@ private:
         }
     };
     static RowKey keyOf(const QModelIndex &index) { return {index.internalId(), index.row()}; }
-
-    struct RowResult
+    // The source tree, flattened level by level so that each row's children are neighbours
+    // and come after it; entry 0 stands for the invisible root.
+    struct Row
     {
-        quint64 matchedAlongPath = 0; // a bit per token met by the row's or an ancestor's text
-        qint8 accepted = -1;          // -1 not yet known
+        QString text;
+        int parent = 0;
+        int firstChild = 0;
+        int childCount = 0;
     };
 
-    bool matches(const QModelIndex &sourceIndex) const;
-    bool descendantMatches(const QModelIndex &sourceIndex) const;
-    bool acceptsIndex(const QModelIndex &sourceIndex) const;
-    RowResult &result(const QModelIndex &sourceIndex) const;
+    void ensureRows() const;
+    int entryOf(int sourceRow, const QModelIndex &sourceParent) const;
+    static bool narrows(const QList<Token> &before, const QList<Token> &after);
+    void evaluate() const;
     bool tokenMatches(const Token &token, const QString &text) const;
-    const QString &joinedText(const QModelIndex &sourceIndex) const;
-    const QString &subtreeText(const QModelIndex &sourceIndex) const;
     void watchSource();
-    void forgetResults();
+    void forgetRows();
 
     QList<Token> m_tokens;
-    // Results of the current search, kept until the search or the source changes: a group's
-    // answer is reused for the rows below it instead of being worked out again.
-    mutable QHash<RowKey, RowResult> m_results;
-    mutable QHash<RowKey, QString> m_joined; // only past 64 tokens
-    // Every search text at and below a row, kept across searches until the source changes.
-    mutable QHash<RowKey, QString> m_subtreeTexts;
+    // Read from the source once per change of it and kept across searches.
+    mutable std::vector<Row> m_rows;
+    mutable QHash<RowKey, int> m_groupEntries; // rows with children
+    mutable RowKey m_lastParent;               // the base class asks for siblings in a run
+    mutable int m_lastParentEntry = -1;
+    // Per entry, whether the search m_acceptedFor keeps the row.
+    mutable std::vector<bool> m_accepted;
+    mutable QList<Token> m_acceptedFor;
+    mutable bool m_evaluated = false; // m_accepted is for the current search
     QList<QMetaObject::Connection> m_sourceConnections;
     bool m_refilterQueued = false;
 };

@@ -19,7 +19,8 @@ struct CatalogItem
     QString groupName; // groups: the daemon's name and code the texts were made from
     QString groupCode;
     QString label;
-    QString searchText;
+    QString searchText; // made when first asked for: most rows are never searched
+    bool textsMade = false;
     QString region;
     QString tier;
     bool country = false;

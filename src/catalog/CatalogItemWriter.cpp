@@ -1,9 +1,5 @@
 #include "CatalogItemWriter.h"
 
-#include "Countries.h"
-
-#include <QCoreApplication>
-
 namespace {
 
 // Assigns when the value differs and records the kind of change.
@@ -58,7 +54,7 @@ int CatalogItemWriter::apply(CatalogItem *item, const CatalogBlueprint &blueprin
     if (blueprint.node) {
         const NodeEntry &node = *blueprint.node;
         item->nodeIndex = blueprint.node - m_nodes.nodes.constData();
-        const bool textsStale = item->searchText.isEmpty() || item->node.name != node.name ||
+        const bool textsStale = !item->textsMade || item->node.name != node.name ||
                                 item->node.region != node.region || item->node.tags != node.tags ||
                                 item->node.type != node.type;
         if (textsStale) {
@@ -66,7 +62,8 @@ int CatalogItemWriter::apply(CatalogItem *item, const CatalogBlueprint &blueprin
             item->tier = CatalogTreeBuilder::tierOf(node);
             item->label = blueprint.label;
             item->region = blueprint.region;
-            item->searchText = searchText(blueprint, item->tier);
+            item->textsMade = true;
+            item->searchText.clear();
             change |= TextChange;
         }
         if (applyNodeState(item, node))
@@ -76,7 +73,7 @@ int CatalogItemWriter::apply(CatalogItem *item, const CatalogBlueprint &blueprin
     } else {
         const QString name = blueprint.entry ? blueprint.entry->name : QString();
         const QString code = blueprint.entry ? blueprint.entry->code : QString();
-        if (item->searchText.isEmpty() || item->label != blueprint.label ||
+        if (!item->textsMade || item->label != blueprint.label ||
             item->region != blueprint.region || item->groupName != name ||
             item->groupCode != code || item->country != blueprint.country) {
             item->label = blueprint.label;
@@ -84,7 +81,8 @@ int CatalogItemWriter::apply(CatalogItem *item, const CatalogBlueprint &blueprin
             item->groupName = name;
             item->groupCode = code;
             item->country = blueprint.country;
-            item->searchText = searchText(blueprint, QString());
+            item->textsMade = true;
+            item->searchText.clear();
             change |= TextChange;
         }
         update(item->pingMs, blueprint.bestPingMs, StateChange, change);
@@ -97,35 +95,4 @@ int CatalogItemWriter::apply(CatalogItem *item, const CatalogBlueprint &blueprin
     }
     update(item->stale, m_nodes.stale || m_groups.stale, StateChange, change);
     return change;
-}
-
-QString CatalogItemWriter::searchText(const CatalogBlueprint &row, const QString &tier)
-{
-    QStringList words{row.label};
-    if (row.group && row.entry) {
-        words << row.entry->name << row.entry->code;
-    } else if (row.node) {
-        words << row.node->name;
-        for (const QString &tag : row.node->tags) {
-            if (tag.compare(QLatin1String("FAVORITE"), Qt::CaseInsensitive) != 0)
-                words << tag;
-        }
-        words << tier;
-        if (tier == QLatin1String("SVIP"))
-            words << QCoreApplication::translate("CatalogTreeModel", "Premium");
-    }
-    if (!row.region.isEmpty() && (!row.group || row.country)) {
-        // The table is scanned once per country, not once per node.
-        auto found = m_countryWords.constFind(row.region);
-        if (found == m_countryWords.cend()) {
-            found = m_countryWords.insert(
-                row.region, {row.region, countryEnglishName(row.region), countryName(row.region)});
-        }
-        words << found.value();
-    }
-    for (QString &word : words)
-        word = word.trimmed().toLower();
-    words.removeAll(QString());
-    words.removeDuplicates();
-    return words.join(QLatin1Char(' '));
 }

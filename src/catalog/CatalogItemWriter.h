@@ -3,15 +3,12 @@
 #include "CatalogItem.h"
 #include "CatalogTreeBuilder.h"
 
-#include <QHash>
-#include <QStringList>
-
 #include <memory>
 
 // Writes what a blueprint says into catalogue items: makes new ones with their children, and
 // brings a kept one up to date, telling whether only its state or also its texts changed (a
-// view repaints less for state). Texts and search words are made again only when their sources
-// changed; the country words for the search are looked up once per country.
+// view repaints less for state). A changed source only marks the search text to be made again:
+// the model makes it when it is first asked for.
 class CatalogItemWriter
 {
 public:
@@ -29,9 +26,6 @@ public:
     bool applyNodeState(CatalogItem *item, const NodeEntry &node) const;
 
 private:
-    QString searchText(const CatalogBlueprint &row, const QString &tier);
-
     const NodeGroupsInfo &m_groups;
     const NodesInfo &m_nodes;
-    QHash<QString, QStringList> m_countryWords; // region -> its words for the search
 };

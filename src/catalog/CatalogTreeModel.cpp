@@ -424,6 +424,18 @@ QString CatalogTreeModel::accessibleText(const Item *item) const
     return parts.join(QLatin1String(", "));
 }
 
+const QString &CatalogTreeModel::searchTextOf(const Item *item) const
+{
+    auto *row = const_cast<Item *>(item);
+    if (row->searchText.isNull()) {
+        row->searchText =
+            m_searchTexts.text({row->label, row->group ? row->groupName : row->node.name,
+                                row->groupCode, row->group ? QStringList() : row->node.tags,
+                                row->tier, row->region, !row->group || row->country});
+    }
+    return row->searchText;
+}
+
 QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid() || index.column() != 0)
@@ -445,7 +457,7 @@ QVariant CatalogTreeModel::data(const QModelIndex &index, int role) const
             return lockedText(item);
         return item->stale ? tr("This list may be out of date.") : QVariant();
     case LocationSearchTextRole:
-        return item->searchText;
+        return searchTextOf(item);
     case LocationNodeIdRole:
         return item->group ? QString() : item->id;
     case LocationPingMsRole:

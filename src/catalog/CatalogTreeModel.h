@@ -2,6 +2,7 @@
 
 #include "CatalogItemWriter.h"
 #include "CatalogLookup.h"
+#include "CatalogSearchText.h"
 #include "CatalogTreeBuilder.h"
 #include "NodeGroupsInfo.h"
 #include "NodesInfo.h"
@@ -75,6 +76,7 @@ private:
     QString accessibleText(const Item *item) const;
     // Why a locked row is locked and which plan opens it.
     static QString lockedText(const Item *item);
+    const QString &searchTextOf(const Item *item) const;
 
     NodeGroupsInfo m_groups;
     NodesInfo m_nodes;
@@ -85,4 +87,5 @@ private:
     std::unique_ptr<Item> m_root;
     CatalogItemWriter m_writer{m_groups, m_nodes};
     mutable CatalogLookup m_lookup;
+    mutable CatalogSearchText m_searchTexts;
 };

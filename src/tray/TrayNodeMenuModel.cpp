@@ -144,8 +144,11 @@ void TrayNodeMenuModel::rebuild()
         taken.insert(node.id);
         entries.append(Entry{node.id, nodeLabel(node, m_groups), connected, locked});
     };
+    // Read through a const list: the record is shared with the state store, and a non-const
+    // walk would copy every node of it.
+    const QList<NodeEntry> &nodes = std::as_const(m_nodes.nodes);
     const auto byId = [&](const QString &id) -> const NodeEntry * {
-        for (const NodeEntry &node : m_nodes.nodes) {
+        for (const NodeEntry &node : nodes) {
             if (node.id == id)
                 return &node;
         }
@@ -157,7 +160,7 @@ void TrayNodeMenuModel::rebuild()
         const NodeEntry *full = byId(current->id);
         take(full ? *full : *current, m_connected && current == &m_nodes.connected);
     }
-    for (const NodeEntry &node : m_nodes.nodes) {
+    for (const NodeEntry &node : nodes) {
         if (node.tags.contains(QStringLiteral("FAVORITE"), Qt::CaseInsensitive))
             take(node, false);
     }
@@ -166,17 +169,22 @@ void TrayNodeMenuModel::rebuild()
             take(*node, false);
     }
     QList<const NodeEntry *> measured;
-    for (const NodeEntry &node : m_nodes.nodes) {
-        if (node.pingMs >= 0)
+    for (const NodeEntry &node : nodes) {
+        if (node.pingMs >= 0 && lockedTier(node).isEmpty())
             measured.append(&node);
     }
-    std::stable_sort(measured.begin(), measured.end(),
-                     [](const NodeEntry *a, const NodeEntry *b) { return a->pingMs < b->pingMs; });
-    for (const NodeEntry *node : measured)
-        take(*node, false, true);
-    for (const NodeEntry &node : m_nodes.nodes)
+    // Fastest usable first, ties in catalogue order. At most kEntryCount rows are taken before,
+    // so the fastest twice that many are all that can still be needed.
+    const qsizetype fastest = std::min<qsizetype>(measured.size(), 2 * kEntryCount);
+    std::partial_sort(measured.begin(), measured.begin() + fastest, measured.end(),
+                      [](const NodeEntry *a, const NodeEntry *b) {
+                          return a->pingMs != b->pingMs ? a->pingMs < b->pingMs : a < b;
+                      });
+    for (qsizetype i = 0; i < fastest; ++i)
+        take(*measured.at(i), false, true);
+    for (const NodeEntry &node : nodes)
         take(node, false, true);
-    for (const NodeEntry &node : m_nodes.nodes)
+    for (const NodeEntry &node : nodes)
         take(node, false);
 
     beginResetModel();

@@ -6,20 +6,28 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-QPixmap IconTinter::tinted(const QString &svgPath, const QSize &logicalSize, const QColor &color,
-                           qreal devicePixelRatio)
+namespace {
+
+// The drawing's coverage at the pixel size, in any colour; null when the file is no SVG.
+QImage coverage(const QString &svgPath, const QSize &logicalSize, qreal dpr)
 {
-    const qreal dpr = devicePixelRatio > 0 ? devicePixelRatio : 1.0;
+    QSvgRenderer renderer(svgPath);
+    if (!renderer.isValid())
+        return {};
     QImage image(logicalSize * dpr, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    QSvgRenderer renderer(svgPath);
-    if (!renderer.isValid()) {
-        return QPixmap();
-    }
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     renderer.render(&painter);
-    // Keep the icon's shape and coverage, replace its colour.
+    return image;
+}
+
+// Keeps the icon's shape and coverage, replaces its colour.
+QPixmap recoloured(QImage image, const QColor &color, qreal dpr)
+{
+    if (image.isNull())
+        return {};
+    QPainter painter(&image);
     painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
     painter.fillRect(image.rect(), color);
     painter.end();
@@ -28,11 +36,23 @@ QPixmap IconTinter::tinted(const QString &svgPath, const QSize &logicalSize, con
     return pixmap;
 }
 
+} // namespace
+
+QPixmap IconTinter::tinted(const QString &svgPath, const QSize &logicalSize, const QColor &color,
+                           qreal devicePixelRatio)
+{
+    const qreal dpr = devicePixelRatio > 0 ? devicePixelRatio : 1.0;
+    return recoloured(coverage(svgPath, logicalSize, dpr), color, dpr);
+}
+
 QIcon IconTinter::sidebarIcon(const QString &svgPath, const ThemeColors &colors,
                               const QSize &logicalSize, qreal devicePixelRatio)
 {
+    // Drawn once, coloured four times.
+    const qreal dpr = devicePixelRatio > 0 ? devicePixelRatio : 1.0;
+    const QImage drawing = coverage(svgPath, logicalSize, dpr);
     const auto render = [&](ThemeColor role) {
-        return tinted(svgPath, logicalSize, colors.color(role), devicePixelRatio);
+        return recoloured(drawing, colors.color(role), dpr);
     };
     const QPixmap muted = render(ThemeColor::TextMuted);
     const QPixmap primary = render(ThemeColor::TextPrimary);

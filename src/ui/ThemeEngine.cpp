@@ -5,6 +5,7 @@
 #include "ThemedScrollBar.h"
 #include "ToggleSwitch.h"
 
+#include <QHash>
 #include <QWidget>
 
 #include <array>
@@ -49,6 +50,31 @@ constexpr std::array<std::pair<const char *, const char *>, 3> kMetricRows{{
     {"@sidebarButtonMinHeight@", "72"},
     {"@sidebarLabelFontPx@", "12"},
 }};
+
+// Appends text with every "@name@" token that values knows replaced; depth levels of values are
+// expanded in turn.
+void expandTokens(QString &out, QStringView text, const QHash<QString, QString> &values, int depth)
+{
+    qsizetype from = 0;
+    for (qsizetype open = text.indexOf(u'@'); open >= 0; open = text.indexOf(u'@', from)) {
+        const qsizetype close = text.indexOf(u'@', open + 1);
+        if (close < 0)
+            break;
+        const auto found = values.constFind(text.sliced(open, close - open + 1).toString());
+        if (found == values.cend()) {
+            out += text.sliced(from, open + 1 - from);
+            from = open + 1;
+            continue;
+        }
+        out += text.sliced(from, open - from);
+        if (depth > 0)
+            expandTokens(out, found.value(), values, depth - 1);
+        else
+            out += found.value();
+        from = close + 1;
+    }
+    out += text.sliced(from);
+}
 
 } // namespace
 
@@ -114,26 +140,26 @@ QString ThemeEngine::renderStyleSheet(const ThemeColors &colors, Qt::LayoutDirec
 QString ThemeEngine::renderStyleSheet(const QString &templateText, const ThemeColors &colors,
                                       Qt::LayoutDirection direction)
 {
-    QString sheet = templateText;
+    QHash<QString, QString> values;
     for (const DirectionRow &row : kDirectionRows) {
-        QString value;
-        if (direction == Qt::LeftToRight) {
-            value = QString::fromLatin1(row.leftToRight);
-        } else if (direction == Qt::RightToLeft) {
-            value = QString::fromLatin1(row.rightToLeft);
-        }
-        sheet.replace(QString::fromLatin1(row.token), value, Qt::CaseSensitive);
+        const char *value = direction == Qt::LeftToRight   ? row.leftToRight
+                            : direction == Qt::RightToLeft ? row.rightToLeft
+                                                           : "";
+        values.insert(QString::fromLatin1(row.token), QString::fromLatin1(value));
     }
     for (int i = 0; i < ThemeColors::Count; ++i) {
         const auto role = static_cast<ThemeColor>(i);
         const QString token = ThemeColors::token(role);
-        if (!token.isEmpty()) {
-            sheet.replace(token, colors.value(role), Qt::CaseSensitive);
-        }
+        if (!token.isEmpty())
+            values.insert(token, colors.value(role));
     }
-    for (const auto &[token, value] : kMetricRows) {
-        sheet.replace(QString::fromLatin1(token), QString::fromLatin1(value), Qt::CaseSensitive);
-    }
+    for (const auto &[token, value] : kMetricRows)
+        values.insert(QString::fromLatin1(token), QString::fromLatin1(value));
+    // One pass over the template instead of one per token; the direction values' own colour
+    // tokens are expanded where they land.
+    QString sheet;
+    sheet.reserve(templateText.size() + templateText.size() / 8);
+    expandTokens(sheet, templateText, values, 1);
     return sheet;
 }
 

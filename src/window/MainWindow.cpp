@@ -27,6 +27,7 @@
 #include <QKeySequence>
 #include <QLabel>
 #include <QMouseEvent>
+#include <QTimer>
 #include <QVBoxLayout>
 #include <QWindow>
 
@@ -54,6 +55,8 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     // with the sheet, instead of being restyled after construction.
     const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
     setPalette(ThemeEngine::buildPalette(colors));
+    // Polished first: a sheet set on a window not yet polished is read again when it is.
+    ensurePolished();
     setStyleSheet(ThemeEngine::renderStyleSheet(colors, layoutDirection()));
 
     auto *closeAction = new QAction(this);
@@ -441,6 +444,9 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
     if (watched == windowHandle() && event->type() == QEvent::Expose &&
         windowHandle()->isExposed()) {
         windowHandle()->removeEventFilter(this);
+        if (guiTextLogEnabled()) // the first picture, once this expose has painted it
+            QTimer::singleShot(0, this,
+                               [this] { guiTextLog("window.shown", m_pageTitle->text()); });
         m_stack->buildRemainingPages();
     }
     return QMainWindow::eventFilter(watched, event);

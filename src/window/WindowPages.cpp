@@ -88,6 +88,7 @@ void WindowPages::wirePage(int index, QWidget *built)
         break;
     case MainWindow::AccountPageIndex:
         m_account = static_cast<AccountPage *>(built);
+        m_account->setDaemonUnavailableReason(m_daemonUnavailableReason);
         connectAccountPage(m_account);
         break;
     default:
@@ -298,9 +299,9 @@ void WindowPages::clearAccountMessage()
 
 void WindowPages::setDaemonUnavailableReason(const QString &reason)
 {
-    if (m_account || !reason.isEmpty()) {
-        builtPage<AccountPage>(MainWindow::AccountPageIndex)->setDaemonUnavailableReason(reason);
-    }
+    m_daemonUnavailableReason = reason; // for the account page when it is built
+    if (m_account)
+        m_account->setDaemonUnavailableReason(reason);
     m_vpn->setDaemonUnavailableReason(reason);
 }
 

@@ -91,6 +91,7 @@ private:
     ModePage *m_mode = nullptr;
     SettingsPage *m_settings = nullptr;
     AccountPage *m_account = nullptr;
+    QString m_daemonUnavailableReason; // for the account page, kept until it is built
 
     DelayedBusyIndicator *m_modeBusy = nullptr;
     DelayedBusyIndicator *m_settingsBusy = nullptr;

@@ -139,7 +139,7 @@ private Q_SLOTS:
         QCOMPARE(source.searchReads, 0);
         QCOMPARE(layout.size() + removed.size(), 0);
         filter.setFilterText(u"tokyo 2"_s);
-        QVERIFY(source.searchReads > 0);
+        QCOMPARE(layout.size(), 1);
     }
 
     void changedSourceIsFilteredAgain()

@@ -126,13 +126,14 @@ void LocationsSearch::selectFirstMatch()
         m_tree->setCurrentIndex(first);
 }
 
+// Both walk the catalogue's groups in the source model: through the filter, every group and
+// node would get a row table of its own.
 QSet<QString> LocationsSearch::expandedSelectors() const
 {
     QSet<QString> selectors;
-    forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-        if (m_tree->isExpanded(index))
-            selectors.insert(index.data(LocationSelectorRole).toString());
-        return true;
+    forEachGroup(m_model, {}, [&](const QModelIndex &group) {
+        if (m_tree->isExpanded(m_filter->mapFromSource(group)))
+            selectors.insert(group.data(LocationSelectorRole).toString());
     });
     return selectors;
 }
@@ -141,11 +142,9 @@ void LocationsSearch::restoreExpansion(const QSet<QString> &selectors)
 {
     QModelIndexList groups;
     if (!selectors.isEmpty()) {
-        forEachRow(m_filter, {}, [&](const QModelIndex &index) {
-            if (index.data(LocationIsGroupRole).toBool() &&
-                selectors.contains(index.data(LocationSelectorRole).toString()))
-                groups.append(index);
-            return true;
+        forEachGroup(m_model, {}, [&](const QModelIndex &group) {
+            if (selectors.contains(group.data(LocationSelectorRole).toString()))
+                groups.append(m_filter->mapFromSource(group));
         });
     }
     m_tree->expandOnly(groups);

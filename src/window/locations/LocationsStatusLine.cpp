@@ -31,7 +31,9 @@ void LocationsStatusLine::setCatalogue(bool known, bool groupsKnown, const NodeE
     m_known = known;
     m_groupsKnown = groupsKnown;
     m_connected = connected;
-    refresh();
+    // Counting the nodes indexes the whole tree: in an event of its own, not on top of a rebuild.
+    if (!m_timer->isActive())
+        m_timer->start();
 }
 
 void LocationsStatusLine::showHint(const QString &text)

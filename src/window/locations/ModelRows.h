@@ -17,3 +17,16 @@ bool forEachRow(const QAbstractItemModel *model, const QModelIndex &parent, Visi
     }
     return true;
 }
+
+// Calls visit(index) for every group of the model (a row with rows below it), parents first.
+template<typename Visit>
+void forEachGroup(const QAbstractItemModel *model, const QModelIndex &parent, Visit &&visit)
+{
+    for (int row = 0; row < model->rowCount(parent); ++row) {
+        const QModelIndex index = model->index(row, 0, parent);
+        if (model->hasChildren(index)) {
+            visit(index);
+            forEachGroup(model, index, visit);
+        }
+    }
+}

@@ -31,7 +31,6 @@ QuickEntryField::QuickEntryField(RecentActivityStore *recent, QWidget *overlay, 
     setPlaceholderText(tr("Search for a country, city or location"));
     setAccessibleName(tr("Quick connect search"));
     setToolTip(WindowShortcuts::toolTip(accessibleName(), WindowShortcuts::Id::Find));
-    FieldClearButton::enable(this, FieldClearButton::Kind::Search);
     setProperty("tovraPopupOpen", false);
 
     m_debounce->setSingleShot(true);
@@ -43,6 +42,12 @@ QuickEntryField::QuickEntryField(RecentActivityStore *recent, QWidget *overlay, 
             openPopup();
     });
     connect(this, &QLineEdit::textChanged, this, [this](const QString &text) {
+        // The clear button shows only over text. Asked for before, the style's icon for it
+        // reads the desktop's icon theme index while the window is being built.
+        if (!text.isEmpty() && !isClearButtonEnabled()) {
+            FieldClearButton::enable(this, FieldClearButton::Kind::Search);
+            Q_EMIT searchStarted();
+        }
         // Emptying the field brings the recent lists back at once; a search waits for a pause.
         if (text.trimmed().isEmpty()) {
             m_debounce->stop();

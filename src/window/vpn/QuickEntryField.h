@@ -37,6 +37,8 @@ public:
     QuickEntryPopup *popup() const { return m_popup; }
 
 Q_SIGNALS:
+    // The first text typed: the catalogue is needed from now on.
+    void searchStarted();
     void nodeChosen(const QString &nodeId, const QString &label, const QString &flagCode);
     void groupChosen(const QString &selector, const QString &label);
 

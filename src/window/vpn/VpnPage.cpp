@@ -35,6 +35,12 @@ VpnPage::VpnPage(GuiPreferences *preferences, QWidget *parent)
     m_announceDelay->setInterval(300);
     connect(m_announceDelay, &QTimer::timeout, this, &VpnPage::speakPendingLine);
     m_search->setCatalogModel(m_catalog);
+    // The search's own tree of the catalogue is built once someone searches: until then it
+    // would double the catalogue's memory and every rebuild.
+    connect(m_search, &QuickEntryField::searchStarted, this, [this] {
+        m_catalogLive = true;
+        m_catalog->setCatalog(m_groups, m_nodes);
+    });
     addContent(m_status);
     addContent(m_search);
     addContent(m_recentCard);
@@ -84,7 +90,8 @@ void VpnPage::refresh(const AppState &state)
     if (state.nodeGroups() != m_groups || state.nodes() != m_nodes) {
         m_groups = state.nodeGroups();
         m_nodes = state.nodes();
-        m_catalog->setCatalog(m_groups, m_nodes);
+        if (m_catalogLive)
+            m_catalog->setCatalog(m_groups, m_nodes);
     }
     redraw();
     m_refreshed = true;

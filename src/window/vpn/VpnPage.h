@@ -86,6 +86,7 @@ private:
     RuntimeInfo m_runtime;
     NodesInfo m_nodes;
     NodeGroupsInfo m_groups;
+    bool m_catalogLive = false; // m_catalog follows m_groups and m_nodes
     KillSwitchInfo m_killSwitch;
     QString m_unavailableReason;
     VpnStatusSummary::PendingConnect m_pending;

@@ -5,8 +5,11 @@
 # search's first match current and its star focused (locations-star), while the catalogue is
 # still loading (locations-loading) and when it could not be fetched (locations-failed), the
 # tray menu (tray-menu), a sidebar tool tip (tooltip), the keyboard shortcuts dialog (shortcuts,
-# F1), the update dialog (update-dialog) and the widget gallery (gallery-*). For reviewing the
-# window after a change; nothing here is a test.
+# F1), the update dialog over the window (update-dialog) and the widget gallery (gallery-*).
+# Drawn offscreen by the tools in scripts/shots (built here if needed): the Mode page's special
+# states and its two dialogs (mode-page, mode-killswitch, mode-regions, mode-rules, ...) and every
+# phase of the update dialog, offered and required (update-offer, update-downloading-forced, ...).
+# For reviewing the window after a change; nothing here is a test.
 # Usage: scripts/window-screenshots.sh [BUILD_DIR] [OUT_DIR] [LOOK...]
 #   LOOK is light, dark, rtl or dark-rtl; all four by default. The right-to-left looks run in
 #   Arabic (TOVRA_SHOT_RTL_LANG, default ar); TOVRA_SHOT_LANG=de (any tag) picks the language
@@ -30,6 +33,9 @@ grab=$build/tests/e2e/tovra-e2e-grab gallery=$build/src/ui/tovra-gallery
 for program in "$client" "$daemon" "$ctl" "$grab"; do
     [[ -x $program ]] || { echo "missing $program: build first" >&2; exit 1; }
 done
+mode_shots=$build/scripts/shots/tovra-mode-shots update_shots=$build/scripts/shots/tovra-update-shots
+cmake --build "$build" --target tovra-mode-shots tovra-update-shots >/dev/null \
+    || { echo "could not build the picture tools in $build" >&2; exit 1; }
 work=$(mktemp -d)
 pids=()
 cleanup() {
@@ -91,10 +97,14 @@ window_id() {
 
 # Starts the client for a look against a daemon and places its window; sets window, wx, wy, ww
 # and wh.
+# The language a look is shown in.
+look_language() {
+    if [[ $1 == *rtl ]]; then echo "${TOVRA_SHOT_RTL_LANG:-ar}"; else echo "${TOVRA_SHOT_LANG:-en}"; fi
+}
 start_client() {
-    local look=$1 name=$2 appearance=${1%-rtl} language=${TOVRA_SHOT_LANG:-en}
+    local look=$1 name=$2 appearance=${1%-rtl} language
+    language=$(look_language "$look")
     [[ $appearance == rtl ]] && appearance=light
-    [[ $look == *rtl ]] && language=${TOVRA_SHOT_RTL_LANG:-ar}
     # The client takes its language, and with it the direction, from the daemon at start.
     "$ctl" --socket "$work/$name.sock" setLanguage user "$language" >/dev/null
     local config=$work/config-$look-$name
@@ -197,6 +207,10 @@ for look in "${looks[@]}"; do
     sleep 2
     shot "$look-update-dialog"
     stop_client
+    for tool in "$mode_shots" "$update_shots"; do
+        TOVRA_SHOT_LANG=$(look_language "$look") QT_QPA_PLATFORM=offscreen \
+            "$tool" "$out" "$look" "$suffix" >/dev/null 2>&1 || echo "$tool failed for $look" >&2
+    done
 done
 if [[ -x $gallery ]]; then
     QT_QPA_PLATFORM=offscreen "$gallery" --screenshot "$work/gallery" >/dev/null 2>&1 \

@@ -1,8 +1,5 @@
-#include "ThemeEngine.h"
 #include "UpdateDialog.h"
 
-#include <QApplication>
-#include <QDir>
 #include <QLabel>
 #include <QProgressBar>
 #include <QPushButton>
@@ -10,27 +7,9 @@
 #include <QTest>
 #include <QTextBrowser>
 
-// The dialog's phases as the user meets them: which way forward each one offers, and its words.
-class TestUpdateDialog : public QObject
-{
-    Q_OBJECT
+namespace {
 
-private Q_SLOTS:
-    void phases_data();
-    void phases();
-    void offerTexts_data();
-    void offerTexts();
-    void buttonsEmitIntents();
-    void screenshots();
-
-private:
-    static UpdateInfo offer(const QStringList &changeLog = {QStringLiteral("Faster <b>lists</b>")});
-    static GUIUpdateDownloadInfo download(const QString &state, qint64 done = 0, qint64 total = 0);
-    static QString visibleButtons(const UpdateDialog &dialog);
-    static void drive(UpdateDialog *dialog, const QString &step);
-};
-
-UpdateInfo TestUpdateDialog::offer(const QStringList &changeLog)
+UpdateInfo offer(const QStringList &changeLog = {QStringLiteral("Faster <b>lists</b>")})
 {
     UpdateInfo info;
     info.valid = true;
@@ -41,7 +20,7 @@ UpdateInfo TestUpdateDialog::offer(const QStringList &changeLog)
     return info;
 }
 
-GUIUpdateDownloadInfo TestUpdateDialog::download(const QString &state, qint64 done, qint64 total)
+GUIUpdateDownloadInfo download(const QString &state, qint64 done, qint64 total)
 {
     GUIUpdateDownloadInfo info;
     info.valid = true;
@@ -51,7 +30,7 @@ GUIUpdateDownloadInfo TestUpdateDialog::download(const QString &state, qint64 do
     return info;
 }
 
-QString TestUpdateDialog::visibleButtons(const UpdateDialog &dialog)
+QString visibleButtons(const UpdateDialog &dialog)
 {
     QStringList names;
     const auto buttons = dialog.findChildren<QPushButton *>();
@@ -62,7 +41,7 @@ QString TestUpdateDialog::visibleButtons(const UpdateDialog &dialog)
     return names.join(QLatin1Char('|'));
 }
 
-void TestUpdateDialog::drive(UpdateDialog *dialog, const QString &step)
+void drive(UpdateDialog *dialog, const QString &step)
 {
     if (step == QLatin1String("offer"))
         dialog->showOffer();
@@ -72,8 +51,6 @@ void TestUpdateDialog::drive(UpdateDialog *dialog, const QString &step)
         dialog->setDownload(download(step, 1100000, 2220609));
     else if (step == QLatin1String("downloading, size unknown"))
         dialog->setDownload(download(QStringLiteral("downloading"), 4096, 0));
-    else if (step == QLatin1String("canceling"))
-        dialog->showCanceling();
     else if (step == QLatin1String("failed, retry"))
         dialog->showFailure(QStringLiteral("Could not download the update."),
                             UpdateDialog::Remedy::Retry, QStringLiteral("disk full"));
@@ -84,191 +61,152 @@ void TestUpdateDialog::drive(UpdateDialog *dialog, const QString &step)
         dialog->setDownload(download(step, 2220609, 2220609));
 }
 
-void TestUpdateDialog::phases_data()
+} // namespace
+
+// The dialog's phases as the user meets them: which way forward each one offers, and its words.
+class TestUpdateDialog : public QObject
 {
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<bool>("forced");
-    QTest::addColumn<UpdateDialog::Phase>("phase");
-    QTest::addColumn<QString>("status");
-    QTest::addColumn<QString>("buttons");
+    Q_OBJECT
 
-    using P = UpdateDialog::Phase;
-    QTest::addRow("offer") << "offer" << false << P::Offer << ""
-                           << "Hide this update|Not Now|Download in Background|Download Update";
-    QTest::addRow("offer, forced") << "offer" << true << P::Offer << ""
-                                   << "Exit Tovra|Download Update";
-    QTest::addRow("preparing") << "preparing" << false << P::Preparing
-                               << "Preparing the download..."
-                               << "Download in Background|Cancel Download";
-    QTest::addRow("queued") << "queued" << false << P::Preparing << "Preparing the download..."
-                            << "Download in Background|Cancel Download";
-    QTest::addRow("retrying") << "retrying" << false << P::Retrying << "Retrying the download..."
-                              << "Download in Background|Cancel Download";
-    QTest::addRow("downloading") << "downloading" << false << P::Downloading
-                                 << "Downloading 1.1 MB of 2.2 MB"
-                                 << "Download in Background|Cancel Download";
-    QTest::addRow("downloading, size unknown")
-        << "downloading, size unknown" << false << P::Downloading << "Downloading update..."
-        << "Download in Background|Cancel Download";
-    QTest::addRow("downloading, forced")
-        << "downloading" << true << P::Downloading << "Downloading 1.1 MB of 2.2 MB"
-        << "Exit Tovra|Download in Background|Cancel Download";
-    QTest::addRow("verifying") << "verifying" << false << P::Verifying
-                               << "Verifying the download..."
-                               << "Download in Background|Cancel Download";
-    QTest::addRow("canceling") << "canceling" << false << P::Canceling
-                               << "Canceling the download..."
-                               << "Download in Background|Canceling...(off)";
-    QTest::addRow("canceled") << "canceled" << false << P::Canceled << "Download canceled."
-                              << "Not Now|Retry Download";
-    QTest::addRow("ready") << "ready" << false << P::Ready
-                           << "Download complete. Opening the installer..."
-                           << "Not Now|Opening Installer...(off)";
-    QTest::addRow("failed, retry") << "failed, retry" << false << P::Failed << ""
-                                   << "Not Now|Retry Download";
-    QTest::addRow("failed, link, forced") << "failed, link" << true << P::Failed << ""
-                                          << "Exit Tovra|Open Download Link";
-}
+private Q_SLOTS:
+    void phases_data()
+    {
+        QTest::addColumn<QString>("step");
+        QTest::addColumn<bool>("forced");
+        QTest::addColumn<UpdateDialog::Phase>("phase");
+        QTest::addColumn<QString>("status");
+        QTest::addColumn<QString>("buttons");
 
-void TestUpdateDialog::phases()
-{
-    QFETCH(QString, step);
-    QFETCH(bool, forced);
-    QFETCH(UpdateDialog::Phase, phase);
-    QFETCH(QString, status);
-    QFETCH(QString, buttons);
-
-    UpdateDialog dialog;
-    dialog.setOffer(offer(), QStringLiteral("0.1.0"), forced);
-    drive(&dialog, step);
-    QCOMPARE(dialog.phase(), phase);
-    QCOMPARE(dialog.statusText(), status);
-    QCOMPARE(visibleButtons(dialog), buttons);
-    // Enter always presses an enabled step forward, never a hidden one.
-    for (const QPushButton *button : dialog.findChildren<QPushButton *>()) {
-        if (button->isDefault())
-            QVERIFY(button->isVisibleTo(&dialog) && button->isEnabled());
-        QVERIFY(!button->accessibleName().isEmpty() || !button->isVisibleTo(&dialog));
+        using P = UpdateDialog::Phase;
+        QTest::addRow("offer") << "offer" << false << P::Offer << ""
+                               << "Hide this update|Not Now|Download in Background|Download Update";
+        QTest::addRow("offer, forced") << "offer" << true << P::Offer << ""
+                                       << "Exit Tovra|Download Update";
+        QTest::addRow("preparing")
+            << "preparing" << false << P::Preparing << "Preparing the download..."
+            << "Download in Background|Cancel Download";
+        QTest::addRow("queued") << "queued" << false << P::Preparing << "Preparing the download..."
+                                << "Download in Background|Cancel Download";
+        QTest::addRow("retrying") << "retrying" << false << P::Retrying
+                                  << "Retrying the download..."
+                                  << "Download in Background|Cancel Download";
+        QTest::addRow("downloading")
+            << "downloading" << false << P::Downloading << "Downloading 1.1 MB of 2.2 MB"
+            << "Download in Background|Cancel Download";
+        QTest::addRow("downloading, size unknown")
+            << "downloading, size unknown" << false << P::Downloading << "Downloading update..."
+            << "Download in Background|Cancel Download";
+        QTest::addRow("downloading, forced")
+            << "downloading" << true << P::Downloading << "Downloading 1.1 MB of 2.2 MB"
+            << "Exit Tovra|Download in Background|Cancel Download";
+        QTest::addRow("verifying")
+            << "verifying" << false << P::Verifying << "Verifying the download..."
+            << "Download in Background|Cancel Download";
+        QTest::addRow("ready") << "ready" << false << P::Ready
+                               << "Download complete. Opening the installer..."
+                               << "Not Now|Opening Installer...(off)";
+        QTest::addRow("failed, retry") << "failed, retry" << false << P::Failed << ""
+                                       << "Not Now|Retry Download";
+        QTest::addRow("failed, link, forced") << "failed, link" << true << P::Failed << ""
+                                              << "Exit Tovra|Open Download Link";
     }
-}
 
-void TestUpdateDialog::offerTexts_data()
-{
-    QTest::addColumn<QString>("current");
-    QTest::addColumn<QString>("available");
-    QTest::addColumn<QStringList>("changeLog");
-    QTest::addColumn<bool>("forced");
-    QTest::addColumn<QString>("heading");
-    QTest::addColumn<QString>("versions");
-    QTest::addColumn<QString>("notes");
+    void phases()
+    {
+        QFETCH(QString, step);
+        QFETCH(bool, forced);
+        QFETCH(UpdateDialog::Phase, phase);
+        QFETCH(QString, status);
+        QFETCH(QString, buttons);
 
-    QTest::addRow("ordinary") << "0.1.0"
-                              << "0.3.0"
-                              << QStringList{QStringLiteral("Faster <b>lists</b>"),
-                                             QStringLiteral(" ")}
-                              << false << "A new Tovra update is available"
-                              << "Current version: 0.1.0\nAvailable version: 0.3.0"
-                              << "\u2022 Faster <b>lists</b>";
-    QTest::addRow("required, nothing known")
-        << ""
-        << "" << QStringList{} << true << "A required update is available"
-        << "Current version: Unknown\nAvailable version: Latest"
-        << "Release notes are unavailable.";
-}
-
-void TestUpdateDialog::offerTexts()
-{
-    QFETCH(QString, current);
-    QFETCH(QString, available);
-    QFETCH(QStringList, changeLog);
-    QFETCH(bool, forced);
-    QFETCH(QString, heading);
-    QFETCH(QString, versions);
-    QFETCH(QString, notes);
-
-    UpdateDialog dialog;
-    UpdateInfo info = offer(changeLog);
-    info.versionCode = available;
-    dialog.setOffer(info, current, forced);
-    QCOMPARE(dialog.windowTitle(), QStringLiteral("Tovra Update"));
-    QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("TovraUpdateHeading"))->text(), heading);
-    QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("TovraUpdateVersions"))->text(), versions);
-    // Change-log lines are the daemon's text, never markup.
-    QCOMPARE(dialog.findChild<QTextBrowser *>()->toPlainText().trimmed(), notes);
-    const QLabel *forcedText = dialog.findChild<QLabel *>(QStringLiteral("TovraUpdateForced"));
-    QCOMPARE(forcedText->isVisibleTo(&dialog), forced);
-    QCOMPARE(forcedText->text(), QStringLiteral("Tovra must be updated before you can connect. "
-                                                "Download the installer or exit Tovra."));
-}
-
-void TestUpdateDialog::buttonsEmitIntents()
-{
-    UpdateDialog dialog;
-    dialog.setOffer(offer(), QStringLiteral("0.1.0"), false);
-    dialog.show();
-    QSignalSpy download(&dialog, &UpdateDialog::downloadRequested);
-    QSignalSpy hideUpdate(&dialog, &UpdateDialog::hideUpdateRequested);
-    // Download in Background starts the download and steps aside.
-    dialog.findChild<QPushButton *>(QStringLiteral("TovraUpdateBackground"))->click();
-    QCOMPARE(download.count(), 1);
-    QVERIFY(!dialog.isVisible());
-    // Under way the same button only hides: a second download is never asked for.
-    dialog.showPreparing();
-    dialog.show();
-    dialog.findChild<QPushButton *>(QStringLiteral("TovraUpdateBackground"))->click();
-    QCOMPARE(download.count(), 1);
-    QVERIFY(!dialog.isVisible());
-
-    dialog.showOffer();
-    dialog.show();
-    QTest::keyClick(&dialog, Qt::Key_Return);
-    QCOMPARE(download.count(), 2);
-    dialog.findChild<QPushButton *>(QStringLiteral("TovraUpdateHide"))->click();
-    QCOMPARE(hideUpdate.count(), 1);
-    QVERIFY(!dialog.isVisible());
-}
-
-// With TOVRA_UPDATE_SHOTS=DIR, writes every phase in light, dark and right-to-left for a look.
-void TestUpdateDialog::screenshots()
-{
-    const QString dir = qEnvironmentVariable("TOVRA_UPDATE_SHOTS");
-    if (dir.isEmpty())
-        QSKIP("TOVRA_UPDATE_SHOTS is not set");
-    QDir().mkpath(dir);
-    const QStringList steps{QStringLiteral("offer"),       QStringLiteral("preparing"),
-                            QStringLiteral("downloading"), QStringLiteral("verifying"),
-                            QStringLiteral("queued"),      QStringLiteral("retrying"),
-                            QStringLiteral("canceling"),   QStringLiteral("canceled"),
-                            QStringLiteral("ready"),       QStringLiteral("failed, retry"),
-                            QStringLiteral("failed, link")};
-    for (const bool dark : {false, true}) {
-        for (const bool rtl : {false, true}) {
-            for (const bool forced : {false, true}) {
-                for (const QString &step : steps) {
-                    UpdateDialog dialog;
-                    dialog.setLayoutDirection(rtl ? Qt::RightToLeft : Qt::LeftToRight);
-                    dialog.setOffer(offer({QStringLiteral("Locations load faster."),
-                                           QStringLiteral("Kill Switch shows lockdown.")}),
-                                    QStringLiteral("0.1.0"), forced);
-                    drive(&dialog, step);
-                    ThemeEngine::applyToWindow(
-                        &dialog,
-                        ThemeEngine::buildColors(dark ? Appearance::Dark : Appearance::Light));
-                    dialog.show();
-                    QCoreApplication::processEvents();
-                    dialog.adjustSize();
-                    QCoreApplication::processEvents();
-                    QString name = QStringLiteral("%1-%2%3%4.png")
-                                       .arg(QLatin1String(dark ? "dark" : "light"), step,
-                                            QLatin1String(forced ? "-forced" : ""),
-                                            QLatin1String(rtl ? "-rtl" : ""));
-                    name.replace(QStringLiteral(", "), QStringLiteral("-"));
-                    QVERIFY(dialog.grab().save(QDir(dir).filePath(name)));
-                }
-            }
+        UpdateDialog dialog;
+        dialog.setOffer(offer(), QStringLiteral("0.1.0"), forced);
+        drive(&dialog, step);
+        QCOMPARE(dialog.phase(), phase);
+        QCOMPARE(dialog.statusText(), status);
+        QCOMPARE(visibleButtons(dialog), buttons);
+        // Enter always presses an enabled step forward, never a hidden one.
+        for (const QPushButton *button : dialog.findChildren<QPushButton *>()) {
+            if (button->isDefault())
+                QVERIFY(button->isVisibleTo(&dialog) && button->isEnabled());
+            QVERIFY(!button->accessibleName().isEmpty() || !button->isVisibleTo(&dialog));
         }
     }
-}
+
+    void offerTexts_data()
+    {
+        QTest::addColumn<QString>("current");
+        QTest::addColumn<QString>("available");
+        QTest::addColumn<QStringList>("changeLog");
+        QTest::addColumn<bool>("forced");
+        QTest::addColumn<QString>("heading");
+        QTest::addColumn<QString>("versions");
+        QTest::addColumn<QString>("notes");
+
+        QTest::addRow("ordinary") << "0.1.0"
+                                  << "0.3.0"
+                                  << QStringList{QStringLiteral("Faster <b>lists</b>"),
+                                                 QStringLiteral(" ")}
+                                  << false << "A new Tovra update is available"
+                                  << "Current version: 0.1.0\nAvailable version: 0.3.0"
+                                  << "\u2022 Faster <b>lists</b>";
+        QTest::addRow("required, nothing known")
+            << ""
+            << "" << QStringList{} << true << "A required update is available"
+            << "Current version: Unknown\nAvailable version: Latest"
+            << "Release notes are unavailable.";
+    }
+
+    void offerTexts()
+    {
+        QFETCH(QString, current);
+        QFETCH(QString, available);
+        QFETCH(QStringList, changeLog);
+        QFETCH(bool, forced);
+        QFETCH(QString, heading);
+        QFETCH(QString, versions);
+        QFETCH(QString, notes);
+
+        UpdateDialog dialog;
+        UpdateInfo info = offer(changeLog);
+        info.versionCode = available;
+        dialog.setOffer(info, current, forced);
+        QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("TovraUpdateHeading"))->text(), heading);
+        QCOMPARE(dialog.findChild<QLabel *>(QStringLiteral("TovraUpdateVersions"))->text(),
+                 versions);
+        // Change-log lines are the daemon's text, never markup.
+        QCOMPARE(dialog.findChild<QTextBrowser *>()->toPlainText().trimmed(), notes);
+        const QLabel *forcedText = dialog.findChild<QLabel *>(QStringLiteral("TovraUpdateForced"));
+        QCOMPARE(forcedText->isVisibleTo(&dialog), forced);
+    }
+
+    void buttonsEmitIntents()
+    {
+        UpdateDialog dialog;
+        dialog.setOffer(offer(), QStringLiteral("0.1.0"), false);
+        dialog.show();
+        QSignalSpy download(&dialog, &UpdateDialog::downloadRequested);
+        QSignalSpy hideUpdate(&dialog, &UpdateDialog::hideUpdateRequested);
+        // Download in Background starts the download and steps aside.
+        dialog.findChild<QPushButton *>(QStringLiteral("TovraUpdateBackground"))->click();
+        QCOMPARE(download.count(), 1);
+        QVERIFY(!dialog.isVisible());
+        // Under way the same button only hides: a second download is never asked for.
+        dialog.showPreparing();
+        dialog.show();
+        dialog.findChild<QPushButton *>(QStringLiteral("TovraUpdateBackground"))->click();
+        QCOMPARE(download.count(), 1);
+        QVERIFY(!dialog.isVisible());
+
+        dialog.showOffer();
+        dialog.show();
+        QTest::keyClick(&dialog, Qt::Key_Return);
+        QCOMPARE(download.count(), 2);
+        dialog.findChild<QPushButton *>(QStringLiteral("TovraUpdateHide"))->click();
+        QCOMPARE(hideUpdate.count(), 1);
+        QVERIFY(!dialog.isVisible());
+    }
+};
 
 QTEST_MAIN(TestUpdateDialog)
 #include "TestUpdateDialog.moc"

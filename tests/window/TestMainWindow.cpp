@@ -9,10 +9,8 @@
 #include "PageStack.h"
 #include "QuitWatcher.h"
 #include "SettingsPage.h"
-#include "SignalProbe.h"
 #include "TempXdgDirs.h"
 #include "ThemeEngine.h"
-#include "WindowPage.h"
 
 #include <QAction>
 #include <QApplication>
@@ -65,385 +63,264 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void showPage_data();
-    void showPage();
-    void splitRulesRequest_data();
-    void splitRulesRequest();
-    void splitRulesNotRequestedAgainWhileFetching();
-    void busyIndicatorsWaitForTheDelay();
-    void pagesBuiltLate();
-    void errorFallbacks_data();
-    void errorFallbacks();
-    void appearance_data();
-    void appearance();
-    void pageIntentsReachWindow_data();
-    void pageIntentsReachWindow();
-    void shortcuts_data();
-    void shortcuts();
-    void close_data();
-    void close();
-};
-
-void TestMainWindow::initTestCase()
-{
-    registerControlMetaTypes();
-    // As the window controller does: closing the last window never quits by itself.
-    QApplication::setQuitOnLastWindowClosed(false);
-}
-
-void TestMainWindow::showPage_data()
-{
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("shown");
-    QTest::addColumn<int>("modeLeft");
-    QTest::addColumn<int>("settingsVisible");
-    QTest::addColumn<QString>("title"); // empty: no page title shown
-    QTest::addRow("mode to vpn") << 2 << 0 << 0 << 1 << 0 << QString();
-    QTest::addRow("mode to locations") << 2 << 1 << 1 << 1 << 0 << "Locations";
-    QTest::addRow("mode to settings") << 2 << 3 << 3 << 1 << 1 << "Settings";
-    QTest::addRow("mode to mode") << 2 << 2 << 2 << 0 << 0 << "Mode";
-    QTest::addRow("vpn to mode") << 0 << 2 << 2 << 0 << 0 << "Mode";
-    QTest::addRow("settings to vpn") << 3 << 0 << 0 << 0 << 0 << QString();
-    QTest::addRow("negative from vpn") << 0 << -1 << 0 << 0 << 0 << QString();
-    QTest::addRow("past the end from mode") << 2 << 5 << 2 << 0 << 0 << "Mode";
-}
-
-void TestMainWindow::showPage()
-{
-    QFETCH(int, from);
-    QFETCH(int, to);
-    QFETCH(int, shown);
-    QFETCH(int, modeLeft);
-    QFETCH(int, settingsVisible);
-    QFETCH(QString, title);
-    Fixture f;
-    f.holdSplitRules();
-    f.window->show();
-    f.window->showPage(from);
-    QSignalSpy left(f.window, &MainWindow::modePageLeft);
-    QSignalSpy settings(f.window, &MainWindow::settingsVisibleRequested);
-    f.window->showPage(to);
-    QCOMPARE(f.window->currentPage(), shown);
-    QCOMPARE(f.find<NavigationSidebar>()->currentIndex(), shown);
-    QCOMPARE(left.count(), modeLeft);
-    QCOMPARE(settings.count(), settingsVisible);
-    QCOMPARE(f.title()->isVisible(), !title.isEmpty());
-    if (!title.isEmpty()) {
-        QCOMPARE(f.title()->text(), title);
+    void initTestCase()
+    {
+        registerControlMetaTypes();
+        // As the window controller does: closing the last window never quits by itself.
+        QApplication::setQuitOnLastWindowClosed(false);
     }
-}
 
-void TestMainWindow::splitRulesRequest_data()
-{
-    QTest::addColumn<bool>("haveRules");
-    QTest::addColumn<bool>("fetching");
-    QTest::addColumn<bool>("importing");
-    QTest::addColumn<int>("requests");
-    QTest::addRow("no rules") << false << false << false << 1;
-    QTest::addRow("rules held") << true << false << false << 0;
-    QTest::addRow("fetch running") << false << true << false << 0;
-    QTest::addRow("import running") << false << false << true << 0;
-}
+    void showPage_data()
+    {
+        QTest::addColumn<int>("from");
+        QTest::addColumn<int>("to");
+        QTest::addColumn<int>("shown");
+        QTest::addColumn<int>("modeLeft");
+        QTest::addColumn<int>("settingsVisible");
+        QTest::addColumn<QString>("title"); // empty: no page title shown
+        QTest::addRow("mode to vpn") << 2 << 0 << 0 << 1 << 0 << QString();
+        QTest::addRow("mode to settings") << 2 << 3 << 3 << 1 << 1 << "Settings";
+        QTest::addRow("mode to mode") << 2 << 2 << 2 << 0 << 0 << "Mode";
+        QTest::addRow("negative from vpn") << 0 << -1 << 0 << 0 << 0 << QString();
+        QTest::addRow("past the end from mode") << 2 << 5 << 2 << 0 << 0 << "Mode";
+    }
 
-void TestMainWindow::splitRulesRequest()
-{
-    QFETCH(bool, haveRules);
-    QFETCH(bool, fetching);
-    QFETCH(bool, importing);
-    QFETCH(int, requests);
-    Fixture f;
-    if (haveRules) {
+    void showPage()
+    {
+        QFETCH(int, from);
+        QFETCH(int, to);
+        QFETCH(int, shown);
+        QFETCH(int, modeLeft);
+        QFETCH(int, settingsVisible);
+        QFETCH(QString, title);
+        Fixture f;
         f.holdSplitRules();
-    }
-    f.window->setSplitRulesFetchInProgress(fetching);
-    f.window->setSplitRulesImportInProgress(importing);
-    QSignalSpy requested(f.window, &MainWindow::splitRulesRequested);
-    f.window->showPage(2);
-    QCOMPARE(requested.count(), requests);
-}
-
-void TestMainWindow::splitRulesNotRequestedAgainWhileFetching()
-{
-    Fixture f;
-    QSignalSpy requested(f.window, &MainWindow::splitRulesRequested);
-    f.window->showPage(2);
-    QCOMPARE(requested.count(), 1);
-    f.window->setSplitRulesFetchInProgress(true);
-    f.window->showPage(0);
-    f.window->showPage(2);
-    QCOMPARE(requested.count(), 1);
-    // The fetch failed: coming back asks again.
-    f.window->setSplitRulesFetchInProgress(false);
-    f.window->showPage(0);
-    f.window->showPage(2);
-    QCOMPARE(requested.count(), 2);
-}
-
-void TestMainWindow::busyIndicatorsWaitForTheDelay()
-{
-    Fixture f;
-    ModePage *mode = f.find<ModePage>();
-    f.window->setSettingsOperationBusy(true);
-    f.window->setModeOperationBusy(true);
-    f.window->setSettingsOperationBusy(false);
-    QVERIFY(!mode->isModeBusy());
-    // The mode indicator started later with the same delay; once it shows, the settings one
-    // would have shown too had its timer survived.
-    QTRY_VERIFY(mode->isModeBusy());
-    QVERIFY(!f.find<SettingsPage>()->isBusy());
-    QVERIFY(!mode->isSettingsBusy());
-    f.window->setModeOperationBusy(false);
-    QVERIFY(!mode->isModeBusy());
-}
-
-void TestMainWindow::pagesBuiltLate()
-{
-    TempXdgDirs dirs;
-    AppState state;
-    GuiPreferences preferences;
-    MainWindow window(&state, &preferences);
-    // Until the window has painted, only the first page exists; a visit builds one at once.
-    QVERIFY(!window.findChild<ModePage *>());
-    window.showPage(MainWindow::SettingsPageIndex);
-    QVERIFY(window.findChild<SettingsPage *>());
-    QVERIFY(!window.findChild<ModePage *>());
-    window.setSplitRulesImportInProgress(true);
-    window.showPage(MainWindow::VpnPageIndex);
-
-    window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
-    QTRY_VERIFY(window.findChild<ModePage *>());
-    // A page built late takes what the window was told before it existed.
-    QVERIFY(window.findChild<ModePage *>()->isSplitRulesImportInProgress());
-    QCOMPARE(window.findChildren<SettingsPage *>().size(), 1);
-}
-
-void TestMainWindow::errorFallbacks_data()
-{
-    QTest::addColumn<int>("report"); // 0 operation, 1 settings, 2 mode
-    QTest::addColumn<QString>("message");
-    QTest::addColumn<QString>("shown");
-    QTest::addRow("operation, empty") << 0 << QString() << "Operation failed";
-    QTest::addRow("operation, blank") << 0 << QStringLiteral(" \t ") << "Operation failed";
-    QTest::addRow("operation, daemon text")
-        << 0 << QStringLiteral("  node is offline \n") << "node is offline";
-    QTest::addRow("settings, empty") << 1 << QString() << "Settings operation failed";
-    QTest::addRow("mode, empty") << 2 << QString() << "Mode operation failed";
-    QTest::addRow("mode, daemon text") << 2 << QStringLiteral("bad rule ") << "bad rule";
-}
-
-void TestMainWindow::errorFallbacks()
-{
-    QFETCH(int, report);
-    QFETCH(QString, message);
-    QFETCH(QString, shown);
-    Fixture f;
-    f.window->show();
-    const std::array reports = {&MainWindow::showOperationError,
-                                &MainWindow::showSettingsOperationError,
-                                &MainWindow::showModeOperationError};
-    (f.window->*reports.at(report))(message);
-    QVERIFY(f.host()->isVisible());
-    QCOMPARE(f.find<QLabel>(QStringLiteral("TovraNotificationMessage"))->text(), shown);
-    QCOMPARE(f.host()->kind(), QStringLiteral("error"));
-    QVERIFY(f.host()->findChild<QTimer *>()->isActive());
-}
-
-void TestMainWindow::appearance_data()
-{
-    QTest::addColumn<QString>("preference");
-    QTest::addColumn<bool>("fromSettingsPage");
-    QTest::addColumn<QString>("stored");
-    QTest::addColumn<Appearance>("effective");
-    QTest::addColumn<int>("changes");
-    QTest::addRow("dark") << "dark" << false << "dark" << Appearance::Dark << 1;
-    QTest::addRow("light") << "light" << false << "light" << Appearance::Light << 1;
-    QTest::addRow("dark from settings page") << "dark" << true << "dark" << Appearance::Dark << 1;
-    QTest::addRow("system again") << "system" << false << "system" << Appearance::Light << 0;
-    QTest::addRow("unknown means system") << "sepia" << false << "system" << Appearance::Light << 0;
-}
-
-void TestMainWindow::appearance()
-{
-    QFETCH(QString, preference);
-    QFETCH(bool, fromSettingsPage);
-    QFETCH(QString, stored);
-    QFETCH(Appearance, effective);
-    QFETCH(int, changes);
-    Fixture f;
-    QSignalSpy changed(f.window, &MainWindow::appearancePreferenceChanged);
-    if (fromSettingsPage) {
-        Q_EMIT f.find<SettingsPage>()->appearanceChangeRequested(preference);
-    } else {
-        f.window->setAppearancePreference(preference);
-    }
-    QCOMPARE(changed.count(), changes);
-    QCOMPARE(f.preferences.appearance(), stored);
-    const ThemeColors colors = ThemeEngine::buildColors(effective);
-    QCOMPARE(f.window->palette().color(QPalette::Window), colors.color(ThemeColor::WindowBg));
-    QCOMPARE(f.find<ModePage>()->themeColors().appearance(), effective);
-}
-
-void TestMainWindow::pageIntentsReachWindow_data()
-{
-    QTest::addColumn<QString>("page");
-    QTest::addColumn<QByteArray>("signature");
-    Fixture f;
-    const QList<QByteArray> windowSignals = SignalProbe::ownSignals(MainWindow::staticMetaObject);
-    for (const WindowPage *page : f.window->findChildren<WindowPage *>()) {
-        for (const QByteArray &signature : SignalProbe::ownSignals(*page->metaObject())) {
-            if (windowSignals.contains(signature)) {
-                QTest::addRow("%s %s", qPrintable(page->objectName()), signature.constData())
-                    << page->objectName() << signature;
-            }
+        f.window->show();
+        f.window->showPage(from);
+        QSignalSpy left(f.window, &MainWindow::modePageLeft);
+        QSignalSpy settings(f.window, &MainWindow::settingsVisibleRequested);
+        f.window->showPage(to);
+        QCOMPARE(f.window->currentPage(), shown);
+        QCOMPARE(f.find<NavigationSidebar>()->currentIndex(), shown);
+        QCOMPARE(left.count(), modeLeft);
+        QCOMPARE(settings.count(), settingsVisible);
+        QCOMPARE(f.title()->isVisible(), !title.isEmpty());
+        if (!title.isEmpty()) {
+            QCOMPARE(f.title()->text(), title);
         }
     }
-}
 
-void TestMainWindow::pageIntentsReachWindow()
-{
-    QFETCH(QString, page);
-    QFETCH(QByteArray, signature);
-    Fixture f;
-    QObject *source = f.find<QWidget>(page);
-    const QMetaMethod method =
-        source->metaObject()->method(source->metaObject()->indexOfSignal(signature.constData()));
-    ModeInfo mode;
-    mode.valid = true;
-    mode.transport = QStringLiteral("wireguard");
-    const QVariantList arguments =
-        SignalProbe::sampleArguments(method, {{"ModeInfo", QVariant::fromValue(mode)}});
-    QSignalSpy received(f.window, SignalProbe::spyName(signature).constData());
-    QVERIFY(SignalProbe::emitSignal(source, signature, arguments));
-    QCOMPARE(received.count(), 1);
-    QCOMPARE(received.at(0), arguments);
-}
-
-void TestMainWindow::close_data()
-{
-    QTest::addColumn<bool>("hideOnClose");
-    QTest::addColumn<bool>("deleteOnClose");
-    QTest::addColumn<bool>("byShortcut");
-    QTest::addColumn<int>("startPage");
-    QTest::addRow("hide, keep") << true << false << false << 0;
-    QTest::addRow("hide, keep, from mode") << true << false << false << 2;
-    QTest::addRow("hide by close shortcut") << true << false << true << 2;
-    QTest::addRow("hide, delete") << true << true << false << 2;
-    QTest::addRow("quit") << false << false << false << 0;
-}
-
-void TestMainWindow::close()
-{
-    QFETCH(bool, hideOnClose);
-    QFETCH(bool, deleteOnClose);
-    QFETCH(bool, byShortcut);
-    QFETCH(int, startPage);
-    Fixture f;
-    f.holdSplitRules();
-    f.window->setHideOnClose(hideOnClose);
-    f.window->setDeleteOnClose(deleteOnClose);
-    f.window->show();
-    f.window->showPage(startPage);
-    QSignalSpy hidden(f.window, &MainWindow::hiddenToTray);
-    QSignalSpy left(f.window, &MainWindow::modePageLeft);
-    auto *action = f.find<QAction>(QStringLiteral("TovraCloseWindowAction"));
-    QuitWatcher quit;
-    QuitWatcher::runLoopAround([&] { byShortcut ? action->trigger() : void(f.window->close()); });
-    QCOMPARE(quit.quitRequests(), hideOnClose ? 0 : 1);
-    QCOMPARE(hidden.count(), hideOnClose ? 1 : 0);
-    QCOMPARE(left.count(), startPage == 2 ? 1 : 0);
-    if (deleteOnClose) {
-        QTRY_VERIFY(f.window.isNull());
-        return;
+    void splitRulesRequest()
+    {
+        Fixture f;
+        QSignalSpy requested(f.window, &MainWindow::splitRulesRequested);
+        const auto visitMode = [&] {
+            f.window->showPage(MainWindow::VpnPageIndex);
+            f.window->showPage(MainWindow::ModePageIndex);
+        };
+        // An import under way brings the list back by itself.
+        f.window->setSplitRulesImportInProgress(true);
+        visitMode();
+        QCOMPARE(requested.count(), 0);
+        f.window->setSplitRulesImportInProgress(false);
+        visitMode();
+        QCOMPARE(requested.count(), 1);
+        f.window->setSplitRulesFetchInProgress(true);
+        visitMode();
+        QCOMPARE(requested.count(), 1);
+        // The fetch failed: coming back asks again; rules held are not asked for.
+        f.window->setSplitRulesFetchInProgress(false);
+        visitMode();
+        QCOMPARE(requested.count(), 2);
+        f.holdSplitRules();
+        visitMode();
+        QCOMPARE(requested.count(), 2);
     }
-    QVERIFY(!f.window->isVisible());
-    // It comes back as it was.
-    f.window->show();
-    QCOMPARE(f.window->currentPage(), startPage);
-}
 
-void TestMainWindow::shortcuts_data()
-{
-    QTest::addColumn<QKeySequence>("keys");
-    QTest::addColumn<int>("startPage");
-    QTest::addColumn<int>("cooldown");
-    QTest::addColumn<int>("page");      // shown afterwards
-    QTest::addColumn<QString>("focus"); // object name of the focused widget, or empty
-    QTest::addColumn<int>("refreshes"); // refreshLocationsRequested
-    QTest::addColumn<bool>("shortcutsShown");
-    QTest::addColumn<bool>("quits");
-    QTest::addColumn<bool>("hidden");
-    const QKeySequence ctrl2(Qt::CTRL | Qt::Key_2), ctrl5(Qt::CTRL | Qt::Key_5),
-        ctrl1(Qt::CTRL | Qt::Key_1), find(QKeySequence::Find), ctrlR(Qt::CTRL | Qt::Key_R);
-    QTest::addRow("Ctrl+2: Locations")
-        << ctrl2 << 0 << 0 << 1 << "" << 0 << false << false << false;
-    QTest::addRow("Ctrl+5: Account") << ctrl5 << 0 << 0 << 4 << "" << 0 << false << false << false;
-    QTest::addRow("Ctrl+1: VPN") << ctrl1 << 3 << 0 << 0 << "" << 0 << false << false << false;
-    QTest::addRow("find on VPN") << find << 0 << 0 << 0 << "TovraVPNSearch" << 0 << false << false
-                                 << false;
-    QTest::addRow("find on Locations")
-        << find << 1 << 0 << 1 << "TovraLocationsSearch" << 0 << false << false << false;
-    QTest::addRow("find on Mode: nothing")
-        << find << 2 << 0 << 2 << "" << 0 << false << false << false;
-    QTest::addRow("Ctrl+R") << ctrlR << 2 << 0 << 2 << "" << 1 << false << false << false;
-    QTest::addRow("Ctrl+R in the cooldown")
-        << ctrlR << 1 << 30 << 1 << "" << 0 << false << false << false;
-    QTest::addRow("F1") << QKeySequence(QKeySequence::HelpContents) << 0 << 0 << 0 << "" << 0
-                        << true << false << false;
-    QTest::addRow("Ctrl+Q") << QKeySequence(Qt::CTRL | Qt::Key_Q) << 0 << 0 << 0 << "" << 0 << false
-                            << true << false;
-    QTest::addRow("Ctrl+W") << QKeySequence(QKeySequence::Close) << 0 << 0 << 0 << "" << 0 << false
-                            << false << true;
-}
+    void busyIndicatorsWaitForTheDelay()
+    {
+        Fixture f;
+        ModePage *mode = f.find<ModePage>();
+        f.window->setSettingsOperationBusy(true);
+        f.window->setModeOperationBusy(true);
+        f.window->setSettingsOperationBusy(false);
+        QVERIFY(!mode->isModeBusy());
+        // The mode indicator started later with the same delay; once it shows, the settings one
+        // would have shown too had its timer survived.
+        QTRY_VERIFY(mode->isModeBusy());
+        QVERIFY(!f.find<SettingsPage>()->isBusy());
+        QVERIFY(!mode->isSettingsBusy());
+        f.window->setModeOperationBusy(false);
+        QVERIFY(!mode->isModeBusy());
+    }
 
-void TestMainWindow::shortcuts()
-{
-    QFETCH(QKeySequence, keys);
-    QFETCH(int, startPage);
-    QFETCH(int, cooldown);
-    QFETCH(int, page);
-    QFETCH(QString, focus);
-    QFETCH(int, refreshes);
-    QFETCH(bool, shortcutsShown);
-    QFETCH(bool, quits);
-    QFETCH(bool, hidden);
-    Fixture f;
-    f.holdSplitRules();
-    f.state.startNodesRefreshCooldown(cooldown);
-    f.window->show();
-    f.window->showPage(startPage);
-    f.window->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(f.window));
-    QSignalSpy refresh(f.window, &MainWindow::refreshLocationsRequested);
-    QSignalSpy toTray(f.window, &MainWindow::hiddenToTray);
-    if (quits) {
-        // Quit ends the application's event loop; the deadline ends it with 1 otherwise.
-        QTimer::singleShot(0, f.window, [&] { QTest::keySequence(f.window, keys); });
-        QTimer::singleShot(5000, f.window, [] { QCoreApplication::exit(1); });
-        QCOMPARE(QCoreApplication::exec(), 0);
-    } else {
-        QTest::keySequence(f.window, keys);
+    void pagesBuiltLate()
+    {
+        TempXdgDirs dirs;
+        AppState state;
+        GuiPreferences preferences;
+        MainWindow window(&state, &preferences);
+        // Until the window has painted, only the first page exists; a visit builds one at once.
+        QVERIFY(!window.findChild<ModePage *>());
+        window.showPage(MainWindow::SettingsPageIndex);
+        QVERIFY(window.findChild<SettingsPage *>());
+        QVERIFY(!window.findChild<ModePage *>());
+        window.setSplitRulesImportInProgress(true);
+        window.showPage(MainWindow::VpnPageIndex);
+
+        window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QTRY_VERIFY(window.findChild<ModePage *>());
+        // A page built late takes what the window was told before it existed.
+        QVERIFY(window.findChild<ModePage *>()->isSplitRulesImportInProgress());
+        QCOMPARE(window.findChildren<SettingsPage *>().size(), 1);
     }
-    QCOMPARE(f.window->currentPage(), page);
-    QCOMPARE(refresh.count(), refreshes);
-    QCOMPARE(toTray.count(), hidden ? 1 : 0);
-    if (!focus.isEmpty())
-        QTRY_COMPARE(QApplication::focusWidget() ? QApplication::focusWidget()->objectName()
-                                                 : QString(),
-                     focus);
-    KeyboardShortcutsDialog *dialog = f.window->keyboardShortcutsDialog();
-    QCOMPARE(dialog && dialog->isVisible(), shortcutsShown);
-    if (dialog) {
-        // Every shortcut is listed, its keys as the desktop writes them.
-        const QList<WindowShortcuts::Entry> entries = WindowShortcuts::entries();
-        QCOMPARE(dialog->list()->topLevelItemCount(), entries.size());
-        QCOMPARE(dialog->list()->topLevelItem(1)->text(0), QStringLiteral("Ctrl+2"));
-        QTest::keyClick(dialog->list(), Qt::Key_Escape);
-        QTRY_VERIFY(!f.window->keyboardShortcutsDialog());
+
+    void errorFallbacks_data()
+    {
+        QTest::addColumn<int>("report"); // 0 operation, 1 settings, 2 mode
+        QTest::addColumn<QString>("message");
+        QTest::addColumn<QString>("shown");
+        QTest::addRow("operation, empty") << 0 << QString() << "Operation failed";
+        QTest::addRow("operation, daemon text")
+            << 0 << QStringLiteral("  node is offline \n") << "node is offline";
+        QTest::addRow("settings, empty") << 1 << QString() << "Settings operation failed";
+        QTest::addRow("mode, empty") << 2 << QString() << "Mode operation failed";
     }
-}
+
+    void errorFallbacks()
+    {
+        QFETCH(int, report);
+        QFETCH(QString, message);
+        QFETCH(QString, shown);
+        Fixture f;
+        f.window->show();
+        const std::array reports = {&MainWindow::showOperationError,
+                                    &MainWindow::showSettingsOperationError,
+                                    &MainWindow::showModeOperationError};
+        (f.window->*reports.at(report))(message);
+        QVERIFY(f.host()->isVisible());
+        QCOMPARE(f.find<QLabel>(QStringLiteral("TovraNotificationMessage"))->text(), shown);
+        QCOMPARE(f.host()->kind(), QStringLiteral("error"));
+        QVERIFY(f.host()->findChild<QTimer *>()->isActive());
+    }
+
+    void appearance_data()
+    {
+        QTest::addColumn<QString>("preference");
+        QTest::addColumn<bool>("fromSettingsPage");
+        QTest::addColumn<QString>("stored");
+        QTest::addColumn<Appearance>("effective");
+        QTest::addColumn<int>("changes");
+        QTest::addRow("dark") << "dark" << false << "dark" << Appearance::Dark << 1;
+        QTest::addRow("dark from settings page")
+            << "dark" << true << "dark" << Appearance::Dark << 1;
+        QTest::addRow("system again") << "system" << false << "system" << Appearance::Light << 0;
+        QTest::addRow("unknown means system")
+            << "sepia" << false << "system" << Appearance::Light << 0;
+    }
+
+    void appearance()
+    {
+        QFETCH(QString, preference);
+        QFETCH(bool, fromSettingsPage);
+        QFETCH(QString, stored);
+        QFETCH(Appearance, effective);
+        QFETCH(int, changes);
+        Fixture f;
+        QSignalSpy changed(f.window, &MainWindow::appearancePreferenceChanged);
+        if (fromSettingsPage) {
+            Q_EMIT f.find<SettingsPage>()->appearanceChangeRequested(preference);
+        } else {
+            f.window->setAppearancePreference(preference);
+        }
+        QCOMPARE(changed.count(), changes);
+        QCOMPARE(f.preferences.appearance(), stored);
+        const ThemeColors colors = ThemeEngine::buildColors(effective);
+        QCOMPARE(f.window->palette().color(QPalette::Window), colors.color(ThemeColor::WindowBg));
+        QCOMPARE(f.find<ModePage>()->themeColors().appearance(), effective);
+    }
+
+    void shortcuts_data()
+    {
+        QTest::addColumn<QKeySequence>("keys");
+        QTest::addColumn<int>("startPage");
+        QTest::addColumn<int>("cooldown");
+        QTest::addColumn<int>("page");      // shown afterwards
+        QTest::addColumn<QString>("focus"); // object name of the focused widget, or empty
+        QTest::addColumn<int>("refreshes"); // refreshLocationsRequested
+        QTest::addColumn<bool>("shortcutsShown");
+        QTest::addColumn<bool>("quits");
+        QTest::addColumn<bool>("hidden");
+        const QKeySequence ctrl2(Qt::CTRL | Qt::Key_2), ctrl1(Qt::CTRL | Qt::Key_1),
+            find(QKeySequence::Find), ctrlR(Qt::CTRL | Qt::Key_R);
+        QTest::addRow("Ctrl+2: Locations")
+            << ctrl2 << 0 << 0 << 1 << "" << 0 << false << false << false;
+        QTest::addRow("Ctrl+1: VPN") << ctrl1 << 3 << 0 << 0 << "" << 0 << false << false << false;
+        QTest::addRow("find on VPN")
+            << find << 0 << 0 << 0 << "TovraVPNSearch" << 0 << false << false << false;
+        QTest::addRow("find on Locations")
+            << find << 1 << 0 << 1 << "TovraLocationsSearch" << 0 << false << false << false;
+        QTest::addRow("find on Mode: nothing")
+            << find << 2 << 0 << 2 << "" << 0 << false << false << false;
+        QTest::addRow("Ctrl+R") << ctrlR << 2 << 0 << 2 << "" << 1 << false << false << false;
+        QTest::addRow("Ctrl+R in the cooldown")
+            << ctrlR << 1 << 30 << 1 << "" << 0 << false << false << false;
+        QTest::addRow("F1") << QKeySequence(QKeySequence::HelpContents) << 0 << 0 << 0 << "" << 0
+                            << true << false << false;
+        QTest::addRow("Ctrl+Q") << QKeySequence(Qt::CTRL | Qt::Key_Q) << 0 << 0 << 0 << "" << 0
+                                << false << true << false;
+        QTest::addRow("Ctrl+W") << QKeySequence(QKeySequence::Close) << 0 << 0 << 0 << "" << 0
+                                << false << false << true;
+    }
+
+    void shortcuts()
+    {
+        QFETCH(QKeySequence, keys);
+        QFETCH(int, startPage);
+        QFETCH(int, cooldown);
+        QFETCH(int, page);
+        QFETCH(QString, focus);
+        QFETCH(int, refreshes);
+        QFETCH(bool, shortcutsShown);
+        QFETCH(bool, quits);
+        QFETCH(bool, hidden);
+        Fixture f;
+        f.holdSplitRules();
+        f.state.startNodesRefreshCooldown(cooldown);
+        f.window->show();
+        f.window->showPage(startPage);
+        f.window->activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(f.window));
+        QSignalSpy refresh(f.window, &MainWindow::refreshLocationsRequested);
+        QSignalSpy toTray(f.window, &MainWindow::hiddenToTray);
+        if (quits) {
+            // Quit ends the application's event loop; the deadline ends it with 1 otherwise.
+            QTimer::singleShot(0, f.window, [&] { QTest::keySequence(f.window, keys); });
+            QTimer::singleShot(5000, f.window, [] { QCoreApplication::exit(1); });
+            QCOMPARE(QCoreApplication::exec(), 0);
+        } else {
+            QTest::keySequence(f.window, keys);
+        }
+        QCOMPARE(f.window->currentPage(), page);
+        QCOMPARE(refresh.count(), refreshes);
+        QCOMPARE(toTray.count(), hidden ? 1 : 0);
+        if (!focus.isEmpty())
+            QTRY_COMPARE(QApplication::focusWidget() ? QApplication::focusWidget()->objectName()
+                                                     : QString(),
+                         focus);
+        KeyboardShortcutsDialog *dialog = f.window->keyboardShortcutsDialog();
+        QCOMPARE(dialog && dialog->isVisible(), shortcutsShown);
+        if (dialog) {
+            // Every shortcut is listed, its keys as the desktop writes them.
+            const QList<WindowShortcuts::Entry> entries = WindowShortcuts::entries();
+            QCOMPARE(dialog->list()->topLevelItemCount(), entries.size());
+            QCOMPARE(dialog->list()->topLevelItem(1)->text(0), QStringLiteral("Ctrl+2"));
+            QTest::keyClick(dialog->list(), Qt::Key_Escape);
+            QTRY_VERIFY(!f.window->keyboardShortcutsDialog());
+        }
+    }
+};
 
 QTEST_MAIN(TestMainWindow)
 #include "TestMainWindow.moc"

@@ -18,9 +18,9 @@
 #include "TempXdgDirs.h"
 #include "ToggleSwitch.h"
 #include "TranslationManager.h"
+#include "WindowController.h"
 
 #include <QAbstractItemModelTester>
-#include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
@@ -33,6 +33,8 @@
 #include <QScrollArea>
 #include <QSignalSpy>
 #include <QTest>
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -56,16 +58,24 @@ struct Fixture
     DemoDaemon daemon;
     AppState state;
     GuiPreferences preferences;
-    MainWindow window{&state, &preferences};
-    SettingsPage *page = static_cast<SettingsPage *>(
-        window.findChild<PageStack *>()->page(MainWindow::SettingsPageIndex));
+    // The page as the shell gets it: its requests reach the shell through the window controller.
+    WindowController controller{&state, &preferences};
+    MainWindow *window = nullptr;
+    SettingsPage *page = nullptr;
 
+    Fixture()
+    {
+        controller.showOrRaise();
+        window = controller.window();
+        page = static_cast<SettingsPage *>(
+            window->findChild<PageStack *>()->page(MainWindow::SettingsPageIndex));
+    }
     bool start(const QStringList &daemonArguments = {})
     {
         if (!daemon.start(daemonArguments))
             return false;
         loadRecords(state, daemon.socketPath());
-        window.refreshFromState();
+        window->refreshFromState();
         return state.runtime().valid && state.splitDNS().valid;
     }
     template<typename T>
@@ -91,6 +101,22 @@ struct Fixture
         QTest::keyClicks(edit, text);
     }
     void click(const QString &name) const { find<QAbstractButton>(name)->click(); }
+    // One user step on a control named TovraSettingsNAME: "click:NAME", "choose:NAME=DATA",
+    // "type:NAME=TEXT" or "return:NAME".
+    void act(const QString &step) const
+    {
+        const QString verb = step.section(u':', 0, 0);
+        const QString name = u"TovraSettings"_s + step.section(u':', 1).section(u'=', 0, 0);
+        const QString value = step.section(u'=', 1);
+        if (verb == u"click")
+            click(name);
+        else if (verb == u"choose")
+            choose(name, value);
+        else if (verb == u"type")
+            type(name, value);
+        else
+            QTest::keyClick(find<QLineEdit>(name), Qt::Key_Return);
+    }
 };
 
 } // namespace
@@ -100,446 +126,371 @@ class TestSettingsPage : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void initTestCase();
-    void sectionsShowRecords_data();
-    void sectionsShowRecords();
-    void daemonDownSaysSoOnce();
-    void controlsAskForChanges_data();
-    void controlsAskForChanges();
-    void badInputSendsNothing_data();
-    void badInputSendsNothing();
-    void failedChangeSnapsBack();
-    void everyControlIsNamed();
-    void killSwitchInProxyAsksForVpnMode_data();
-    void killSwitchInProxyAsksForVpnMode();
-    void launchAtLogin_data();
-    void launchAtLogin();
-    void languageSearch_data();
-    void languageSearch();
-    void languageChoice_data();
-    void languageChoice();
-};
+    void initTestCase() { registerControlMetaTypes(); }
 
-void TestSettingsPage::initTestCase()
-{
-    registerControlMetaTypes();
-}
-
-void TestSettingsPage::sectionsShowRecords_data()
-{
-    QTest::addColumn<QStringList>("daemonArguments");
-    QTest::addColumn<bool>("switchOn");
-    QTest::addColumn<bool>("switchEnabled");
-    QTest::addColumn<QString>("checkedMode");
-    QTest::addColumn<bool>("modesEnabled");
-    QTest::addRow("default") << QStringList() << false << true << "auto" << true;
-    QTest::addRow("lockdown") << QStringList{QStringLiteral("--lockdown")} << true << false
-                              << "lockdown" << false;
-}
-
-void TestSettingsPage::sectionsShowRecords()
-{
-    QFETCH(QStringList, daemonArguments);
-    QFETCH(bool, switchOn);
-    QFETCH(bool, switchEnabled);
-    QFETCH(QString, checkedMode);
-    QFETCH(bool, modesEnabled);
-    Fixture f;
-    QVERIFY2(f.start(daemonArguments), qPrintable(f.daemon.errorString()));
-
-    auto *killSwitch = f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"));
-    QCOMPARE(killSwitch->isChecked(), switchOn);
-    QCOMPARE(killSwitch->isEnabled(), switchEnabled);
-    QVERIFY(f.modeOption(checkedMode)->isChecked());
-    QCOMPARE(f.modeOption(QStringLiteral("always"))->isEnabled(), modesEnabled);
-    QVERIFY(!f.modeOption(QStringLiteral("lockdown"))->isEnabled());
-
-    QCOMPARE(f.find<QLabel>(QStringLiteral("TovraSettingsAPIURLValidation"))->text(),
-             QStringLiteral("Validated by the Tovra service"));
-    QVERIFY(f.find<QPushButton>(QStringLiteral("TovraSettingsLanguage"))->isEnabled());
-    QVERIFY(!f.find<QLabel>(QStringLiteral("TovraSettingsBanner"))->isVisibleTo(f.page));
-}
-
-void TestSettingsPage::daemonDownSaysSoOnce()
-{
-    Fixture f;
-    QVERIFY(f.start());
-    const QString down = QStringLiteral("Could not connect to Tovra daemon.");
-    for (const QString &key :
-         {SettingsNotes::Status, SettingsNotes::KillSwitch, SettingsNotes::APIURL,
-          SettingsNotes::SplitDNS, SettingsNotes::Language, SettingsNotes::ConfigPaths})
-        f.window.setSettingsNote(key, down);
-
-    const QLabel *banner = f.find<QLabel>(QStringLiteral("TovraSettingsBanner"));
-    QVERIFY(banner->isVisibleTo(f.page));
-    QVERIFY(banner->text().startsWith(down));
-    int shown = 0;
-    for (const QLabel *label : f.page->findChildren<QLabel *>()) {
-        if (label->isVisibleTo(f.page) && label->text().contains(down))
-            ++shown;
+    void sectionsShowRecords_data()
+    {
+        QTest::addColumn<QStringList>("daemonArguments");
+        QTest::addColumn<bool>("switchOn");
+        QTest::addColumn<bool>("switchEnabled");
+        QTest::addColumn<QString>("checkedMode");
+        QTest::addColumn<bool>("modesEnabled");
+        QTest::addRow("default") << QStringList() << false << true << "auto" << true;
+        QTest::addRow("lockdown") << QStringList{QStringLiteral("--lockdown")} << true << false
+                                  << "lockdown" << false;
     }
-    QCOMPARE(shown, 1);
-    QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isEnabled());
-    QVERIFY(!f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL"))->isEnabled());
-    QVERIFY(!f.find<QPushButton>(QStringLiteral("TovraSettingsRepair"))->isEnabled());
-    QCOMPARE(f.find<QComboBox>(QStringLiteral("TovraSettingsSystemProxy"))->currentText(),
-             QStringLiteral("Unknown"));
 
-    // Back up: the controls return, and a load that failed on its own is told beside its card.
-    f.window.setSettingsNote(SettingsNotes::Status, QString());
-    QVERIFY(f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isEnabled());
-    QCOMPARE(f.page->connectionSection()->note(), down);
-}
+    void sectionsShowRecords()
+    {
+        QFETCH(QStringList, daemonArguments);
+        QFETCH(bool, switchOn);
+        QFETCH(bool, switchEnabled);
+        QFETCH(QString, checkedMode);
+        QFETCH(bool, modesEnabled);
+        Fixture f;
+        QVERIFY2(f.start(daemonArguments), qPrintable(f.daemon.errorString()));
 
-void TestSettingsPage::controlsAskForChanges_data()
-{
-    QTest::addColumn<QString>("action");
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<QVariantList>("arguments");
-    const auto row = [](const char *name, const char *signal, const QVariantList &arguments) {
-        QTest::addRow("%s", name) << QString::fromLatin1(name) << QByteArray(signal) << arguments;
-    };
-    row("kill switch on", SIGNAL(setKillSwitchEnabledRequested(bool)), {true});
-    row("kill switch always", SIGNAL(setKillSwitchModeRequested(QString)),
-        {QStringLiteral("always")});
-    row("system proxy lock", SIGNAL(setSystemProxyRequested(QString)), {QStringLiteral("lock")});
-    row("local network protected", SIGNAL(setLocalNetworkRequested(QString)),
-        {QStringLiteral("protected")});
-    row("listeners", SIGNAL(setProxyListenersRequested(QString, QString)),
-        {QStringLiteral("127.0.0.1:1081"), QStringLiteral("[::1]:8081")});
-    row("listeners closed", SIGNAL(setProxyListenersRequested(QString, QString)),
-        {QString(), QString()});
-    row("dns servers", SIGNAL(setSplitDNSLocalRequested(QStringList)),
-        {QStringList{QStringLiteral("1.1.1.1"), QStringLiteral("2606:4700::1111")}});
-    row("dns policy", SIGNAL(setSplitDNSPolicyRequested(QString)), {QStringLiteral("remote")});
-    row("dns clear", SIGNAL(clearSplitDNSLocalRequested()), {});
-    row("dns reset", SIGNAL(resetSplitDNSRequested()), {});
-    row("api url", SIGNAL(setAPIURLRequested(QString)),
-        {QStringLiteral("http://api.example.com:8443/v2")});
-    row("api url reset", SIGNAL(resetAPIURLRequested()), {});
-    row("auto connect", SIGNAL(setAutoConnectRequested(QString)), {QStringLiteral("smart")});
-    row("appearance", SIGNAL(appearanceChangeRequested(QString)), {QStringLiteral("dark")});
-    row("check update", SIGNAL(checkUpdateRequested()), {});
-    row("repair", SIGNAL(repairDiagnosticsRequested()), {});
-    row("open logs", SIGNAL(openLogsRequested()), {});
-}
+        auto *killSwitch = f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"));
+        QCOMPARE(killSwitch->isChecked(), switchOn);
+        QCOMPARE(killSwitch->isEnabled(), switchEnabled);
+        QVERIFY(f.modeOption(checkedMode)->isChecked());
+        QCOMPARE(f.modeOption(QStringLiteral("always"))->isEnabled(), modesEnabled);
+        QVERIFY(!f.modeOption(QStringLiteral("lockdown"))->isEnabled());
 
-void TestSettingsPage::controlsAskForChanges()
-{
-    QFETCH(QString, action);
-    QFETCH(QByteArray, signal);
-    QFETCH(QVariantList, arguments);
-    Fixture f;
-    QVERIFY(f.start());
-    QSignalSpy spy(f.page, signal.constData());
+        QCOMPARE(f.find<QLabel>(QStringLiteral("TovraSettingsAPIURLValidation"))->text(),
+                 QStringLiteral("Validated by the Tovra service"));
+        QVERIFY(f.find<QPushButton>(QStringLiteral("TovraSettingsLanguage"))->isEnabled());
+        QVERIFY(!f.find<QLabel>(QStringLiteral("TovraSettingsBanner"))->isVisibleTo(f.page));
+    }
 
-    if (action == u"kill switch on") {
-        f.click(QStringLiteral("TovraSettingsKillSwitch"));
-        // A request, not a flip: the switch waits for the daemon.
+    void daemonDownSaysSoOnce()
+    {
+        Fixture f;
+        QVERIFY(f.start());
+        const QString down = QStringLiteral("Could not connect to Tovra daemon.");
+        for (const QString &key :
+             {SettingsNotes::Status, SettingsNotes::KillSwitch, SettingsNotes::APIURL,
+              SettingsNotes::SplitDNS, SettingsNotes::Language, SettingsNotes::ConfigPaths})
+            f.window->setSettingsNote(key, down);
+
+        const QLabel *banner = f.find<QLabel>(QStringLiteral("TovraSettingsBanner"));
+        QVERIFY(banner->isVisibleTo(f.page));
+        QVERIFY(banner->text().startsWith(down));
+        int shown = 0;
+        for (const QLabel *label : f.page->findChildren<QLabel *>()) {
+            if (label->isVisibleTo(f.page) && label->text().contains(down))
+                ++shown;
+        }
+        QCOMPARE(shown, 1);
+        QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isEnabled());
+        QVERIFY(!f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL"))->isEnabled());
+        QVERIFY(!f.find<QPushButton>(QStringLiteral("TovraSettingsRepair"))->isEnabled());
+        QCOMPARE(f.find<QComboBox>(QStringLiteral("TovraSettingsSystemProxy"))->currentText(),
+                 QStringLiteral("Unknown"));
+
+        // Back up: the controls return, and a load that failed on its own is told beside its card.
+        f.window->setSettingsNote(SettingsNotes::Status, QString());
+        QVERIFY(f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isEnabled());
+        QCOMPARE(f.page->connectionSection()->note(), down);
+    }
+
+    void controlsAskForChanges_data()
+    {
+        QTest::addColumn<QString>("steps"); // Fixture::act steps, split by "|"
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<QVariantList>("arguments");
+        const auto row = [](const char *name, const char *steps, const char *signal,
+                            const QVariantList &arguments) {
+            QTest::addRow("%s", name)
+                << QString::fromUtf8(steps) << QByteArray(signal) << arguments;
+        };
+        row("kill switch on", "click:KillSwitch", SIGNAL(setKillSwitchEnabledRequested(bool)),
+            {true});
+        row("kill switch always", "click:KillSwitchMode_always",
+            SIGNAL(setKillSwitchModeRequested(QString)), {u"always"_s});
+        row("system proxy lock", "choose:SystemProxy=lock",
+            SIGNAL(setSystemProxyRequested(QString)), {u"lock"_s});
+        row("local network protected", "choose:LocalNetwork=protected",
+            SIGNAL(setLocalNetworkRequested(QString)), {u"protected"_s});
+        row("listeners",
+            "type:SocksListen= 127.0.0.1:1081 |type:HttpListen=[::1]:8081|click:ApplyListeners",
+            SIGNAL(setProxyListenersRequested(QString, QString)),
+            {u"127.0.0.1:1081"_s, u"[::1]:8081"_s});
+        row("listeners closed", "type:SocksListen=|type:HttpListen=|return:HttpListen",
+            SIGNAL(setProxyListenersRequested(QString, QString)), {QString(), QString()});
+        row("dns servers", "type:DNSServers=1.1.1.1,  2606:4700::1111|click:SaveDNS",
+            SIGNAL(setSplitDNSLocalRequested(QStringList)),
+            {QStringList{u"1.1.1.1"_s, u"2606:4700::1111"_s}});
+        row("dns policy", "choose:DNSPolicy=remote", SIGNAL(setSplitDNSPolicyRequested(QString)),
+            {u"remote"_s});
+        row("dns clear", "click:ClearDNS", SIGNAL(clearSplitDNSLocalRequested()), {});
+        row("dns reset", "click:ResetDNS", SIGNAL(resetSplitDNSRequested()), {});
+        row("api url", "type:APIURL=http://api.example.com:8443/v2|return:APIURL",
+            SIGNAL(setAPIURLRequested(QString)), {u"http://api.example.com:8443/v2"_s});
+        row("api url reset", "click:ResetAPIURL", SIGNAL(resetAPIURLRequested()), {});
+        row("auto connect", "choose:AutoConnect=smart", SIGNAL(setAutoConnectRequested(QString)),
+            {u"smart"_s});
+        row("check update", "click:CheckUpdate", SIGNAL(checkUpdateRequested()), {});
+        row("repair", "click:Repair", SIGNAL(repairDiagnosticsRequested()), {});
+        row("open logs", "click:OpenLogs", SIGNAL(openLogsRequested()), {});
+    }
+
+    void controlsAskForChanges()
+    {
+        QFETCH(QString, steps);
+        QFETCH(QByteArray, signal);
+        QFETCH(QVariantList, arguments);
+        Fixture f;
+        QVERIFY(f.start());
+        QSignalSpy spy(&f.controller, signal.constData());
+        for (const QString &step : steps.split(u'|'))
+            f.act(step);
+        QCOMPARE(spy.count(), 1);
+        QCOMPARE(spy.at(0), arguments);
+        // A request, never a flip: the switch waits for the daemon.
         QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isChecked());
-    } else if (action == u"kill switch always") {
-        f.modeOption(QStringLiteral("always"))->click();
-    } else if (action == u"system proxy lock") {
+    }
+
+    void badInputSendsNothing_data()
+    {
+        QTest::addColumn<QString>("field");
+        QTest::addColumn<QString>("input");
+        QTest::addColumn<QString>("button");
+        QTest::addColumn<QString>("message");
+        const QString socks = QStringLiteral("TovraSettingsSocksListen");
+        const QString apply = QStringLiteral("TovraSettingsApplyListeners");
+        QTest::addRow("no port") << socks << "127.0.0.1" << apply << "Add a port";
+        QTest::addRow("empty port") << socks << "localhost:" << apply << "Add a port after";
+        QTest::addRow("port 0") << socks << "127.0.0.1:0" << apply << "from 1 to 65535";
+        QTest::addRow("port too big") << QStringLiteral("TovraSettingsHttpListen")
+                                      << "127.0.0.1:65536" << apply << "from 1 to 65535";
+        QTest::addRow("bare ipv6") << socks << "::1:1080" << apply << "in brackets";
+        QTest::addRow("bad host") << socks << "my host:1080" << apply << "not a host name";
+        const QString api = QStringLiteral("TovraSettingsAPIURL");
+        const QString save = QStringLiteral("TovraSettingsSaveAPIURL");
+        QTest::addRow("ftp url") << api << "ftp://api.example.com" << save << "http:// or https://";
+        QTest::addRow("no scheme") << api << "api.example.com" << save << "http:// or https://";
+        QTest::addRow("empty url") << api << "" << save << "Enter an API URL";
+        const QString dns = QStringLiteral("TovraSettingsDNSServers");
+        const QString saveDns = QStringLiteral("TovraSettingsSaveDNS");
+        QTest::addRow("dns name") << dns << "1.1.1.1, dns.example.com" << saveDns
+                                  << "\"dns.example.com\" is not an IP address";
+        QTest::addRow("dns octet") << dns << "300.1.1.1" << saveDns << "is not an IP address";
+        QTest::addRow("dns empty") << dns << " , " << saveDns << "at least one";
+    }
+
+    void badInputSendsNothing()
+    {
+        QFETCH(QString, field);
+        QFETCH(QString, input);
+        QFETCH(QString, button);
+        QFETCH(QString, message);
+        Fixture f;
+        QVERIFY(f.start());
+        QList<QSignalSpy *> spies;
+        for (const char *signal :
+             {SIGNAL(setProxyListenersRequested(QString, QString)),
+              SIGNAL(setAPIURLRequested(QString)), SIGNAL(setSplitDNSLocalRequested(QStringList))})
+            spies.append(new QSignalSpy(&f.controller, signal));
+
+        f.type(field, input);
+        f.click(button);
+        for (QSignalSpy *spy : std::as_const(spies))
+            QCOMPARE(spy->count(), 0);
+        qDeleteAll(spies);
+        const QLabel *error = f.find<QLabel>(field + QStringLiteral("Error"));
+        QVERIFY(error->isVisibleTo(f.page));
+        QVERIFY2(error->text().contains(message), qPrintable(error->text()));
+        // Typing again clears the complaint.
+        QTest::keyClick(f.find<QLineEdit>(field), Qt::Key_1);
+        QVERIFY(!error->isVisibleTo(f.page));
+    }
+
+    void failedChangeSnapsBack()
+    {
+        Fixture f;
+        QVERIFY(f.start());
+        auto *proxy = f.find<QComboBox>(QStringLiteral("TovraSettingsSystemProxy"));
+        auto *api = f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL"));
+        const QString daemonProxy = proxy->currentData().toString();
+        const QString daemonURL = api->text();
         f.choose(QStringLiteral("TovraSettingsSystemProxy"), QStringLiteral("lock"));
-    } else if (action == u"local network protected") {
-        f.choose(QStringLiteral("TovraSettingsLocalNetwork"), QStringLiteral("protected"));
-    } else if (action == u"listeners") {
-        f.type(QStringLiteral("TovraSettingsSocksListen"), QStringLiteral(" 127.0.0.1:1081 "));
-        f.type(QStringLiteral("TovraSettingsHttpListen"), QStringLiteral("[::1]:8081"));
-        f.click(QStringLiteral("TovraSettingsApplyListeners"));
-    } else if (action == u"listeners closed") {
-        f.type(QStringLiteral("TovraSettingsSocksListen"), QString());
-        f.type(QStringLiteral("TovraSettingsHttpListen"), QString());
-        QTest::keyClick(f.find<QLineEdit>(QStringLiteral("TovraSettingsHttpListen")),
-                        Qt::Key_Return);
-    } else if (action == u"dns servers") {
-        f.type(QStringLiteral("TovraSettingsDNSServers"),
-               QStringLiteral("1.1.1.1,  2606:4700::1111"));
-        f.click(QStringLiteral("TovraSettingsSaveDNS"));
-    } else if (action == u"dns policy") {
-        f.choose(QStringLiteral("TovraSettingsDNSPolicy"), QStringLiteral("remote"));
-    } else if (action == u"dns clear") {
-        f.click(QStringLiteral("TovraSettingsClearDNS"));
-    } else if (action == u"dns reset") {
-        f.click(QStringLiteral("TovraSettingsResetDNS"));
-    } else if (action == u"api url") {
-        f.type(QStringLiteral("TovraSettingsAPIURL"),
-               QStringLiteral("http://api.example.com:8443/v2"));
-        QTest::keyClick(f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL")), Qt::Key_Return);
-    } else if (action == u"api url reset") {
-        f.click(QStringLiteral("TovraSettingsResetAPIURL"));
-    } else if (action == u"auto connect") {
-        f.choose(QStringLiteral("TovraSettingsAutoConnect"), QStringLiteral("smart"));
-    } else if (action == u"appearance") {
-        f.choose(QStringLiteral("TovraSettingsAppearance"), QStringLiteral("dark"));
-    } else if (action == u"check update") {
-        f.click(QStringLiteral("TovraSettingsCheckUpdate"));
-    } else if (action == u"repair") {
-        f.click(QStringLiteral("TovraSettingsRepair"));
-    } else if (action == u"open logs") {
-        f.click(QStringLiteral("TovraSettingsOpenLogs"));
-    } else {
-        QFAIL("unknown action");
+        f.type(QStringLiteral("TovraSettingsAPIURL"), QStringLiteral("https://other.example.com"));
+        f.click(QStringLiteral("TovraSettingsSaveAPIURL"));
+        // An unrelated redraw while the answers are on their way keeps the choices.
+        f.window->refreshFromState();
+        QCOMPARE(proxy->currentData().toString(), QStringLiteral("lock"));
+        QCOMPARE(api->text(), QStringLiteral("https://other.example.com"));
+
+        f.window->showSettingsOperationError(QStringLiteral("refused"));
+        QCOMPARE(proxy->currentData().toString(), daemonProxy);
+        QCOMPARE(api->text(), daemonURL);
     }
-    QCOMPARE(spy.count(), 1);
-    QCOMPARE(spy.at(0), arguments);
-}
 
-void TestSettingsPage::badInputSendsNothing_data()
-{
-    QTest::addColumn<QString>("field");
-    QTest::addColumn<QString>("input");
-    QTest::addColumn<QString>("button");
-    QTest::addColumn<QString>("message");
-    const QString socks = QStringLiteral("TovraSettingsSocksListen");
-    const QString apply = QStringLiteral("TovraSettingsApplyListeners");
-    QTest::addRow("no port") << socks << "127.0.0.1" << apply << "Add a port";
-    QTest::addRow("empty port") << socks << "localhost:" << apply << "Add a port after";
-    QTest::addRow("port 0") << socks << "127.0.0.1:0" << apply << "from 1 to 65535";
-    QTest::addRow("port too big") << QStringLiteral("TovraSettingsHttpListen") << "127.0.0.1:65536"
-                                  << apply << "from 1 to 65535";
-    QTest::addRow("bare ipv6") << socks << "::1:1080" << apply << "in brackets";
-    QTest::addRow("bad host") << socks << "my host:1080" << apply << "not a host name";
-    const QString api = QStringLiteral("TovraSettingsAPIURL");
-    const QString save = QStringLiteral("TovraSettingsSaveAPIURL");
-    QTest::addRow("ftp url") << api << "ftp://api.example.com" << save << "http:// or https://";
-    QTest::addRow("no scheme") << api << "api.example.com" << save << "http:// or https://";
-    QTest::addRow("empty url") << api << "" << save << "Enter an API URL";
-    const QString dns = QStringLiteral("TovraSettingsDNSServers");
-    const QString saveDns = QStringLiteral("TovraSettingsSaveDNS");
-    QTest::addRow("dns name") << dns << "1.1.1.1, dns.example.com" << saveDns
-                              << "\"dns.example.com\" is not an IP address";
-    QTest::addRow("dns octet") << dns << "300.1.1.1" << saveDns << "is not an IP address";
-    QTest::addRow("dns empty") << dns << " , " << saveDns << "at least one";
-}
-
-void TestSettingsPage::badInputSendsNothing()
-{
-    QFETCH(QString, field);
-    QFETCH(QString, input);
-    QFETCH(QString, button);
-    QFETCH(QString, message);
-    Fixture f;
-    QVERIFY(f.start());
-    QList<QSignalSpy *> spies;
-    for (const char *signal :
-         {SIGNAL(setProxyListenersRequested(QString, QString)), SIGNAL(setAPIURLRequested(QString)),
-          SIGNAL(setSplitDNSLocalRequested(QStringList))})
-        spies.append(new QSignalSpy(f.page, signal));
-
-    f.type(field, input);
-    f.click(button);
-    for (QSignalSpy *spy : std::as_const(spies))
-        QCOMPARE(spy->count(), 0);
-    qDeleteAll(spies);
-    const QLabel *error = f.find<QLabel>(field + QStringLiteral("Error"));
-    QVERIFY(error->isVisibleTo(f.page));
-    QVERIFY2(error->text().contains(message), qPrintable(error->text()));
-    // Typing again clears the complaint.
-    QTest::keyClick(f.find<QLineEdit>(field), Qt::Key_1);
-    QVERIFY(!error->isVisibleTo(f.page));
-}
-
-void TestSettingsPage::failedChangeSnapsBack()
-{
-    Fixture f;
-    QVERIFY(f.start());
-    auto *proxy = f.find<QComboBox>(QStringLiteral("TovraSettingsSystemProxy"));
-    auto *api = f.find<QLineEdit>(QStringLiteral("TovraSettingsAPIURL"));
-    const QString daemonProxy = proxy->currentData().toString();
-    const QString daemonURL = api->text();
-    f.choose(QStringLiteral("TovraSettingsSystemProxy"), QStringLiteral("lock"));
-    f.type(QStringLiteral("TovraSettingsAPIURL"), QStringLiteral("https://other.example.com"));
-    f.click(QStringLiteral("TovraSettingsSaveAPIURL"));
-    // An unrelated redraw while the answers are on their way keeps the choices.
-    f.window.refreshFromState();
-    QCOMPARE(proxy->currentData().toString(), QStringLiteral("lock"));
-    QCOMPARE(api->text(), QStringLiteral("https://other.example.com"));
-
-    f.window.showSettingsOperationError(QStringLiteral("refused"));
-    QCOMPARE(proxy->currentData().toString(), daemonProxy);
-    QCOMPARE(api->text(), daemonURL);
-}
-
-void TestSettingsPage::everyControlIsNamed()
-{
-    Fixture f;
-    QVERIFY(f.start());
-    int reachable = 0;
-    for (QWidget *widget : f.page->findChildren<QWidget *>()) {
-        if (!(widget->focusPolicy() & Qt::TabFocus) || !widget->isVisibleTo(f.page))
-            continue;
-        ++reachable;
-        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(widget);
-        QVERIFY2(accessible && !accessible->text(QAccessible::Name).trimmed().isEmpty(),
-                 qPrintable(widget->objectName() + QLatin1Char(' ') +
-                            QString::fromLatin1(widget->metaObject()->className())));
+    void killSwitchInProxyAsksForVpnMode_data()
+    {
+        QTest::addColumn<int>("answer");
+        QTest::addColumn<QByteArray>("expected");
+        QTest::addRow("switch to auto")
+            << 1 << QByteArray(SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
+        QTest::addRow("choose mode") << 2 << QByteArray(SIGNAL(chooseModeForKillSwitchRequested()));
+        QTest::addRow("cancel") << 0 << QByteArray();
     }
-    // Switches, options, choices, fields and buttons of all six cards.
-    QVERIFY2(reachable >= 30, qPrintable(QString::number(reachable)));
-}
 
-void TestSettingsPage::killSwitchInProxyAsksForVpnMode_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QByteArray>("expected");
-    QTest::addRow("switch to auto")
-        << 1 << QByteArray(SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
-    QTest::addRow("choose mode") << 2 << QByteArray(SIGNAL(chooseModeForKillSwitchRequested()));
-    QTest::addRow("cancel") << 0 << QByteArray();
-}
+    void killSwitchInProxyAsksForVpnMode()
+    {
+        QFETCH(int, answer);
+        QFETCH(QByteArray, expected);
+        Fixture f;
+        QVERIFY(f.daemon.start());
+        ModeInfo proxy;
+        proxy.transport = QStringLiteral("proxy");
+        QString error;
+        ControlEndpoints::setMode(f.daemon.socketPath(), proxy, kTimeoutMs, &error);
+        QVERIFY2(error.isEmpty(), qPrintable(error));
+        loadRecords(f.state, f.daemon.socketPath());
+        f.window->refreshFromState();
 
-void TestSettingsPage::killSwitchInProxyAsksForVpnMode()
-{
-    QFETCH(int, answer);
-    QFETCH(QByteArray, expected);
-    Fixture f;
-    QVERIFY(f.daemon.start());
-    ModeInfo proxy;
-    proxy.transport = QStringLiteral("proxy");
-    QString error;
-    ControlEndpoints::setMode(f.daemon.socketPath(), proxy, kTimeoutMs, &error);
-    QVERIFY2(error.isEmpty(), qPrintable(error));
-    loadRecords(f.state, f.daemon.socketPath());
-    f.window.refreshFromState();
-
-    int asked = 0;
-    f.page->killSwitchSection()->setConfirm([&](QWidget *) {
-        ++asked;
-        return answer;
-    });
-    QSignalSpy enable(f.page, SIGNAL(setKillSwitchEnabledRequested(bool)));
-    QSignalSpy autoEnable(f.page, SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
-    QSignalSpy choose(f.page, SIGNAL(chooseModeForKillSwitchRequested()));
-    f.click(QStringLiteral("TovraSettingsKillSwitch"));
-    QCOMPARE(asked, 1);
-    QCOMPARE(enable.count(), 0);
-    QCOMPARE(autoEnable.count(), expected == SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
-    QCOMPARE(choose.count(), expected == SIGNAL(chooseModeForKillSwitchRequested()));
-    QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isChecked());
-}
-
-void TestSettingsPage::launchAtLogin_data()
-{
-    QTest::addColumn<bool>("startEnabled");
-    QTest::addColumn<bool>("blockDirectory");
-    QTest::addColumn<bool>("expectEntry");
-    QTest::addColumn<bool>("expectPreference");
-    QTest::addRow("enable") << false << false << true << true;
-    QTest::addRow("disable") << true << false << false << false;
-    QTest::addRow("directory cannot be made") << false << true << false << false;
-}
-
-void TestSettingsPage::launchAtLogin()
-{
-    QFETCH(bool, startEnabled);
-    QFETCH(bool, blockDirectory);
-    QFETCH(bool, expectEntry);
-    QFETCH(bool, expectPreference);
-    Fixture f;
-    const GuiAutostart autostart;
-    QVERIFY(autostart.entryPath().startsWith(f.dirs.configHome()));
-    if (startEnabled) {
-        QVERIFY(autostart.reconcile(true, nullptr));
-        f.preferences.setLaunchAtLogin(true);
+        int asked = 0;
+        f.page->killSwitchSection()->setConfirm([&](QWidget *) {
+            ++asked;
+            return answer;
+        });
+        QSignalSpy enable(f.page, SIGNAL(setKillSwitchEnabledRequested(bool)));
+        QSignalSpy autoEnable(f.page, SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
+        QSignalSpy choose(f.page, SIGNAL(chooseModeForKillSwitchRequested()));
+        f.click(QStringLiteral("TovraSettingsKillSwitch"));
+        QCOMPARE(asked, 1);
+        QCOMPARE(enable.count(), 0);
+        QCOMPARE(autoEnable.count(),
+                 expected == SIGNAL(switchToAutoAndEnableKillSwitchRequested()));
+        QCOMPARE(choose.count(), expected == SIGNAL(chooseModeForKillSwitchRequested()));
+        QVERIFY(!f.find<ToggleSwitch>(QStringLiteral("TovraSettingsKillSwitch"))->isChecked());
     }
-    if (blockDirectory) {
-        // A plain file where the autostart folder belongs.
-        QVERIFY(QDir().mkpath(f.dirs.configHome()));
-        QFile blocker(f.dirs.configHome() + QStringLiteral("/autostart"));
-        QVERIFY(blocker.open(QIODevice::WriteOnly));
+
+    void launchAtLogin_data()
+    {
+        QTest::addColumn<bool>("startEnabled");
+        QTest::addColumn<bool>("blockDirectory");
+        QTest::addColumn<bool>("expectEntry");
+        QTest::addColumn<bool>("expectPreference");
+        QTest::addRow("enable") << false << false << true << true;
+        QTest::addRow("disable") << true << false << false << false;
+        QTest::addRow("directory cannot be made") << false << true << false << false;
     }
-    f.window.refreshFromState();
-    auto *toggle = f.find<ToggleSwitch>(QStringLiteral("TovraSettingsLaunchAtLogin"));
-    QCOMPARE(toggle->isChecked(), startEnabled);
 
-    toggle->click();
-    QCOMPARE(QFile::exists(autostart.entryPath()), expectEntry);
-    QCOMPARE(toggle->isChecked(), expectEntry);
-    QCOMPARE(f.preferences.launchAtLogin(), expectPreference);
-    const QLabel *error = f.find<QLabel>(QStringLiteral("TovraSettingsLaunchAtLoginError"));
-    QCOMPARE(error->isVisibleTo(f.page), blockDirectory);
-    if (blockDirectory)
-        QVERIFY(error->text().startsWith(QStringLiteral("Could not update login startup")));
-    if (expectEntry)
-        QCOMPARE(QFile::permissions(autostart.entryPath()),
-                 QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
-}
+    void launchAtLogin()
+    {
+        QFETCH(bool, startEnabled);
+        QFETCH(bool, blockDirectory);
+        QFETCH(bool, expectEntry);
+        QFETCH(bool, expectPreference);
+        Fixture f;
+        const GuiAutostart autostart;
+        QVERIFY(autostart.entryPath().startsWith(f.dirs.configHome()));
+        if (startEnabled) {
+            QVERIFY(autostart.reconcile(true, nullptr));
+            f.preferences.setLaunchAtLogin(true);
+        }
+        if (blockDirectory) {
+            // A plain file where the autostart folder belongs.
+            QVERIFY(QDir().mkpath(f.dirs.configHome()));
+            QFile blocker(f.dirs.configHome() + QStringLiteral("/autostart"));
+            QVERIFY(blocker.open(QIODevice::WriteOnly));
+        }
+        f.window->refreshFromState();
+        auto *toggle = f.find<ToggleSwitch>(QStringLiteral("TovraSettingsLaunchAtLogin"));
+        QCOMPARE(toggle->isChecked(), startEnabled);
 
-void TestSettingsPage::languageSearch_data()
-{
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<QStringList>("codes");
-    QTest::addRow("all") << "" << QStringList();
-    QTest::addRow("native name") << "deut" << QStringList{QString(), QStringLiteral("de")};
-    QTest::addRow("english name") << "german" << QStringList{QString(), QStringLiteral("de")};
-    QTest::addRow("without accents") << "FRANCAIS" << QStringList{QString(), QStringLiteral("fr")};
-    QTest::addRow("tag") << "zh"
-                         << QStringList{QString(), QStringLiteral("zh-Hans"),
-                                        QStringLiteral("zh-Hant")};
-    QTest::addRow("two words") << "portugues brasil"
-                               << QStringList{QString(), QStringLiteral("pt-BR")};
-    QTest::addRow("nothing") << "klingon" << QStringList{QString()};
-}
+        toggle->click();
+        QCOMPARE(QFile::exists(autostart.entryPath()), expectEntry);
+        QCOMPARE(toggle->isChecked(), expectEntry);
+        QCOMPARE(f.preferences.launchAtLogin(), expectPreference);
+        const QLabel *error = f.find<QLabel>(QStringLiteral("TovraSettingsLaunchAtLoginError"));
+        QCOMPARE(error->isVisibleTo(f.page), blockDirectory);
+        if (blockDirectory)
+            QVERIFY(error->text().startsWith(QStringLiteral("Could not update login startup")));
+        if (expectEntry)
+            QCOMPARE(QFile::permissions(autostart.entryPath()),
+                     QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser);
+    }
 
-void TestSettingsPage::languageSearch()
-{
-    QFETCH(QString, search);
-    QFETCH(QStringList, codes);
-    TempXdgDirs dirs;
-    DemoDaemon daemon;
-    QVERIFY(daemon.start());
-    const LanguageConfigInfo config =
-        ControlEndpoints::fetchLanguageConfig(daemon.socketPath(), kTimeoutMs);
-    QVERIFY(config.valid);
-    LanguagePickerDialog dialog(config.supportedLanguages, config.source, config.language);
-    QAbstractItemModelTester tester(dialog.filterModel(),
-                                    QAbstractItemModelTester::FailureReportingMode::QtTest);
-    QTest::keyClicks(dialog.searchField(), search);
+    void languageSearch_data()
+    {
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<QStringList>("codes");
+        QTest::addRow("all") << "" << QStringList();
+        QTest::addRow("native name") << "deut" << QStringList{QString(), QStringLiteral("de")};
+        QTest::addRow("english name") << "german" << QStringList{QString(), QStringLiteral("de")};
+        QTest::addRow("without accents")
+            << "FRANCAIS" << QStringList{QString(), QStringLiteral("fr")};
+        QTest::addRow("tag") << "zh"
+                             << QStringList{QString(), QStringLiteral("zh-Hans"),
+                                            QStringLiteral("zh-Hant")};
+        QTest::addRow("two words")
+            << "portugues brasil" << QStringList{QString(), QStringLiteral("pt-BR")};
+        QTest::addRow("nothing") << "klingon" << QStringList{QString()};
+    }
 
-    QStringList shown;
-    for (int row = 0; row < dialog.filterModel()->rowCount(); ++row)
-        shown.append(
-            dialog.filterModel()->index(row, 0).data(LanguageFilterModel::CodeRole).toString());
-    if (codes.isEmpty())
-        QCOMPARE(shown.size(), config.supportedLanguages.size() + 1);
-    else
-        QCOMPARE(shown, codes);
-}
+    void languageSearch()
+    {
+        QFETCH(QString, search);
+        QFETCH(QStringList, codes);
+        TempXdgDirs dirs;
+        DemoDaemon daemon;
+        QVERIFY(daemon.start());
+        const LanguageConfigInfo config =
+            ControlEndpoints::fetchLanguageConfig(daemon.socketPath(), kTimeoutMs);
+        QVERIFY(config.valid);
+        LanguagePickerDialog dialog(config.supportedLanguages, config.source, config.language);
+        QAbstractItemModelTester tester(dialog.filterModel(),
+                                        QAbstractItemModelTester::FailureReportingMode::QtTest);
+        QTest::keyClicks(dialog.searchField(), search);
 
-void TestSettingsPage::languageChoice_data()
-{
-    QTest::addColumn<QString>("search");
-    QTest::addColumn<int>("downPresses");
-    QTest::addColumn<QString>("source");
-    QTest::addColumn<QString>("language");
-    QTest::addRow("first match") << "deutsch" << 0 << "user"
-                                 << "de";
-    QTest::addRow("system") << "" << 0 << "system" << TranslationManager::systemLanguage();
-    QTest::addRow("arrow down") << "" << 2 << "user"
-                                << "de";
-}
+        QStringList shown;
+        for (int row = 0; row < dialog.filterModel()->rowCount(); ++row)
+            shown.append(
+                dialog.filterModel()->index(row, 0).data(LanguageFilterModel::CodeRole).toString());
+        if (codes.isEmpty())
+            QCOMPARE(shown.size(), config.supportedLanguages.size() + 1);
+        else
+            QCOMPARE(shown, codes);
+    }
 
-void TestSettingsPage::languageChoice()
-{
-    QFETCH(QString, search);
-    QFETCH(int, downPresses);
-    QFETCH(QString, source);
-    QFETCH(QString, language);
-    Fixture f;
-    QVERIFY(f.start());
-    QSignalSpy requested(f.page, SIGNAL(setLanguageRequested(QString, QString)));
-    f.page->appSection()->setPickerRunner([&](LanguagePickerDialog *dialog) {
-        QTest::keyClicks(dialog->searchField(), search);
-        for (int i = 0; i < downPresses; ++i)
-            QTest::keyClick(dialog->searchField(), Qt::Key_Down);
-        QTest::keyClick(dialog->searchField(), Qt::Key_Return);
-        return dialog->result() == QDialog::Accepted;
-    });
-    f.click(QStringLiteral("TovraSettingsLanguage"));
-    QCOMPARE(requested.count(), 1);
-    QCOMPARE(requested.at(0), (QVariantList{source, language}));
-}
+    void languageChoice_data()
+    {
+        QTest::addColumn<QString>("search");
+        QTest::addColumn<int>("downPresses");
+        QTest::addColumn<QString>("source");
+        QTest::addColumn<QString>("language");
+        QTest::addRow("first match") << "deutsch" << 0 << "user"
+                                     << "de";
+        QTest::addRow("system") << "" << 0 << "system" << TranslationManager::systemLanguage();
+        QTest::addRow("arrow down") << "" << 2 << "user"
+                                    << "de";
+    }
+
+    void languageChoice()
+    {
+        QFETCH(QString, search);
+        QFETCH(int, downPresses);
+        QFETCH(QString, source);
+        QFETCH(QString, language);
+        Fixture f;
+        QVERIFY(f.start());
+        QSignalSpy requested(f.page, SIGNAL(setLanguageRequested(QString, QString)));
+        f.page->appSection()->setPickerRunner([&](LanguagePickerDialog *dialog) {
+            QTest::keyClicks(dialog->searchField(), search);
+            for (int i = 0; i < downPresses; ++i)
+                QTest::keyClick(dialog->searchField(), Qt::Key_Down);
+            QTest::keyClick(dialog->searchField(), Qt::Key_Return);
+            return dialog->result() == QDialog::Accepted;
+        });
+        f.click(QStringLiteral("TovraSettingsLanguage"));
+        QCOMPARE(requested.count(), 1);
+        QCOMPARE(requested.at(0), (QVariantList{source, language}));
+    }
+};
 
 QTEST_MAIN(TestSettingsPage)
 #include "TestSettingsPage.moc"

@@ -135,7 +135,6 @@ private Q_SLOTS:
         QTest::addRow("logged_in") << "logged_in" << true;
         QTest::addRow("cached counts as signed in") << "cached" << true;
         QTest::addRow("logged_out") << "logged_out" << false;
-        QTest::addRow("unknown") << QString() << false;
     }
     void sessionStates()
     {

@@ -44,8 +44,6 @@ void TestUpdateNoticePolicy::verdict_data()
     const QString v = QStringLiteral("0.1.0");
     QTest::addRow("first offer") << v << 0LL << 0LL << 0LL << 3000LL << false << false << T
                                  << Verdict::Show;
-    QTest::addRow("same version an hour later") << v << T << 3000LL << 0LL << 3000LL << false
-                                                << false << T + 3600 << Verdict::ShownRecently;
     QTest::addRow("same version a second short of a day")
         << v << T << 3000LL << 0LL << 3000LL << false << false << T + Day - 1
         << Verdict::ShownRecently;

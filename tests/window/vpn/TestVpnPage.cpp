@@ -1,5 +1,6 @@
 #include "AccessibleAnnouncer.h"
 #include "AppState.h"
+#include "CatalogFixture.h"
 #include "ControlMetaTypes.h"
 #include "GuiPreferences.h"
 #include "QuickEntryField.h"
@@ -31,32 +32,12 @@ RuntimeInfo status(const QByteArray &extra)
     return RuntimeInfo::parse(body, nullptr);
 }
 
-NodesInfo catalogueNodes()
+// Frankfurt 01 is 1001, Berlin 01 1004, Tokyo 01 1018.
+void loadCatalogue(AppState &state)
 {
-    return NodesInfo::parse(R"({"nodes": [
-        {"id": 1001, "name": "Frankfurt 01", "region": "DE", "type": "svip", "tags": ["SVIP"]},
-        {"id": 1002, "name": "Berlin 01", "region": "DE", "type": "svip", "tags": ["SVIP"]},
-        {"id": 1100, "name": "Tokyo 01", "region": "JP", "type": "free", "tags": ["FREE"]}]})",
-                            nullptr);
-}
-
-NodeGroupsInfo catalogueGroups()
-{
-    return NodeGroupsInfo::parse(R"({"tabs": [{"group_type": "all",
-            "node_ids": ["1001", "1002", "1100"]}],
-        "groups": [
-        {"id": "continent:eu", "name": "Europe", "code": "EU", "level": 1, "rank": 1,
-         "subgroups": [{"id": "country:de", "name": "Germany", "code": "DE", "level": 2,
-            "rank": 2, "subgroups": [
-              {"id": "city:de:fra", "name": "Frankfurt", "code": "FRA", "level": 3, "rank": 3,
-               "node_ids": ["1001"]},
-              {"id": "city:de:ber", "name": "Berlin", "code": "BER", "level": 3, "rank": 4,
-               "node_ids": ["1002"]}]}]},
-        {"id": "continent:as", "name": "Asia", "code": "AS", "level": 1, "rank": 5,
-         "subgroups": [{"id": "country:jp", "name": "Japan", "code": "JP", "level": 2,
-            "rank": 6, "subgroups": [{"id": "city:jp:tyo", "name": "Tokyo", "code": "TYO",
-               "level": 3, "rank": 7, "node_ids": ["1100"]}]}]}]})",
-                                 nullptr);
+    const CatalogFixture catalogue = CatalogFixture::small();
+    state.setNodeGroups(NodeGroupsInfo::parse(catalogue.groupsJson(), nullptr));
+    state.setNodes(NodesInfo::parse(catalogue.nodesJson(), nullptr));
 }
 
 QStringList texts(std::initializer_list<const char *> list)
@@ -106,32 +87,32 @@ private Q_SLOTS:
         QTest::addColumn<QString>("unavailable");
         QTest::addColumn<QString>("pendingLabel");
         QTest::addColumn<QStringList>("expected"); // dot, title, detail, location, primary
-        QTest::addColumn<QString>("role");
+        QTest::addColumn<QByteArray>("intent");    // of a click on the primary button
         QTest::addColumn<bool>("enabled");
         QTest::addRow("connected")
             << QByteArray(R"("tunnel_state": "connected", "connected_since": "2026-01-01T10:00:00Z",
-                 "connected_node": {"id": 1002, "region": "DE", "name": "Berlin 01"},
+                 "connected_node": {"id": 1004, "region": "DE", "name": "Berlin 01"},
                  "kill_switch": {"enabled": true, "mode": "auto", "guard": "active"})")
             << QString() << QString()
             << texts({"connected", "Connected", "Your traffic goes through the Tovra tunnel.",
                       "Germany \u00b7 Berlin 01", "Disconnect"})
-            << "disconnect" << true;
+            << QByteArray(SIGNAL(disconnectRuntimeRequested())) << true;
         QTest::addRow("connecting with a target")
             << QByteArray() << QString() << "Japan"
             << texts({"disconnected", "Connecting\u2026", "Connecting to Japan", "", "Cancel"})
-            << "disconnect" << true;
+            << QByteArray(SIGNAL(cancelConnectRequested())) << true;
         QTest::addRow("daemon connecting by itself")
             << QByteArray(R"("tunnel_state": "connecting",
-                 "connected_node": {"id": 1100, "region": "JP", "name": "Tokyo 01"})")
+                 "connected_node": {"id": 1018, "region": "JP", "name": "Tokyo 01"})")
             << QString() << QString()
             << texts({"disconnected", "Connecting\u2026", "Connecting to Japan \u00b7 Tokyo 01",
                       "Japan \u00b7 Tokyo 01", "Cancel"})
-            << "disconnect" << true;
+            << QByteArray(SIGNAL(disconnectRuntimeRequested())) << true;
         QTest::addRow("disconnecting")
             << QByteArray(R"("tunnel_state": "disconnecting")") << QString() << QString()
             << texts({"disconnected", "Disconnecting\u2026", "Closing the tunnel.", "",
                       "Disconnecting\u2026"})
-            << "disconnect" << false;
+            << QByteArray() << false;
         QTest::addRow("disconnected, kill switch guarding")
             << QByteArray(
                    R"("kill_switch": {"enabled": true, "mode": "always", "guard": "active"})")
@@ -139,17 +120,17 @@ private Q_SLOTS:
             << texts({"disconnected", "Disconnected",
                       "Kill Switch blocks traffic until you connect.",
                       "Germany \u00b7 Frankfurt 01", "Connect"})
-            << "connect" << true;
+            << QByteArray(SIGNAL(connectRuntimeRequested())) << true;
         QTest::addRow("daemon unavailable")
             << QByteArray() << "Tovra daemon is not running." << QString()
             << texts({"unavailable", "Service unavailable", "Tovra daemon is not running.", "",
                       "Connect"})
-            << "connect" << false;
+            << QByteArray() << false;
         QTest::addRow("signed out")
             << QByteArray(R"("auth_state": "logged_out")") << QString() << QString()
             << texts({"disconnected", "Signed out", "Sign in to your Tovra account to connect.", "",
                       "Sign In"})
-            << "connect" << true;
+            << QByteArray(SIGNAL(accountPageRequested())) << true;
     }
     void states()
     {
@@ -157,10 +138,10 @@ private Q_SLOTS:
         QFETCH(QString, unavailable);
         QFETCH(QString, pendingLabel);
         QFETCH(QStringList, expected);
-        QFETCH(QString, role);
+        QFETCH(QByteArray, intent);
         QFETCH(bool, enabled);
         Fixture f;
-        f.state.setNodes(catalogueNodes());
+        loadCatalogue(f.state);
         f.page.setDaemonUnavailableReason(unavailable);
         if (!pendingLabel.isEmpty())
             f.page.setConnectInProgress(true, QStringLiteral("country:jp"), pendingLabel);
@@ -172,8 +153,16 @@ private Q_SLOTS:
         const QLabel *place = f.page.findChild<QLabel *>(QStringLiteral("TovraVPNLocationText"));
         QCOMPARE(place->isVisible() ? place->text() : QString(), expected.at(3));
         QCOMPARE(f.primary()->text(), expected.at(4));
-        QCOMPARE(f.primary()->property("tovraPrimaryRole").toString(), role);
         QCOMPARE(f.primary()->isEnabled(), enabled);
+        const QList<QByteArray> intents{
+            SIGNAL(connectRuntimeRequested()), SIGNAL(cancelConnectRequested()),
+            SIGNAL(disconnectRuntimeRequested()), SIGNAL(accountPageRequested())};
+        QList<QSharedPointer<QSignalSpy>> spies;
+        for (const QByteArray &signal : intents)
+            spies.append(QSharedPointer<QSignalSpy>::create(&f.page, signal.constData()));
+        QTest::mouseClick(f.primary(), Qt::LeftButton);
+        for (int i = 0; i < intents.size(); ++i)
+            QCOMPARE(spies.at(i)->size(), intents.at(i) == intent ? 1 : 0);
         // The clock ticks only for a live, visible connection.
         const bool connected = expected.at(1) == QLatin1String("Connected");
         QCOMPARE(f.page.statusCard()->isTicking(), connected);
@@ -190,7 +179,7 @@ private Q_SLOTS:
         QTest::addColumn<QList<QByteArray>>("steps");
         QTest::addColumn<QStringList>("spoken"); // "!" before an assertive line
         const QByteArray tokyo =
-            R"("connected_node": {"id": 1100, "region": "JP", "name": "Tokyo 01"})";
+            R"("connected_node": {"id": 1018, "region": "JP", "name": "Tokyo 01"})";
         QTest::addRow("connect and disconnect")
             << QList<QByteArray>{R"("tunnel_state": "connecting", )" + tokyo,
                                  R"("tunnel_state": "connected", )" + tokyo, QByteArray()}
@@ -211,7 +200,7 @@ private Q_SLOTS:
         QFETCH(QList<QByteArray>, steps);
         QFETCH(QStringList, spoken);
         Fixture f;
-        f.state.setNodes(catalogueNodes());
+        loadCatalogue(f.state);
         f.apply(status({}));
         QSignalSpy heard(f.page.announcer(), &AccessibleAnnouncer::announced);
         for (const QByteArray &step : steps) {
@@ -227,43 +216,6 @@ private Q_SLOTS:
         QCOMPARE(lines, spoken);
     }
 
-    void primaryAction_data()
-    {
-        QTest::addColumn<QByteArray>("extra");
-        QTest::addColumn<bool>("pending");
-        QTest::addColumn<QByteArray>("intent");
-        QTest::addRow("connect") << QByteArray() << false
-                                 << QByteArray(SIGNAL(connectRuntimeRequested()));
-        QTest::addRow("cancel our connect")
-            << QByteArray() << true << QByteArray(SIGNAL(cancelConnectRequested()));
-        QTest::addRow("stop the daemon's connect")
-            << QByteArray(R"("tunnel_state": "connecting")") << false
-            << QByteArray(SIGNAL(disconnectRuntimeRequested()));
-        QTest::addRow("disconnect") << QByteArray(R"("tunnel_state": "connected")") << false
-                                    << QByteArray(SIGNAL(disconnectRuntimeRequested()));
-        QTest::addRow("signed out leads to the account page")
-            << QByteArray(R"("auth_state": "logged_out")") << false
-            << QByteArray(SIGNAL(accountPageRequested()));
-    }
-    void primaryAction()
-    {
-        QFETCH(QByteArray, extra);
-        QFETCH(bool, pending);
-        QFETCH(QByteArray, intent);
-        Fixture f;
-        f.page.setConnectInProgress(pending, QString(), QString());
-        f.apply(status(extra));
-        const QList<QByteArray> intents{
-            SIGNAL(connectRuntimeRequested()), SIGNAL(cancelConnectRequested()),
-            SIGNAL(disconnectRuntimeRequested()), SIGNAL(accountPageRequested())};
-        QList<QSharedPointer<QSignalSpy>> spies;
-        for (const QByteArray &signal : intents)
-            spies.append(QSharedPointer<QSignalSpy>::create(&f.page, signal.constData()));
-        QTest::mouseClick(f.primary(), Qt::LeftButton);
-        for (int i = 0; i < intents.size(); ++i)
-            QCOMPARE(spies.at(i)->size(), intents.at(i) == intent ? 1 : 0);
-    }
-
     // Through the page with the real catalogue: the target is named, then connected.
     void quickEntryConnects_data()
     {
@@ -276,7 +228,7 @@ private Q_SLOTS:
             << QVariantList{QStringLiteral("country:de"), QStringLiteral("Germany")};
         QTest::addRow("a node") << "tokyo" << 1
                                 << QByteArray(SIGNAL(connectNodeRequested(QString, QString)))
-                                << QVariantList{QStringLiteral("1100"), QStringLiteral("Tokyo 01")};
+                                << QVariantList{QStringLiteral("1018"), QStringLiteral("Tokyo 01")};
     }
     void quickEntryConnects()
     {
@@ -285,8 +237,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, intent);
         QFETCH(QVariantList, pending);
         Fixture f;
-        f.state.setNodeGroups(catalogueGroups());
-        f.state.setNodes(catalogueNodes());
+        loadCatalogue(f.state);
         f.apply(status({}));
         QSignalSpy named(&f.page, &VpnPage::pendingConnectTargetChanged);
         QSignalSpy connects(&f.page, intent.constData());

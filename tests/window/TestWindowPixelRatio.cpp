@@ -43,10 +43,15 @@ void TestWindowPixelRatio::iconsFollowTheScreen()
     const auto iconPixels = [tab] { return tab->icon().availableSizes().value(0); };
     QCOMPARE(iconPixels(), QSize(24, 24));
 
-    // Another screen of the same ratio: nothing to render again.
-    window.windowHandle()->setScreen(middle);
+    // Dragged onto another screen of the same ratio: nothing to render again.
+    window.move(middle->geometry().topLeft() + QPoint(100, 100));
+    QTRY_COMPARE(window.screen(), middle);
     QCOMPARE(changes.size(), 0);
-    window.windowHandle()->setScreen(right);
+    window.move(right->geometry().topLeft() + QPoint(100, 100));
+    QTRY_COMPARE(window.screen(), right);
+    // Newer Qt's offscreen platform leaves every window at ratio 1, whatever its screen.
+    if (!qFuzzyCompare(window.devicePixelRatioF(), right->devicePixelRatio()))
+        QSKIP("this Qt's offscreen platform gives windows no ratio of their screen");
     QTRY_COMPARE(changes.size(), 1);
     QCOMPARE(iconPixels(), QSize(48, 48));
 }

@@ -17,6 +17,7 @@ public:
     TempXdgDirs(const TempXdgDirs &) = delete;
     TempXdgDirs &operator=(const TempXdgDirs &) = delete;
 
+    QString root() const { return m_dir.path(); }
     QString configHome() const;
     QString filePath(const QString &relative) const { return m_dir.filePath(relative); }
 

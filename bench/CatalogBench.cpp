@@ -26,6 +26,38 @@
 
 namespace {
 
+// nodeCount nodes spread evenly over groupCount groups (continents, countries, cities).
+CatalogFixture generatedCatalogue(int nodeCount, int groupCount)
+{
+    // groupCount = continents + countries + cities, with 10 cities per country and
+    // 10 countries per continent where the counts allow.
+    const int continents = qMax(1, groupCount / 111);
+    const int countries = qMax(1, groupCount / 11 - continents);
+    const int cities = qMax(1, groupCount - continents - countries);
+    CatalogFixture fixture;
+    for (int i = 0; i < nodeCount; ++i) {
+        const int city = int(qint64(i) * cities / nodeCount);
+        const int country = city * countries / cities;
+        const int continent = country * continents / countries;
+        CatalogFixture::Node node;
+        node.id = QString::number(100000 + i);
+        node.name = QStringLiteral("Node %1").arg(i);
+        node.continent = QStringLiteral("C%1").arg(continent);
+        node.region = QStringLiteral("%1%2")
+                          .arg(QChar(u'a' + country / 26 % 26))
+                          .arg(QChar(u'a' + country % 26));
+        node.country = QStringLiteral("Country %1").arg(country);
+        node.city = QStringLiteral("City %1").arg(city);
+        node.svip = i % 3 != 0;
+        node.favorite = i % 50 == 0;
+        if (i % 4 == 1)
+            node.features.append(QStringLiteral("P2P"));
+        fixture.nodes.append(node);
+    }
+    fixture.setPings(0);
+    return fixture;
+}
+
 // Milliseconds of this thread's CPU time that work takes.
 double cpuMs(const std::function<void()> &work)
 {
@@ -103,7 +135,7 @@ int main(int argc, char **argv)
     QApplication app(argc, argv);
     const int nodeCount = argc > 1 ? std::atoi(argv[1]) : 10000;
     const int groupCount = argc > 2 ? std::atoi(argv[2]) : nodeCount / 10;
-    CatalogFixture fixture = CatalogFixture::generated(nodeCount, groupCount);
+    CatalogFixture fixture = generatedCatalogue(nodeCount, groupCount);
     QString error;
     const NodeGroupsInfo groups = NodeGroupsInfo::parse(fixture.groupsJson(), &error);
     const NodesInfo nodes = NodesInfo::parse(fixture.nodesJson(), &error);

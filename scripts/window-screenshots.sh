@@ -29,7 +29,7 @@ suffix=; [[ $scale == 1 ]] || suffix="@${scale}x"
 account=demo@tovra.invalid; [[ ${TOVRA_SHOT_ACCOUNT:-} == free ]] && account=free@tovra.invalid
 
 client=$build/src/tovra daemon=$build/demo/tovra-demo-daemon ctl=$build/src/ctl/tovra-ctl
-grab=$build/tests/e2e/tovra-e2e-grab gallery=$build/src/ui/tovra-gallery
+grab=$build/scripts/shots/tovra-shot-grab gallery=$build/src/ui/tovra-gallery
 for program in "$client" "$daemon" "$ctl" "$grab"; do
     [[ -x $program ]] || { echo "missing $program: build first" >&2; exit 1; }
 done

@@ -24,5 +24,3 @@ restart="source '$e2e_dir/lib.sh'; work='$work' daemon='$daemon' ctl='$ctl' sock
     echo \$daemon_pid >>'$work/more.pids'"
 /usr/bin/python3 "$e2e_dir/accessibility_end_to_end.py" "$work/data/log/tovra-daemon.log" "$restart" \
     || fail "the accessibility walk failed"
-echo "Spoken by the client (its text log):"
-grep -a "tovra.text: window.announce\|tovra.text: notice" "$work/client.log" | sed 's/^/  /' || true

@@ -9,8 +9,7 @@
 # Usage: fault_matrix.sh CLIENT DAEMON CTL [CASE...]   (no case: all of them)
 # Environment: TOVRA_FAULT_STALL_MS (threshold, default 50), TOVRA_FAULT_JOBS (cases at a time,
 # default 3), TOVRA_FAULT_RSS_MARGIN_MB (allowed growth, default 25: the catalogue arrives after
-# the fault), E2E_KEEP_WORK=1 keeps the per-case folders for a look, TOVRA_FAULT_SHOTS=DIR with
-# TOVRA_FAULT_GRAB=tovra-e2e-grab saves a picture of each fault as the user sees it.
+# the fault), E2E_KEEP_WORK=1 keeps the per-case folders for a look.
 set -uo pipefail
 
 client=$1 daemon=$2 ctl=$3
@@ -147,11 +146,6 @@ run_case() {
         wait_for 15 shows tray "$denied" || fail "tray: $(text_of tray)"
         wait_for 10 shows window.status "$denied" || fail "window: $(text_of window.status)" ;;
     esac
-    if [[ -n ${TOVRA_FAULT_SHOTS:-} && -n ${TOVRA_FAULT_GRAB:-} ]]; then
-        mkdir -p "$TOVRA_FAULT_SHOTS"
-        sleep 0.5 # only for the picture: let a notification finish sliding in
-        "$TOVRA_FAULT_GRAB" "$TOVRA_FAULT_SHOTS/$name.png" || true
-    fi
     # The first visit of each page lays it out for the first time, which belongs to start-up;
     # from the second round on no stall is allowed.
     cycle_pages

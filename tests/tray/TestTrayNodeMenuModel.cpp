@@ -61,12 +61,9 @@ void TestTrayNodeMenuModel::joinLabel_data()
     QTest::addColumn<QString>("first");
     QTest::addColumn<QString>("second");
     QTest::addColumn<QString>("expected");
-    textRow("both distinct", "Germany", "Frankfurt 1", "Germany - Frankfurt 1");
     textRow("both trimmed", "  Germany ", " Berlin  ", "Germany - Berlin");
-    textRow("first empty", "", "Berlin", "Berlin");
     textRow("first blank", "   ", "Berlin", "Berlin");
     textRow("second empty", "Germany", "", "Germany");
-    textRow("both empty", "", "", "");
     textRow("equal ignoring case", "tokyo", "Tokyo", "Tokyo");
     textRow("second extends first", "Tokyo", "tokyo 2", "tokyo 2");
     textRow("first extends second", "Tokyo 2", "Tokyo", "Tokyo 2 - Tokyo");
@@ -85,18 +82,12 @@ void TestTrayNodeMenuModel::formatDuration_data()
 {
     QTest::addColumn<qint64>("seconds");
     QTest::addColumn<QString>("expected");
-    QTest::addRow("zero") << qint64(0) << "less than 1m";
     QTest::addRow("59 s") << qint64(59) << "less than 1m";
     QTest::addRow("60 s") << qint64(60) << "1m";
-    QTest::addRow("3599 s") << qint64(3599) << "59m";
-    QTest::addRow("one hour") << qint64(3600) << "1h";
-    QTest::addRow("hour and minute") << qint64(3660) << "1h 1m";
     QTest::addRow("hour and 59 s") << qint64(3659) << "1h";
     QTest::addRow("86399 s") << qint64(86399) << "23h 59m";
-    QTest::addRow("one day") << qint64(86400) << "1d";
     QTest::addRow("day and hour") << qint64(90000) << "1d 1h";
     QTest::addRow("day and 59 min") << qint64(86400 + 3599) << "1d";
-    QTest::addRow("ten days") << qint64(10 * 86400 + 5 * 3600 + 7) << "10d 5h";
 }
 
 void TestTrayNodeMenuModel::formatDuration()

@@ -66,12 +66,10 @@ void TestConfirmDialog::killSwitchDialogs_data()
     QTest::addRow("vpn mode: switch to auto") << Asked::VpnMode << Answer::Accept << 1;
     QTest::addRow("vpn mode: enter accepts") << Asked::VpnMode << Answer::EnterKey << 1;
     QTest::addRow("vpn mode: choose mode") << Asked::VpnMode << Answer::Alternate << 2;
-    QTest::addRow("vpn mode: cancel") << Asked::VpnMode << Answer::Cancel << 0;
     QTest::addRow("vpn mode: escape") << Asked::VpnMode << Answer::Escape << 0;
     QTest::addRow("vpn mode: closed") << Asked::VpnMode << Answer::Close << 0;
     QTest::addRow("proxy: open settings") << Asked::Proxy << Answer::Accept << 1;
     QTest::addRow("proxy: cancel") << Asked::Proxy << Answer::Cancel << 0;
-    QTest::addRow("proxy: escape") << Asked::Proxy << Answer::Escape << 0;
 }
 
 void TestConfirmDialog::killSwitchDialogs()

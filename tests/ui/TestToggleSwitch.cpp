@@ -46,7 +46,6 @@ void TestToggleSwitch::clickOnlyRequests_data()
     QTest::addRow("mouse on checked") << true << 0;
     QTest::addRow("space") << false << int(Qt::Key_Space);
     QTest::addRow("return") << true << int(Qt::Key_Return);
-    QTest::addRow("enter") << false << int(Qt::Key_Enter);
 }
 
 void TestToggleSwitch::clickOnlyRequests()

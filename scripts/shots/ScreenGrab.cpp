@@ -1,6 +1,6 @@
-// Pictures of the X screen for the end-to-end test: the whole screen as a PNG, or the average
-// colour of a rectangle (to tell the connected tray icon from the disconnected one), or how many
-// pixels of a rectangle have a given colour.
+// Pictures of the X screen for the screenshot scripts, and pixel probes for the end-to-end tests:
+// the whole screen as a PNG, or the average colour of a rectangle (to tell the connected tray icon
+// from the disconnected one), or how many pixels of a rectangle have a given colour.
 #include <QColor>
 #include <QGuiApplication>
 #include <QImage>
@@ -75,7 +75,7 @@ int main(int argc, char *argv[])
         return wanted.isValid() ? printCount(image, wanted, std::atoi(argv[3]), rect) : 2;
     }
     if (argc != 2 && argc != 6) {
-        std::fprintf(stderr, "usage: tovra-e2e-grab OUTPUT.png [X Y WIDTH HEIGHT] |"
+        std::fprintf(stderr, "usage: tovra-shot-grab OUTPUT.png [X Y WIDTH HEIGHT] |"
                              " --average X Y WIDTH HEIGHT |"
                              " --count #RRGGBB TOLERANCE X Y WIDTH HEIGHT\n");
         return 2;

@@ -1,10 +1,6 @@
-#include "AppState.h"
 #include "FakePortal.h"
-#include "GuiPreferences.h"
-#include "MainWindow.h"
 #include "PrivateSessionBus.h"
-#include "TempXdgDirs.h"
-#include "WindowController.h"
+#include "WindowFixture.h"
 
 #include <QApplication>
 #include <QTest>
@@ -51,10 +47,8 @@ void TestSystemAppearanceWindow::firstShowWaitsForTheDesktop()
     // The process's session bus is opened on first use, which is the controller's.
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
 
-    TempXdgDirs dirs;
-    AppState state;
-    GuiPreferences preferences;
-    WindowController controller(&state, &preferences);
+    WindowFixture f;
+    WindowController &controller = f.controller;
     controller.setReleaseOnHide(true);
     // The first window waits, hidden, for the answer and shows dark.
     controller.showOrRaise();

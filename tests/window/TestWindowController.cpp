@@ -1,14 +1,10 @@
-#include "AppState.h"
 #include "ControlMetaTypes.h"
-#include "GuiPreferences.h"
-#include "MainWindow.h"
 #include "ModePage.h"
 #include "NotificationHost.h"
 #include "QuitWatcher.h"
 #include "StderrCapture.h"
-#include "TempXdgDirs.h"
 #include "ThemeEngine.h"
-#include "WindowController.h"
+#include "WindowFixture.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -19,12 +15,8 @@
 
 namespace {
 
-struct Fixture
+struct Fixture : WindowFixture
 {
-    TempXdgDirs dirs;
-    AppState state;
-    GuiPreferences preferences;
-    WindowController controller{&state, &preferences};
     QList<QUrl> opened;
     bool openerSucceeds = true;
 
@@ -62,11 +54,8 @@ private Q_SLOTS:
         QTest::addColumn<bool>("minimised");
         QTest::addRow("showOrRaise") << QByteArray("showOrRaise") << 0 << false;
         QTest::addRow("showOrRaise, minimised") << QByteArray("showOrRaise") << 0 << true;
-        QTest::addRow("activateFromApplication")
-            << QByteArray("activateFromApplication") << 0 << false;
         QTest::addRow("showAccount") << QByteArray("showAccount") << 4 << false;
         QTest::addRow("showLocations") << QByteArray("showLocations") << 1 << false;
-        QTest::addRow("showModePage") << QByteArray("showModePage") << 2 << false;
     }
 
     void showSlots()

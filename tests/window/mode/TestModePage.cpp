@@ -1,8 +1,6 @@
 #include "AppState.h"
 #include "CatalogFilterModel.h"
 #include "ControlMetaTypes.h"
-#include "GuiPreferences.h"
-#include "MainWindow.h"
 #include "ModeChoiceCard.h"
 #include "ModeInlineError.h"
 #include "ModeOptionButton.h"
@@ -10,10 +8,9 @@
 #include "ModeSegmentedBar.h"
 #include "NetworkOptionsCard.h"
 #include "SplitOptionsCard.h"
-#include "TempXdgDirs.h"
 #include "ToggleSwitch.h"
 #include "TovraRegionPickerDialog.h"
-#include "WindowController.h"
+#include "WindowFixture.h"
 
 #include <QAbstractItemModelTester>
 #include <QLabel>
@@ -198,60 +195,35 @@ private Q_SLOTS:
         QCOMPARE(requested.count(), 1);
     }
 
-    void networkOptions_data()
-    {
-        QTest::addColumn<QString>("local");
-        QTest::addColumn<QString>("proxy");
-        QTest::addColumn<QString>("checkedLocal");
-        QTest::addColumn<QString>("checkedProxy");
-        QTest::addRow("protected, lock-on") << "protected"
-                                            << "lock-on"
-                                            << "protected"
-                                            << "lock";
-        QTest::addRow("unknown words") << "bridged"
-                                       << "auto"
-                                       << ""
-                                       << "";
-    }
-
+    // The daemon's clicks land in TestModePageWithDemoDaemon; here what the page decides: its
+    // words mapped to segments, an unknown one checking none, and the value in effect not resent.
     void networkOptions()
     {
-        QFETCH(QString, local);
-        QFETCH(QString, proxy);
-        QFETCH(QString, checkedLocal);
-        QFETCH(QString, checkedProxy);
         Page p;
         ModeInfo m = mode(u"auto"_s);
-        m.localNetwork = local;
-        m.systemProxy = proxy;
+        m.localNetwork = u"bridged"_s;
+        m.systemProxy = u"lock-on"_s;
         p.setMode(m);
         ModeSegmentedBar *lan = p.page.networkCard()->localNetworkBar();
         ModeSegmentedBar *system = p.page.networkCard()->systemProxyBar();
-        for (const auto &[bar, value] :
-             {std::pair{lan, checkedLocal}, std::pair{system, checkedProxy}}) {
-            for (const QString &segment : bar->values())
-                QCOMPARE(bar->segment(segment)->isChecked(), segment == value);
-        }
+        for (const QString &segment : lan->values())
+            QVERIFY(!lan->segment(segment)->isChecked());
+        for (const QString &segment : system->values())
+            QCOMPARE(system->segment(segment)->isChecked(), segment == u"lock"_s);
         QSignalSpy lanSpy(&p.page, &ModePage::setLocalNetworkRequested);
         QSignalSpy proxySpy(&p.page, &ModePage::setSystemProxyRequested);
-        for (const QString &value : lan->values())
-            QTest::mouseClick(lan->segment(value), Qt::LeftButton);
-        for (const QString &value : system->values())
-            QTest::mouseClick(system->segment(value), Qt::LeftButton);
-        // The value in effect is not asked for again.
-        QStringList lanSent, proxySent;
-        for (const QList<QVariant> &args : lanSpy)
-            lanSent.append(args.at(0).toString());
-        for (const QList<QVariant> &args : proxySpy)
-            proxySent.append(args.at(0).toString());
-        QStringList lanExpected{u"direct"_s, u"protected"_s};
-        lanExpected.removeAll(checkedLocal);
-        QStringList proxyExpected{u"off"_s, u"on"_s, u"lock"_s};
-        proxyExpected.removeAll(checkedProxy);
-        QCOMPARE(lanSent, lanExpected);
-        QCOMPARE(proxySent, proxyExpected);
+        for (ModeSegmentedBar *bar : {lan, system}) {
+            for (const QString &value : bar->values())
+                QTest::mouseClick(bar->segment(value), Qt::LeftButton);
+        }
+        QStringList sent;
+        for (const QSignalSpy *spy : {&lanSpy, &proxySpy}) {
+            for (const QList<QVariant> &args : *spy)
+                sent.append(args.at(0).toString());
+        }
+        QCOMPARE(sent, (QStringList{u"direct"_s, u"protected"_s, u"off"_s, u"on"_s}));
         // The daemon's word is kept, even one that checks no segment.
-        QCOMPARE(lan->currentValue(), local);
+        QCOMPARE(lan->currentValue(), u"bridged"_s);
     }
 
     void regionPickerSendsOneChange()
@@ -270,26 +242,19 @@ private Q_SLOTS:
         QVERIFY(picker->explanation()->text().contains(u"goes direct"_s));
         QCOMPARE(picker->selectedRegions(), QStringList{u"CN"_s});
 
-        // Check Germany from the keyboard: search, Enter to the matches, Space to check.
-        QTest::keyClicks(picker->searchField(), u"germ"_s);
-        QCOMPARE(picker->filterModel()->rowCount(), 1);
-        QTest::keyClick(picker->searchField(), Qt::Key_Return);
-        QVERIFY(picker->isVisible());
-        QTest::keyClick(picker->listView(), Qt::Key_Space);
-        QCOMPARE(picker->selectedRegions(), (QStringList{u"CN"_s, u"DE"_s}));
-        // And the United Kingdom by a click on its row, away from the box; its code finds it too.
+        // Keyboard checking is driven against the demo daemon; here a click on the row, away
+        // from the box, after a search by the region's code.
         picker->searchField()->setText(u"GB"_s);
         QCOMPARE(picker->filterModel()->rowCount(), 1);
-        picker->searchField()->setText(u"kingdom"_s);
         QListView *list = picker->listView();
         QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
                           list->visualRect(picker->filterModel()->index(0, 0)).center());
-        QCOMPARE(picker->selectedRegions(), (QStringList{u"CN"_s, u"DE"_s, u"GB"_s}));
+        QCOMPARE(picker->selectedRegions(), (QStringList{u"CN"_s, u"GB"_s}));
         QCOMPARE(requested.count(), 0);
 
         QTest::mouseClick(picker->saveButton(), Qt::LeftButton);
         ModeInfo expected = current;
-        expected.splitProfile.directRegions = {u"CN"_s, u"DE"_s, u"GB"_s};
+        expected.splitProfile.directRegions = {u"CN"_s, u"GB"_s};
         QVERIFY(onlyRequest(requested) == expected);
 
         // Opened again with nothing changed: Save sends nothing.
@@ -359,12 +324,9 @@ private Q_SLOTS:
 
     void killSwitchOpensPageWithVpnModesMarked()
     {
-        TempXdgDirs dirs;
-        AppState state;
-        GuiPreferences preferences;
-        WindowController controller(&state, &preferences);
-        controller.showModePageForKillSwitch();
-        MainWindow *window = controller.window();
+        WindowFixture f;
+        f.controller.showModePageForKillSwitch();
+        MainWindow *window = f.window();
         QCOMPARE(window->currentPage(), int(MainWindow::ModePageIndex));
         auto *page = window->findChild<ModePage *>();
         for (int i = 0; i <= int(ModeChoice::ProxySplit); ++i) {

@@ -87,18 +87,12 @@ private Q_SLOTS:
             << "Download in Background|Cancel Download";
         QTest::addRow("queued") << "queued" << false << P::Preparing << "Preparing the download..."
                                 << "Download in Background|Cancel Download";
-        QTest::addRow("retrying") << "retrying" << false << P::Retrying
-                                  << "Retrying the download..."
-                                  << "Download in Background|Cancel Download";
         QTest::addRow("downloading")
             << "downloading" << false << P::Downloading << "Downloading 1.1 MB of 2.2 MB"
             << "Download in Background|Cancel Download";
         QTest::addRow("downloading, size unknown")
             << "downloading, size unknown" << false << P::Downloading << "Downloading update..."
             << "Download in Background|Cancel Download";
-        QTest::addRow("downloading, forced")
-            << "downloading" << true << P::Downloading << "Downloading 1.1 MB of 2.2 MB"
-            << "Exit Tovra|Download in Background|Cancel Download";
         QTest::addRow("verifying")
             << "verifying" << false << P::Verifying << "Verifying the download..."
             << "Download in Background|Cancel Download";

@@ -28,7 +28,8 @@ void FakePortal::changeContrast(uint contrast)
 
 QDBusVariant FakePortal::ReadOne(const QString &nameSpace, const QString &key)
 {
-    ++readOneCalls;
+    if (key == kKey)
+        ++readOneCalls;
     if (!m_hasReadOne) {
         // What an older portal answers: the method does not exist.
         sendErrorReply(QDBusError::UnknownMethod, QStringLiteral("No such method ReadOne"));
@@ -40,7 +41,8 @@ QDBusVariant FakePortal::ReadOne(const QString &nameSpace, const QString &key)
 
 QDBusVariant FakePortal::Read(const QString &nameSpace, const QString &key)
 {
-    ++readCalls;
+    if (key == kKey)
+        ++readCalls;
     const std::optional<uint> found = value(nameSpace, key);
     if (!found) {
         return {};

@@ -21,6 +21,7 @@ public:
     void change(uint colorScheme);
     void changeContrast(uint contrast);
 
+    // Reads of the colour scheme, whatever else is read next to it.
     int readOneCalls = 0;
     int readCalls = 0;
 

@@ -64,10 +64,9 @@ void TestPortalColorScheme::readsScheme()
     QVERIFY(answered.wait());
     QCOMPARE(scheme.scheme(), expected);
     QCOMPARE(scheme.contrast(), expectedContrast);
-    // One read per key: the colour scheme and the contrast.
     if (fixture.portal) {
-        QCOMPARE(fixture.portal->readOneCalls, 2);
-        QCOMPARE(fixture.portal->readCalls, hasReadOne ? 0 : 2);
+        QCOMPARE(fixture.portal->readOneCalls, 1);
+        QCOMPARE(fixture.portal->readCalls, hasReadOne ? 0 : 1);
     }
 }
 

@@ -11,8 +11,10 @@
 # phase of the update dialog, offered and required (update-offer, update-downloading-forced, ...).
 # For reviewing the window after a change; nothing here is a test.
 # Usage: scripts/window-screenshots.sh [BUILD_DIR] [OUT_DIR] [LOOK...]
-#   LOOK is light, dark, rtl or dark-rtl; all four by default. The right-to-left looks run in
-#   Arabic (TOVRA_SHOT_RTL_LANG, default ar); TOVRA_SHOT_LANG=de (any tag) picks the language
+#   LOOK is light, dark, rtl, dark-rtl, hc or dark-hc; the first four by default. The hc looks
+#   run the client on a private session bus whose portal (scripts/contrast-portal.py) asks
+#   for higher contrast, as a desktop with its high-contrast setting on does. The right-to-left
+#   looks run in Arabic (TOVRA_SHOT_RTL_LANG, default ar); TOVRA_SHOT_LANG=de (any tag) picks the language
 #   of the others. TOVRA_SHOT_SCALE=1.25 (1.5, 2, ...) scales everything through QT_SCALE_FACTOR
 #   and names the pictures light-vpn@1.25x.png and so on. TOVRA_SHOT_ACCOUNT=free signs in the
 #   Free plan, whose locked locations show their lock. TOVRA_SHOT_TABS=N presses Tab N times
@@ -86,6 +88,22 @@ start_daemon loading --hang /v1/nodes --hang /v1/nodes/refresh
 start_daemon failing --fail /v1/nodes=503 --fail /v1/nodes/refresh=503
 start_daemon update --force-upgrade
 
+# A private session bus with a portal asking for higher contrast, started at first use; its
+# address lands in $work/contrast-bus.
+start_contrast_bus() {
+    [[ -s $work/contrast-bus ]] && return 0
+    dbus-daemon --session --nofork --print-address=5 5>"$work/contrast-bus" 2>/dev/null &
+    pids+=($!)
+    wait_for 10 test -s "$work/contrast-bus"
+    local address; address=$(head -n1 "$work/contrast-bus")
+    DBUS_SESSION_BUS_ADDRESS=$address "$(dirname "$0")/contrast-portal.py" 1 >/dev/null 2>&1 &
+    pids+=($!)
+    wait_for 10 env DBUS_SESSION_BUS_ADDRESS="$address" gdbus call --session \
+        --dest org.freedesktop.portal.Desktop --object-path /org/freedesktop/portal/desktop \
+        --method org.freedesktop.portal.Settings.ReadOne org.freedesktop.appearance contrast \
+        >/dev/null 2>&1
+}
+
 window_id() {
     local id width
     for id in $(xdotool search --onlyvisible --name '^Tovra' 2>/dev/null); do
@@ -104,7 +122,13 @@ look_language() {
 start_client() {
     local look=$1 name=$2 appearance=${1%-rtl} language
     language=$(look_language "$look")
-    [[ $appearance == rtl ]] && appearance=light
+    appearance=${appearance%-hc}
+    [[ $appearance == rtl || $appearance == hc ]] && appearance=light
+    local bus=()
+    if [[ $look == *hc* ]]; then
+        start_contrast_bus
+        bus=(DBUS_SESSION_BUS_ADDRESS="$(head -n1 "$work/contrast-bus")")
+    fi
     # The client takes its language, and with it the direction, from the daemon at start.
     "$ctl" --socket "$work/$name.sock" setLanguage user "$language" >/dev/null
     local config=$work/config-$look-$name
@@ -115,8 +139,8 @@ start_client() {
     [[ $name == update ]] && printf '[update]\ncurrentVersion=%s\nforceUpgrade=true\n' \
         "$version" >>"$config/Tovra/TovraVPN.ini"
     local log=$work/client-$look-$name.log
-    XDG_CONFIG_HOME=$config XDG_RUNTIME_DIR=$work/runtime-$look-$name TOVRA_GUI_TEXT_LOG=1 \
-        TOVRA_CONTROL_SOCKET=$work/$name.sock "$client" >"$log" 2>&1 &
+    env "${bus[@]}" XDG_CONFIG_HOME=$config XDG_RUNTIME_DIR=$work/runtime-$look-$name \
+        TOVRA_GUI_TEXT_LOG=1 TOVRA_CONTROL_SOCKET=$work/$name.sock "$client" >"$log" 2>&1 &
     client_pid=$!
     wait_for 20 window_id >/dev/null \
         || { echo "no window for $look" >&2; tail "$log" >&2; exit 1; }

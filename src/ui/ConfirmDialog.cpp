@@ -1,5 +1,6 @@
 #include "ConfirmDialog.h"
 
+#include "DesktopColorScheme.h"
 #include "ThemeEngine.h"
 #include "TovraDialogTitleBarThemer.h"
 
@@ -57,9 +58,11 @@ ConfirmDialog::ConfirmDialog(QWidget *parent)
     connect(m_cancel, &QPushButton::clicked, this, [this] { done(Cancelled); });
 
     // A dialog from the tray has no window to inherit from; the application palette carries
-    // the desktop's light or dark choice, and a parent window carries ours.
+    // the desktop's light or dark choice, and a parent window carries ours. Contrast is the
+    // desktop's alone.
     const QPalette source = parent ? parent->window()->palette() : QApplication::palette();
-    ThemeEngine::applyToWindow(this, ThemeEngine::buildColors(ThemeEngine::appearanceOf(source)));
+    ThemeEngine::applyToWindow(this, ThemeEngine::buildColors(ThemeEngine::appearanceOf(source),
+                                                              DesktopColorScheme().contrast()));
     TovraDialogTitleBarThemer::attach(this);
 }
 

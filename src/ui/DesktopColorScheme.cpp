@@ -7,6 +7,9 @@
 #include <QGuiApplication>
 #include <QPointer>
 #include <QStyleHints>
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+#include <QAccessibilityHints>
+#endif
 
 namespace {
 
@@ -37,32 +40,56 @@ DesktopScheme toolkitScheme()
     return DesktopScheme::Unknown;
 }
 
+bool toolkitAsksForContrast()
+{
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+    return QGuiApplication::styleHints()->accessibility()->contrastPreference() ==
+           Qt::ContrastPreference::HighContrast;
+#else
+    return false;
+#endif
+}
+
 } // namespace
 
 DesktopColorScheme::DesktopColorScheme(QObject *parent)
     : QObject(parent)
+    , m_portal(sharedPortal())
+    , m_schemeFromPortal(toolkitScheme() == DesktopScheme::Unknown)
 {
 #if QT_VERSION >= QT_VERSION_CHECK(6, 5, 0)
     connect(QGuiApplication::styleHints(), &QStyleHints::colorSchemeChanged, this,
             [this] { Q_EMIT changed(scheme()); });
 #endif
+#if QT_VERSION >= QT_VERSION_CHECK(6, 10, 0)
+    connect(QGuiApplication::styleHints()->accessibility(),
+            &QAccessibilityHints::contrastPreferenceChanged, this,
+            [this] { Q_EMIT contrastChanged(contrast()); });
+#endif
     // A platform theme that does not know the desktop's choice (Qt before 6.5, or a theme
-    // without the portal) leaves it to the portal.
-    if (toolkitScheme() != DesktopScheme::Unknown)
-        return;
-    m_portal = sharedPortal();
-    connect(m_portal, &PortalColorScheme::schemeChanged, this,
-            [this] { Q_EMIT changed(scheme()); });
+    // without the portal) leaves the scheme to the portal; the contrast is always asked there,
+    // since most platform themes do not pass it on.
+    if (m_schemeFromPortal) {
+        connect(m_portal, &PortalColorScheme::schemeChanged, this,
+                [this] { Q_EMIT changed(scheme()); });
+    }
+    connect(m_portal, &PortalColorScheme::contrastChanged, this,
+            [this] { Q_EMIT contrastChanged(contrast()); });
     connect(m_portal, &PortalColorScheme::answered, this, &DesktopColorScheme::settled);
 }
 
 bool DesktopColorScheme::isSettled() const
 {
-    return toolkitScheme() != DesktopScheme::Unknown || !m_portal || m_portal->hasAnswered();
+    return m_portal->hasAnswered();
 }
 
 DesktopScheme DesktopColorScheme::scheme() const
 {
     const DesktopScheme toolkit = toolkitScheme();
-    return toolkit != DesktopScheme::Unknown || !m_portal ? toolkit : m_portal->scheme();
+    return toolkit != DesktopScheme::Unknown || !m_schemeFromPortal ? toolkit : m_portal->scheme();
+}
+
+Contrast DesktopColorScheme::contrast() const
+{
+    return toolkitAsksForContrast() ? Contrast::High : m_portal->contrast();
 }

@@ -74,6 +74,10 @@ LocationItemDelegate::LocationItemDelegate(QObject *parent)
 void LocationItemDelegate::setThemeColors(const ThemeColors &colors)
 {
     m_accent = colors.color(ThemeColor::Accent);
+    // The accent is made for fills; text in green takes the shade made for text.
+    m_accentText = colors.color(ThemeColor::SidebarSelectedText);
+    m_focusRing = colors.color(ThemeColor::FocusRing);
+    m_focusWidth = colors.focusWidth();
     m_warning = colors.color(ThemeColor::Warning);
     m_muted = colors.color(ThemeColor::TextMuted);
     m_subtleFill = colors.color(ThemeColor::SubtleFill);
@@ -217,7 +221,7 @@ void LocationItemDelegate::paint(QPainter *painter, const QStyleOptionViewItem &
     // Names and ping come from the daemon in any script: let their own text pick the reading
     // direction, so "24 ms" stays "24 ms" in a mirrored row.
     painter->setLayoutDirection(Qt::LayoutDirectionAuto);
-    const QColor textColor = connected ? pick(m_accent, pal.color(QPalette::Highlight))
+    const QColor textColor = connected ? pick(m_accentText, pal.color(QPalette::Highlight))
                              : locked  ? pick(m_muted, pal.color(QPalette::PlaceholderText))
                                        : pal.color(QPalette::Text);
     painter->setPen(textColor);
@@ -298,9 +302,10 @@ void LocationItemDelegate::paintRowBackground(QPainter *painter, const QRect &ro
     }
     if (focused) {
         // The keyboard's row in a focused list: the same ring as every other control.
-        painter->setPen(QPen(pick(m_accent, palette.color(QPalette::Highlight)), 2));
+        painter->setPen(QPen(pick(m_focusRing, palette.color(QPalette::Highlight)), m_focusWidth));
         painter->setBrush(Qt::NoBrush);
-        painter->drawRoundedRect(QRectF(row).adjusted(3, 2, -3, -2), 5, 5);
+        const qreal inset = 2 + m_focusWidth / 2.0;
+        painter->drawRoundedRect(QRectF(row).adjusted(inset, inset - 1, -inset, 1 - inset), 5, 5);
     }
     painter->restore();
 }

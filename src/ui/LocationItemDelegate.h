@@ -66,6 +66,9 @@ private:
                    const QPalette &palette) const;
 
     QColor m_accent;
+    QColor m_accentText;
+    QColor m_focusRing;
+    int m_focusWidth = 2;
     QColor m_warning;
     QColor m_muted;
     QColor m_subtleFill;

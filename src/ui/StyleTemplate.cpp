@@ -5,9 +5,9 @@
 
 namespace {
 
-QString loadTemplate()
+QString loadTemplate(const QString &path)
 {
-    QFile file(QStringLiteral(":/styles/main.qss"));
+    QFile file(path);
     if (!file.open(QIODevice::ReadOnly)) {
         qFatal("Could not load the Tovra GUI style template");
     }
@@ -16,9 +16,12 @@ QString loadTemplate()
 
 } // namespace
 
-const QString &StyleTemplate::text()
+const QString &StyleTemplate::text(Contrast contrast)
 {
-    // A function-local static is initialised once, even with concurrent first callers.
-    static const QString cached = loadTemplate();
-    return cached;
+    // Function-local statics are initialised once, even with concurrent first callers.
+    static const QString normal = loadTemplate(QStringLiteral(":/styles/main.qss"));
+    if (contrast == Contrast::Normal)
+        return normal;
+    static const QString strong = normal + loadTemplate(QStringLiteral(":/styles/contrast.qss"));
+    return strong;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "DesktopScheme.h"
+
 #include <QColor>
 #include <QString>
 
@@ -30,19 +32,23 @@ enum class ThemeColor {
     Danger,
     DangerHover,
     DangerPressed,
+    FocusRing,
 };
 
 enum class Appearance { Light, Dark };
 
-// One variant of the theme: 23 colour strings ("#rrggbb").
+// One variant of the theme: 24 colour strings ("#rrggbb").
 class ThemeColors
 {
 public:
-    static constexpr int Count = 23;
+    static constexpr int Count = 24;
 
-    static ThemeColors forAppearance(Appearance appearance);
+    static ThemeColors forAppearance(Appearance appearance, Contrast contrast = Contrast::Normal);
 
     Appearance appearance() const { return m_appearance; }
+    Contrast contrast() const { return m_contrast; }
+    // Width of the keyboard focus ring in pixels: wider where the desktop asks for contrast.
+    int focusWidth() const { return m_contrast == Contrast::High ? 3 : 2; }
     QString value(ThemeColor role) const { return m_values[static_cast<size_t>(role)]; }
     QColor color(ThemeColor role) const { return QColor(value(role)); }
 
@@ -51,5 +57,6 @@ public:
 
 private:
     Appearance m_appearance = Appearance::Light;
+    Contrast m_contrast = Contrast::Normal;
     std::array<QString, Count> m_values;
 };

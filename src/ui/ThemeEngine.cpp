@@ -89,9 +89,9 @@ Appearance ThemeEngine::resolveAppearance(const QString &preference, DesktopSche
     return desktop == DesktopScheme::Dark ? Appearance::Dark : Appearance::Light;
 }
 
-ThemeColors ThemeEngine::buildColors(Appearance appearance)
+ThemeColors ThemeEngine::buildColors(Appearance appearance, Contrast contrast)
 {
-    return ThemeColors::forAppearance(appearance);
+    return ThemeColors::forAppearance(appearance, contrast);
 }
 
 QPalette ThemeEngine::buildPalette(const ThemeColors &colors)
@@ -134,7 +134,7 @@ QPalette ThemeEngine::buildPalette(const ThemeColors &colors)
 
 QString ThemeEngine::renderStyleSheet(const ThemeColors &colors, Qt::LayoutDirection direction)
 {
-    return renderStyleSheet(StyleTemplate::text(), colors, direction);
+    return renderStyleSheet(StyleTemplate::text(colors.contrast()), colors, direction);
 }
 
 QString ThemeEngine::renderStyleSheet(const QString &templateText, const ThemeColors &colors,
@@ -186,7 +186,8 @@ void ThemeEngine::applySwitchColors(QWidget *root, const ThemeColors &colors)
         toggle->setProperty("tovraSwitchUncheckedTrack", colors.color(ThemeColor::SurfaceBorder));
         toggle->setProperty("tovraSwitchThumb", QColor(0xff, 0xff, 0xff));
         toggle->setProperty("tovraSwitchThumbBorder", QColor(0, 0, 0, 70));
-        toggle->setProperty("tovraSwitchFocus", colors.color(ThemeColor::Accent));
+        toggle->setProperty("tovraSwitchFocus", colors.color(ThemeColor::FocusRing));
+        toggle->setProperty("tovraSwitchFocusWidth", colors.focusWidth());
         toggle->update();
     }
 }

@@ -17,7 +17,7 @@ public:
     // "light" and "dark" are taken as they are; anything else follows the desktop, and a desktop
     // that reports nothing reads as light.
     static Appearance resolveAppearance(const QString &preference, DesktopScheme desktop);
-    static ThemeColors buildColors(Appearance appearance);
+    static ThemeColors buildColors(Appearance appearance, Contrast contrast = Contrast::Normal);
     static QPalette buildPalette(const ThemeColors &colors);
     static QString renderStyleSheet(const ThemeColors &colors, Qt::LayoutDirection direction);
     static QString renderStyleSheet(const QString &templateText, const ThemeColors &colors,

@@ -108,9 +108,11 @@ void ToggleSwitch::paintEvent(QPaintEvent *)
     painter.drawEllipse(thumbRect());
 
     if (hasFocus()) {
-        const QRectF ring = trackArea.adjusted(-1, -1, 1, 1);
+        const QVariant asked = property("tovraSwitchFocusWidth");
+        const qreal width = asked.isValid() ? asked.toInt() : 2;
+        const QRectF ring = trackArea.adjusted(-width / 2, -width / 2, width / 2, width / 2);
         painter.setBrush(Qt::NoBrush);
-        painter.setPen(QPen(focus, 2));
+        painter.setPen(QPen(focus, width));
         painter.drawRoundedRect(ring, ring.height() / 2, ring.height() / 2);
     }
 }

@@ -53,7 +53,7 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
     LayoutAlignedLabels::install();
     // Themed before the pages exist: each widget inherits the palette and is polished once,
     // with the sheet, instead of being restyled after construction.
-    const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
+    const ThemeColors colors = themeColors();
     setPalette(ThemeEngine::buildPalette(colors));
     // Polished first: a sheet set on a window not yet polished is read again when it is.
     ensurePolished();
@@ -99,11 +99,13 @@ MainWindow::MainWindow(AppState *state, GuiPreferences *preferences, QWidget *pa
             applyTheme();
         }
     });
+    // Contrast is the desktop's to ask for, whatever the light or dark choice.
+    connect(m_desktopScheme, &DesktopColorScheme::contrastChanged, this, &MainWindow::applyTheme);
 
     applyPageColors(colors);
     // Icons are rendered for one pixel ratio: again on a screen of another.
     connect(new PixelRatioWatch(this), &PixelRatioWatch::changed, this,
-            [this] { applyPageColors(ThemeEngine::buildColors(effectiveAppearance())); });
+            [this] { applyPageColors(themeColors()); });
     showPage(VpnPageIndex);
     refreshFromState();
 }
@@ -216,8 +218,7 @@ void MainWindow::showKeyboardShortcuts()
     if (!m_shortcutsDialog) {
         m_shortcutsDialog = new KeyboardShortcutsDialog(this);
         m_shortcutsDialog->setAttribute(Qt::WA_DeleteOnClose);
-        ThemeEngine::applyToWindow(m_shortcutsDialog,
-                                   ThemeEngine::buildColors(effectiveAppearance()));
+        ThemeEngine::applyToWindow(m_shortcutsDialog, themeColors());
     }
     m_shortcutsDialog->show();
     m_shortcutsDialog->raise();
@@ -383,9 +384,14 @@ Appearance MainWindow::effectiveAppearance() const
     return ThemeEngine::resolveAppearance(m_appearance, m_desktopScheme->scheme());
 }
 
+ThemeColors MainWindow::themeColors() const
+{
+    return ThemeEngine::buildColors(effectiveAppearance(), m_desktopScheme->contrast());
+}
+
 void MainWindow::applyTheme()
 {
-    const ThemeColors colors = ThemeEngine::buildColors(effectiveAppearance());
+    const ThemeColors colors = themeColors();
     ThemeEngine::applyPaletteRecursively(this, ThemeEngine::buildPalette(colors));
     setStyleSheet(ThemeEngine::renderStyleSheet(colors, layoutDirection()));
     applyPageColors(colors);

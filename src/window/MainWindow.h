@@ -78,6 +78,8 @@ public:
     void setAppearancePreference(const QString &preference);
     QString appearancePreference() const { return m_appearance; }
     Appearance effectiveAppearance() const;
+    // The colours of that appearance, in the desktop's contrast.
+    ThemeColors themeColors() const;
 
     int currentPage() const;
     bool hasUnifiedTitleBar() const { return m_unifiedTitleBar; }

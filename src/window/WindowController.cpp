@@ -34,8 +34,9 @@ WindowController::WindowController(AppState *state, GuiPreferences *preferences,
     , m_desktopScheme(new DesktopColorScheme(this))
     , m_updateDialogs(new UpdateDialogHost(
           [this] {
-              return ThemeEngine::resolveAppearance(appearancePreference(),
-                                                    m_desktopScheme->scheme());
+              return ThemeEngine::buildColors(
+                  ThemeEngine::resolveAppearance(appearancePreference(), m_desktopScheme->scheme()),
+                  m_desktopScheme->contrast());
           },
           this))
     , m_urlOpener(openWithDesktop)
@@ -48,6 +49,8 @@ WindowController::WindowController(AppState *state, GuiPreferences *preferences,
             m_updateDialogs->applyTheme();
         }
     });
+    connect(m_desktopScheme, &DesktopColorScheme::contrastChanged, m_updateDialogs,
+            &UpdateDialogHost::applyTheme);
     connect(m_updateDialogs, &UpdateDialogHost::downloadRequested, this,
             &WindowController::updateDownloadRequested);
     connect(m_updateDialogs, &UpdateDialogHost::cancelDownloadRequested, this,

@@ -61,7 +61,7 @@ WindowPages::WindowPages(MainWindow *window, AppState *state, GuiPreferences *pr
 
 void WindowPages::wirePage(int index, QWidget *built)
 {
-    const ThemeColors colors = ThemeEngine::buildColors(m_window->effectiveAppearance());
+    const ThemeColors colors = m_window->themeColors();
     switch (index) {
     case MainWindow::LocationsPageIndex:
         m_locations = static_cast<LocationsPage *>(built);

@@ -4,11 +4,13 @@ namespace {
 
 const QString kNamespace = QStringLiteral("org.freedesktop.appearance");
 const QString kKey = QStringLiteral("color-scheme");
+const QString kContrastKey = QStringLiteral("contrast");
 
 } // namespace
 
-FakePortal::FakePortal(uint colorScheme, bool hasReadOne)
+FakePortal::FakePortal(uint colorScheme, bool hasReadOne, uint contrast)
     : m_colorScheme(colorScheme)
+    , m_contrast(contrast)
     , m_hasReadOne(hasReadOne)
 {}
 
@@ -18,35 +20,46 @@ void FakePortal::change(uint colorScheme)
     Q_EMIT SettingChanged(kNamespace, kKey, QDBusVariant(colorScheme));
 }
 
+void FakePortal::changeContrast(uint contrast)
+{
+    m_contrast = contrast;
+    Q_EMIT SettingChanged(kNamespace, kContrastKey, QDBusVariant(contrast));
+}
+
 QDBusVariant FakePortal::ReadOne(const QString &nameSpace, const QString &key)
 {
-    ++readOneCalls;
+    if (key == kKey)
+        ++readOneCalls;
     if (!m_hasReadOne) {
         // What an older portal answers: the method does not exist.
         sendErrorReply(QDBusError::UnknownMethod, QStringLiteral("No such method ReadOne"));
         return {};
     }
-    return isColorScheme(nameSpace, key) ? QDBusVariant(m_colorScheme) : QDBusVariant();
+    const std::optional<uint> found = value(nameSpace, key);
+    return found ? QDBusVariant(*found) : QDBusVariant();
 }
 
 QDBusVariant FakePortal::Read(const QString &nameSpace, const QString &key)
 {
-    ++readCalls;
-    if (!isColorScheme(nameSpace, key)) {
+    if (key == kKey)
+        ++readCalls;
+    const std::optional<uint> found = value(nameSpace, key);
+    if (!found) {
         return {};
     }
     // Read wraps the value in a second variant.
-    return QDBusVariant(QVariant::fromValue(QDBusVariant(m_colorScheme)));
+    return QDBusVariant(QVariant::fromValue(QDBusVariant(*found)));
 }
 
-bool FakePortal::isColorScheme(const QString &nameSpace, const QString &key)
+std::optional<uint> FakePortal::value(const QString &nameSpace, const QString &key)
 {
-    if (nameSpace != kNamespace || key != kKey) {
-        sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"),
-                       QStringLiteral("Requested setting not found"));
-        return false;
-    }
-    return true;
+    if (nameSpace == kNamespace && key == kKey)
+        return m_colorScheme;
+    if (nameSpace == kNamespace && key == kContrastKey)
+        return m_contrast;
+    sendErrorReply(QStringLiteral("org.freedesktop.portal.Error.NotFound"),
+                   QStringLiteral("Requested setting not found"));
+    return std::nullopt;
 }
 
 PortalFixture::PortalFixture(const QString &address, int tag)
@@ -62,10 +75,10 @@ PortalFixture::~PortalFixture()
     QDBusConnection::disconnectFromBus(clientName);
 }
 
-bool PortalFixture::servePortal(uint scheme, bool hasReadOne)
+bool PortalFixture::servePortal(uint scheme, bool hasReadOne, uint contrast)
 {
     QDBusConnection server = QDBusConnection::connectToBus(address, serverName);
-    portal = std::make_unique<FakePortal>(scheme, hasReadOne);
+    portal = std::make_unique<FakePortal>(scheme, hasReadOne, contrast);
     return server.registerObject(QStringLiteral("/org/freedesktop/portal/desktop"), portal.get(),
                                  QDBusConnection::ExportAllSlots |
                                      QDBusConnection::ExportAllSignals) &&

@@ -8,6 +8,10 @@
 #include <QRegularExpression>
 #include <QTest>
 
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
 class TestThemeEngine : public QObject
 {
     Q_OBJECT
@@ -16,6 +20,8 @@ private Q_SLOTS:
     void renderedSheetIsComplete_data();
     void renderedSheetIsComplete();
     void directionTokensPrecedeColours();
+    void highContrastPairs_data();
+    void highContrastPairs();
     void resolveAppearance_data();
     void resolveAppearance();
     void pendingPrimaryActionKeepsItsColour_data();
@@ -29,25 +35,37 @@ void TestThemeEngine::renderedSheetIsComplete_data()
 {
     QTest::addColumn<Appearance>("appearance");
     QTest::addColumn<Qt::LayoutDirection>("direction");
+    QTest::addColumn<Contrast>("contrast");
     QTest::addColumn<QStringList>("fragments");
-    QTest::addRow("light ltr") << Appearance::Light << Qt::LeftToRight
+    const Contrast normal = Contrast::Normal, high = Contrast::High;
+    QTest::addRow("light ltr") << Appearance::Light << Qt::LeftToRight << normal
                                << QStringList({QStringLiteral("border-left: 1px solid #c2c9d6"),
                                                QStringLiteral("padding-right: 28px")});
-    QTest::addRow("light rtl") << Appearance::Light << Qt::RightToLeft
+    QTest::addRow("light rtl") << Appearance::Light << Qt::RightToLeft << normal
                                << QStringList({QStringLiteral("border-right: 1px solid #c2c9d6"),
                                                QStringLiteral("padding-left: 28px")});
-    QTest::addRow("light auto") << Appearance::Light << Qt::LayoutDirectionAuto << QStringList();
-    QTest::addRow("dark ltr") << Appearance::Dark << Qt::LeftToRight << QStringList();
-    QTest::addRow("dark rtl") << Appearance::Dark << Qt::RightToLeft << QStringList();
-    QTest::addRow("dark auto") << Appearance::Dark << Qt::LayoutDirectionAuto << QStringList();
+    QTest::addRow("light auto") << Appearance::Light << Qt::LayoutDirectionAuto << normal
+                                << QStringList();
+    QTest::addRow("dark ltr") << Appearance::Dark << Qt::LeftToRight << normal << QStringList();
+    QTest::addRow("dark rtl") << Appearance::Dark << Qt::RightToLeft << normal << QStringList();
+    QTest::addRow("dark auto") << Appearance::Dark << Qt::LayoutDirectionAuto << normal
+                               << QStringList();
+    // The strong variant widens the ring to 3px in the ring's own colour.
+    QTest::addRow("high contrast light rtl")
+        << Appearance::Light << Qt::RightToLeft << high
+        << QStringList({QStringLiteral("border: 3px solid #0040a0")});
+    QTest::addRow("high contrast dark ltr")
+        << Appearance::Dark << Qt::LeftToRight << high
+        << QStringList({QStringLiteral("border: 3px solid #ffd23f")});
 }
 
 void TestThemeEngine::renderedSheetIsComplete()
 {
     QFETCH(Appearance, appearance);
     QFETCH(Qt::LayoutDirection, direction);
+    QFETCH(Contrast, contrast);
     QFETCH(QStringList, fragments);
-    const ThemeColors colors = ThemeEngine::buildColors(appearance);
+    const ThemeColors colors = ThemeEngine::buildColors(appearance, contrast);
     const QString sheet = ThemeEngine::renderStyleSheet(colors, direction);
 
     const QRegularExpressionMatch leftover =
@@ -84,6 +102,72 @@ void TestThemeEngine::directionTokensPrecedeColours()
         ThemeEngine::renderStyleSheet(QStringLiteral("a{@segmentDividerBorder@;color:@accent@}"),
                                       dark, Qt::LayoutDirectionAuto),
         QStringLiteral("a{;color:#47B96D}"));
+}
+
+namespace {
+
+// The contrast ratio of two colours as accessibility guidelines define it.
+double contrastRatio(const QColor &a, const QColor &b)
+{
+    const auto luminance = [](const QColor &c) {
+        const auto channel = [](double v) {
+            return v <= 0.04045 ? v / 12.92 : std::pow((v + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * channel(c.redF()) + 0.7152 * channel(c.greenF()) +
+               0.0722 * channel(c.blueF());
+    };
+    const double la = luminance(a), lb = luminance(b);
+    return (std::max(la, lb) + 0.05) / (std::min(la, lb) + 0.05);
+}
+
+} // namespace
+
+void TestThemeEngine::highContrastPairs_data()
+{
+    QTest::addColumn<QColor>("foreground");
+    QTest::addColumn<QColor>("background");
+    QTest::addColumn<double>("minimum");
+    using C = ThemeColor;
+    const struct
+    {
+        const char *name;
+        std::optional<ThemeColor> foreground; // none: the white text on filled buttons
+        ThemeColor background;
+        double minimum;
+    } pairs[] = {{"text on window", C::TextPrimary, C::WindowBg, 7},
+                 {"text on surface", C::TextPrimary, C::Surface, 7},
+                 {"muted on window", C::TextMuted, C::WindowBg, 7},
+                 {"muted on hover", C::TextMuted, C::SidebarHover, 7},
+                 {"selected text", C::SidebarSelectedText, C::SidebarSelectedBg, 4.5},
+                 {"error on surface", C::Error, C::Surface, 4.5},
+                 {"border on surface", C::SurfaceBorder, C::Surface, 3},
+                 {"separator on window", C::SidebarBorder, C::WindowBg, 3},
+                 {"ring on window", C::FocusRing, C::WindowBg, 3},
+                 {"ring on surface", C::FocusRing, C::Surface, 3},
+                 {"ring on selection", C::FocusRing, C::SidebarSelectedBg, 3},
+                 {"white on accent", std::nullopt, C::Accent, 4.5},
+                 {"white on strong accent", std::nullopt, C::AccentStrong, 4.5},
+                 {"white on danger", std::nullopt, C::Danger, 4.5}};
+    for (const Appearance appearance : {Appearance::Light, Appearance::Dark}) {
+        const ThemeColors colors = ThemeEngine::buildColors(appearance, Contrast::High);
+        for (const auto &pair : pairs) {
+            const QColor foreground =
+                pair.foreground ? colors.color(*pair.foreground) : QColor(Qt::white);
+            QTest::addRow("%s %s", appearance == Appearance::Dark ? "dark" : "light", pair.name)
+                << foreground << colors.color(pair.background) << pair.minimum;
+        }
+    }
+}
+
+void TestThemeEngine::highContrastPairs()
+{
+    QFETCH(QColor, foreground);
+    QFETCH(QColor, background);
+    QFETCH(double, minimum);
+    const double ratio = contrastRatio(foreground, background);
+    QVERIFY2(ratio >= minimum, qPrintable(QStringLiteral("%1 on %2: %3")
+                                              .arg(foreground.name(), background.name())
+                                              .arg(ratio, 0, 'f', 2)));
 }
 
 void TestThemeEngine::resolveAppearance_data()

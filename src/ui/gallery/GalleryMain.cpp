@@ -1,6 +1,7 @@
-// tovra-gallery: every custom widget in light and dark, left-to-right and right-to-left.
-// With --screenshot DIR it writes light-ltr.png, light-rtl.png, dark-ltr.png and dark-rtl.png
-// into DIR and exits.
+// tovra-gallery: every custom widget in light and dark, left-to-right and right-to-left, and in
+// high contrast. With --screenshot DIR it writes light-ltr.png, light-rtl.png, dark-ltr.png,
+// dark-rtl.png, light-hc-ltr.png and dark-hc-ltr.png into DIR and exits; --high-contrast opens
+// the window in high contrast.
 #include "GalleryWindow.h"
 
 #include <QApplication>
@@ -21,10 +22,14 @@ int main(int argc, char **argv)
                                         QStringLiteral("Write one PNG per variant and exit."),
                                         QStringLiteral("DIR"));
     parser.addOption(screenshot);
+    const QCommandLineOption highContrast(QStringLiteral("high-contrast"),
+                                          QStringLiteral("Start in high contrast."));
+    parser.addOption(highContrast);
     parser.process(app);
 
     if (!parser.isSet(screenshot)) {
-        GalleryWindow window(Appearance::Light, Qt::LeftToRight);
+        GalleryWindow window(Appearance::Light, Qt::LeftToRight,
+                             parser.isSet(highContrast) ? Contrast::High : Contrast::Normal);
         window.resize(1440, 960);
         window.show();
         return QApplication::exec();
@@ -40,12 +45,15 @@ int main(int argc, char **argv)
         const char *name;
         Appearance appearance;
         Qt::LayoutDirection direction;
-    } variants[] = {{"light-ltr", Appearance::Light, Qt::LeftToRight},
-                    {"light-rtl", Appearance::Light, Qt::RightToLeft},
-                    {"dark-ltr", Appearance::Dark, Qt::LeftToRight},
-                    {"dark-rtl", Appearance::Dark, Qt::RightToLeft}};
+        Contrast contrast;
+    } variants[] = {{"light-ltr", Appearance::Light, Qt::LeftToRight, Contrast::Normal},
+                    {"light-rtl", Appearance::Light, Qt::RightToLeft, Contrast::Normal},
+                    {"dark-ltr", Appearance::Dark, Qt::LeftToRight, Contrast::Normal},
+                    {"dark-rtl", Appearance::Dark, Qt::RightToLeft, Contrast::Normal},
+                    {"light-hc-ltr", Appearance::Light, Qt::LeftToRight, Contrast::High},
+                    {"dark-hc-ltr", Appearance::Dark, Qt::LeftToRight, Contrast::High}};
     for (const auto &variant : variants) {
-        GalleryWindow window(variant.appearance, variant.direction);
+        GalleryWindow window(variant.appearance, variant.direction, variant.contrast);
         window.resize(1440, 960);
         window.show();
         QApplication::processEvents();

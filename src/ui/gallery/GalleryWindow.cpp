@@ -42,9 +42,11 @@ QLabel *label(const QString &text, const char *role = nullptr)
 
 } // namespace
 
-GalleryWindow::GalleryWindow(Appearance appearance, Qt::LayoutDirection direction, QWidget *parent)
+GalleryWindow::GalleryWindow(Appearance appearance, Qt::LayoutDirection direction,
+                             Contrast contrast, QWidget *parent)
     : QWidget(parent)
     , m_appearance(appearance)
+    , m_contrast(contrast)
 {
     setObjectName(QStringLiteral("TovraWindowRoot"));
     setWindowTitle(QStringLiteral("Tovra widget gallery"));
@@ -162,11 +164,20 @@ QWidget *GalleryWindow::buildControls()
     connect(m_rtlSwitch, &ToggleSwitch::toggleRequested, this, [this](bool rtl) {
         applyTheme(m_appearance, rtl ? Qt::RightToLeft : Qt::LeftToRight);
     });
+    m_contrastSwitch = new ToggleSwitch;
+    m_contrastSwitch->setAccessibleName(QStringLiteral("High contrast"));
+    connect(m_contrastSwitch, &ToggleSwitch::toggleRequested, this, [this](bool high) {
+        m_contrast = high ? Contrast::High : Contrast::Normal;
+        applyTheme(m_appearance, layoutDirection());
+    });
     layout->addWidget(m_darkSwitch);
     layout->addWidget(label(QStringLiteral("Dark")));
     layout->addSpacing(16);
     layout->addWidget(m_rtlSwitch);
     layout->addWidget(label(QStringLiteral("Right to left")));
+    layout->addSpacing(16);
+    layout->addWidget(m_contrastSwitch);
+    layout->addWidget(label(QStringLiteral("High contrast")));
     layout->addSpacing(16);
     auto *search = new QLineEdit;
     search->setObjectName(QStringLiteral("TovraLocationsSearch"));
@@ -419,7 +430,7 @@ void GalleryWindow::applyTheme(Appearance appearance, Qt::LayoutDirection direct
 {
     m_appearance = appearance;
     setLayoutDirection(direction);
-    const ThemeColors colors = ThemeEngine::buildColors(appearance);
+    const ThemeColors colors = ThemeEngine::buildColors(appearance, m_contrast);
     ThemeEngine::applyToWindow(this, colors);
     for (ConfirmDialog *dialog : m_dialogs) {
         dialog->setLayoutDirection(direction);
@@ -440,6 +451,7 @@ void GalleryWindow::applyTheme(Appearance appearance, Qt::LayoutDirection direct
     }
     m_darkSwitch->setChecked(appearance == Appearance::Dark);
     m_rtlSwitch->setChecked(direction == Qt::RightToLeft);
+    m_contrastSwitch->setChecked(m_contrast == Contrast::High);
     placeNotification();
 }
 

@@ -20,7 +20,8 @@ class GalleryWindow : public QWidget
     Q_OBJECT
 
 public:
-    GalleryWindow(Appearance appearance, Qt::LayoutDirection direction, QWidget *parent = nullptr);
+    GalleryWindow(Appearance appearance, Qt::LayoutDirection direction,
+                  Contrast contrast = Contrast::Normal, QWidget *parent = nullptr);
 
     void applyTheme(Appearance appearance, Qt::LayoutDirection direction);
 
@@ -42,6 +43,7 @@ private:
     void placeNotification();
 
     Appearance m_appearance;
+    Contrast m_contrast;
     QList<QToolButton *> m_sidebarButtons;
     QList<ConfirmDialog *> m_dialogs;
     QList<NotificationHost *> m_samples;
@@ -51,4 +53,5 @@ private:
     QAction *m_searchAction = nullptr;
     ToggleSwitch *m_darkSwitch = nullptr;
     ToggleSwitch *m_rtlSwitch = nullptr;
+    ToggleSwitch *m_contrastSwitch = nullptr;
 };

@@ -3,9 +3,9 @@
 #include "ThemeEngine.h"
 #include "UpdateDialog.h"
 
-UpdateDialogHost::UpdateDialogHost(AppearanceSource appearance, QObject *parent)
+UpdateDialogHost::UpdateDialogHost(ThemeSource theme, QObject *parent)
     : QObject(parent)
-    , m_appearance(std::move(appearance))
+    , m_theme(std::move(theme))
 {}
 
 UpdateDialogHost::~UpdateDialogHost()
@@ -76,6 +76,6 @@ void UpdateDialogHost::returnWithWindow(const QWidget *window)
 void UpdateDialogHost::applyTheme()
 {
     if (m_themed) {
-        ThemeEngine::applyToWindow(m_themed, ThemeEngine::buildColors(m_appearance()));
+        ThemeEngine::applyToWindow(m_themed, m_theme());
     }
 }

@@ -19,9 +19,9 @@ class UpdateDialogHost : public QObject
 
 public:
     // Asked each time the dialog is themed, so it always follows the window's appearance.
-    using AppearanceSource = std::function<Appearance()>;
+    using ThemeSource = std::function<ThemeColors()>;
 
-    explicit UpdateDialogHost(AppearanceSource appearance, QObject *parent = nullptr);
+    explicit UpdateDialogHost(ThemeSource theme, QObject *parent = nullptr);
     ~UpdateDialogHost() override;
 
     // Themes another dialog (or the own one) like the window, now and on every applyTheme().
@@ -42,7 +42,7 @@ Q_SIGNALS:
     void exitRequested();
 
 private:
-    AppearanceSource m_appearance;
+    ThemeSource m_theme;
     QPointer<QWidget> m_themed;
     QPointer<UpdateDialog> m_own;
     // It was on screen when the window hid.

@@ -8,7 +8,9 @@
 namespace {
 
 constexpr int kMinimumHeight = 80;
-constexpr int kFrameAllowance = 12;
+// The list's own frame and the popup's border, up to 3px wide where the desktop asks for
+// contrast.
+constexpr int kFrameAllowance = 16;
 
 } // namespace
 

@@ -2,7 +2,6 @@
 #include "DemoDaemon.h"
 
 #include <QDateTime>
-#include <QFileInfo>
 #include <QTest>
 #include <QUrl>
 #include <QUrlQuery>
@@ -243,29 +242,6 @@ private Q_SLOTS:
         QCOMPARE(error, u"unknown location"_s);
     }
 
-    void modeRoundTrip()
-    {
-        ModeInfo wanted;
-        wanted.transport = u"tovravpn"_s;
-        wanted.policy = u"split"_s;
-        wanted.splitProfile.valid = true;
-        wanted.splitProfile.defaultRoute = u"direct"_s;
-        wanted.splitProfile.proxyRegions = {u"US"_s, u"JP"_s};
-        wanted.splitProfile.gfwlist = true;
-        QString error;
-        const ModeInfo answer = E::setMode(socket(), wanted, Timeout, &error);
-        QCOMPARE(error, QString());
-        QCOMPARE(answer.splitProfile.proxyRegions, wanted.splitProfile.proxyRegions);
-        QCOMPARE(answer.lastTovravpnSplitProfile, answer.splitProfile);
-        const RuntimeInfo status = E::fetchStatus(socket(), Timeout);
-        QCOMPARE(status.mode, answer);
-        QCOMPARE(status.modeSummary, u"tovravpn split"_s);
-
-        wanted.transport = u"teleport"_s;
-        QVERIFY(!E::setMode(socket(), wanted, Timeout, &error).valid);
-        QCOMPARE(error, u"unknown transport \"teleport\""_s);
-    }
-
     void familyRestoresLastPolicy()
     {
         const auto mode = [](const char *transport, const char *policy) {
@@ -280,26 +256,6 @@ private Q_SLOTS:
         const ModeInfo back = E::setMode(socket(), mode("tovravpn", ""), Timeout);
         QCOMPARE(back.policy, u"gfwlist"_s);
         QCOMPARE(back.lastProxyPolicy, u"global"_s);
-    }
-
-    void proxyPreferences()
-    {
-        QString error;
-        const ModeInfo mode = E::setSystemProxyPreference(socket(), u"on"_s, Timeout, &error);
-        QCOMPARE(mode.systemProxy, u"on"_s);
-        QVERIFY(mode.pacPort > 0);
-        QCOMPARE(E::fetchStatus(socket(), Timeout).pacStatus.state, u"active"_s);
-        QVERIFY(E::setProxyLANPreference(socket(), true, Timeout, &error).proxyLan);
-        QVERIFY(!E::setProxyLANPreference(socket(), false, Timeout, &error).proxyLan);
-
-        const ProxyListenResultInfo listen =
-            E::setProxyListeners(socket(), u"127.0.0.1:2080"_s, QString(), Timeout, &error);
-        QCOMPARE(error, QString());
-        QCOMPARE(listen.proxyListeners.size(), 1);
-        QCOMPARE(listen.proxyListeners.first().address, u"127.0.0.1:2080"_s);
-        QVERIFY(!listen.appliesOnReconnect);
-        QVERIFY(!E::setProxyListeners(socket(), u"nowhere"_s, QString(), Timeout, &error).valid);
-        QCOMPARE(error, u"invalid listen address \"nowhere\": use HOST:PORT"_s);
     }
 
     void killSwitch()
@@ -321,27 +277,6 @@ private Q_SLOTS:
         QCOMPARE(error, u"Kill Switch is in lockdown and cannot be turned off."_s);
         QCOMPARE(E::fetchKillSwitch(socket(), Timeout), info);
         QCOMPARE(E::fetchStatus(socket(), Timeout).killSwitch, info);
-    }
-
-    void splitDns()
-    {
-        QString error;
-        SplitDNSInfo dns = E::fetchSplitDNS(socket(), Timeout, &error);
-        QCOMPARE(dns.localDnsSource, u"system"_s);
-        QVERIFY(QFileInfo::exists(dns.configuredPath));
-        const QStringList servers{u"9.9.9.9"_s, u"1.1.1.1"_s};
-        dns = E::setSplitDNSLocal(socket(), servers, Timeout, &error);
-        QCOMPARE(dns.configuredLocalDirectDns, servers);
-        QCOMPARE(dns.localDnsSource, u"config"_s);
-        QVERIFY(dns.changed);
-        dns = E::setSplitDNSPolicy(socket(), u"remote"_s, Timeout, &error);
-        QCOMPARE(dns.effectivePolicy, u"remote"_s);
-        QVERIFY(
-            E::clearSplitDNSLocal(socket(), Timeout, &error).configuredLocalDirectDns.isEmpty());
-        QCOMPARE(E::resetSplitDNS(socket(), Timeout, &error).configuredPolicy, u"auto"_s);
-        QCOMPARE(error, QString());
-        QVERIFY(!E::setSplitDNSLocal(socket(), {u"dns.example"_s}, Timeout, &error).valid);
-        QCOMPARE(error, u"\"dns.example\" is not an IP address"_s);
     }
 
     void languageResolves_data()
@@ -368,25 +303,6 @@ private Q_SLOTS:
         QTEST(info.language, "language");
         QCOMPARE(info.effectiveLanguage, effective);
         QCOMPARE(E::fetchStatus(socket(), Timeout).effectiveLanguage, effective);
-    }
-
-    void languageAndApiUrl()
-    {
-        QString error;
-        LanguageConfigInfo language = E::fetchLanguageConfig(socket(), Timeout, &error);
-        QCOMPARE(language.source, u"system"_s);
-        QVERIFY(language.supportedLanguages.size() >= 10);
-        language = E::setLanguage(socket(), u"user"_s, u"de_AT"_s, Timeout, &error);
-        QCOMPARE(language.language, u"de-AT"_s);
-        QCOMPARE(language.effectiveLanguage, u"de"_s);
-        // The system's tag applies only while the source is still "system".
-        language =
-            E::setLanguageIfSource(socket(), u"system"_s, u"fr"_s, u"system"_s, Timeout, &error);
-        QCOMPARE(language.language, u"de-AT"_s);
-        QCOMPARE(E::fetchStatus(socket(), Timeout).effectiveLanguage, u"de"_s);
-
-        QVERIFY(!E::setAPIURL(socket(), u"ftp://x"_s, Timeout, &error).valid);
-        QCOMPARE(error, u"API URL must be an http or https URL with a host"_s);
     }
 
     // The download itself, its file and cancel are driven end to end by TestUpdateFlow; here only

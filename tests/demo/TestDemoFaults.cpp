@@ -26,8 +26,6 @@ bool run(const QString &operation, const QString &socket, int timeoutMs, QString
 {
     if (operation == QLatin1String("status"))
         return ControlEndpoints::fetchStatus(socket, timeoutMs, error).valid;
-    if (operation == QLatin1String("version"))
-        return ControlEndpoints::fetchVersion(socket, timeoutMs, error).valid;
     if (operation == QLatin1String("nodes"))
         return ControlEndpoints::fetchNodes(socket, false, timeoutMs, error).valid;
     if (operation == QLatin1String("groups"))
@@ -38,10 +36,6 @@ bool run(const QString &operation, const QString &socket, int timeoutMs, QString
         return ControlEndpoints::fetchLanguageConfig(socket, timeoutMs, error).valid;
     if (operation == QLatin1String("killSwitchMode"))
         return ControlEndpoints::setKillSwitchMode(socket, u"always"_s, timeoutMs, error).valid;
-    if (operation == QLatin1String("login"))
-        return ControlEndpoints::login(socket, u"demo@tovra.invalid"_s, u"demo"_s, false, timeoutMs,
-                                       error)
-            .valid;
     qFatal("unknown operation");
 }
 
@@ -77,10 +71,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("operation");
         QTest::addColumn<int>("timeoutMs");
         QTest::addColumn<QString>("error");
-        QTest::addRow("hang past the timeout")
-            << args({"--hang", "/v1/status"}) << "status" << 500 << "control request timed out";
-        QTest::addRow("latency past the timeout")
-            << args({"--latency", "1500"}) << "status" << 300 << "control request timed out";
         QTest::addRow("failure with default body") << args({"--fail", "/v1/nodes=503"}) << "nodes"
                                                    << 5000 << "demo failure injected for /v1/nodes";
         QTest::addRow("failure worded by last_error")
@@ -108,47 +98,6 @@ private Q_SLOTS:
         QString message;
         QVERIFY(!run(operation, daemon.socketPath(), timeoutMs, &message));
         QCOMPARE(message, error);
-        QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
-    }
-
-    void chunkedRecordsParse_data()
-    {
-        QTest::addColumn<QString>("operation");
-        // Small and large bodies, and the answer to a request that has one of its own.
-        for (const char *operation : {"status", "nodes", "groups", "login"})
-            QTest::addRow("%s", operation) << QString::fromLatin1(operation);
-    }
-
-    void chunkedRecordsParse()
-    {
-        QFETCH(QString, operation);
-        if (!m_chunked.running())
-            QVERIFY2(m_chunked.start({u"--chunked"_s}), qPrintable(m_chunked.errorString()));
-        QString error;
-        QVERIFY2(run(operation, m_chunked.socketPath(), 5000, &error), qPrintable(error));
-    }
-
-    void brokenAnswerNeverYieldsRecord_data()
-    {
-        QTest::addColumn<QStringList>("options");
-        QTest::addColumn<QString>("operation");
-        QTest::addRow("cut short, content length")
-            << args({"--truncate", "/v1/status"}) << "status";
-        QTest::addRow("cut short, chunked")
-            << args({"--chunked", "--truncate", "/v1/nodes"}) << "nodes";
-        QTest::addRow("cut short, small body") << args({"--truncate", "/v1/version"}) << "version";
-        QTest::addRow("garbage") << args({"--garbage", "/v1/status"}) << "status";
-    }
-
-    void brokenAnswerNeverYieldsRecord()
-    {
-        QFETCH(QStringList, options);
-        QFETCH(QString, operation);
-        DemoDaemon daemon;
-        QVERIFY2(daemon.start(options), qPrintable(daemon.errorString()));
-        QString error;
-        QVERIFY(!run(operation, daemon.socketPath(), 5000, &error));
-        QVERIFY(!error.isEmpty());
         QVERIFY2(daemon.stop(), qPrintable(daemon.errorString()));
     }
 
@@ -274,7 +223,6 @@ private Q_SLOTS:
     }
 
 private:
-    DemoDaemon m_chunked;
     DemoDaemon m_raw; // requests the client never sends
 };
 

@@ -2,7 +2,6 @@
 #include "DemoDaemon.h"
 #include "MainWindow.h"
 #include "SettingsNotes.h"
-#include "SignalProbe.h"
 #include "TempXdgDirs.h"
 #include "TovraAppShell.h"
 #include "WindowController.h"
@@ -11,23 +10,22 @@
 #include <QSignalSpy>
 #include <QTest>
 
-// The Settings page's requests through the shell to the demo daemon and back into the store.
-class TestSettingsFlow : public QObject
-{
-    Q_OBJECT
-
-private Q_SLOTS:
-    void pageLoadFillsTheStore();
-    void daemonDownLeavesNotesNotPopUps();
-    void changeReachesDaemon_data();
-    void changeReachesDaemon();
-    void tooOldDaemonSaysSoAtTheModes();
-
-private:
-    TempXdgDirs m_dirs;
-};
+#include <array>
 
 namespace {
+
+// Emits a signal named by its signature, so that the rows can name the page's requests.
+bool emitSignal(QObject *object, const QByteArray &signature, QVariantList arguments)
+{
+    const int index = object->metaObject()->indexOfSignal(signature.constData());
+    if (index < 0 || arguments.size() > 3)
+        return false;
+    std::array<void *, 4> argv{};
+    for (qsizetype i = 0; i < arguments.size(); ++i)
+        argv[size_t(i) + 1] = arguments[i].data();
+    QMetaObject::metacall(object, QMetaObject::InvokeMetaMethod, index, argv.data());
+    return true;
+}
 
 // The window on the Settings page, which asks the shell to load what it shows.
 void openSettings(TovraAppShell &shell)
@@ -79,131 +77,144 @@ QString readBack(TovraAppShell &shell, const QString &what)
 
 } // namespace
 
-void TestSettingsFlow::pageLoadFillsTheStore()
+// The Settings page's requests through the shell to the demo daemon and back into the store.
+class TestSettingsFlow : public QObject
 {
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
-    TovraAppShell shell(nullptr, daemon.socketPath());
-    shell.setSystemTrayAvailable(false);
-    openSettings(shell);
-    const AppState *state = shell.state();
-    QTRY_VERIFY(state->runtime().valid && state->killSwitch().valid &&
-                state->apiURLConfig().valid && state->languageConfig().valid &&
-                state->splitDNS().valid && state->configPaths().valid);
-    QVERIFY(!state->languageConfig().supportedLanguages.isEmpty());
-    QVERIFY(shell.windowController()->replayState().settingsNotes.isEmpty());
-}
+    Q_OBJECT
 
-void TestSettingsFlow::daemonDownLeavesNotesNotPopUps()
-{
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--fail"), QStringLiteral("/v1/config/api-url=500")}),
-             qPrintable(daemon.errorString()));
-    TovraAppShell shell(nullptr, daemon.socketPath());
-    shell.setSystemTrayAvailable(false);
-    openSettings(shell);
-    const auto &notes = shell.windowController()->replayState().settingsNotes;
-    QTRY_VERIFY(notes.contains(SettingsNotes::APIURL));
-    QTRY_VERIFY(shell.state()->configPaths().valid);
-    QVERIFY(!notes.contains(SettingsNotes::Status));
-    QVERIFY2(notificationText(shell).isEmpty(), qPrintable(notificationText(shell)));
-
-    QVERIFY(daemon.stop());
-    shell.windowController()->window()->showPage(MainWindow::VpnPageIndex);
-    shell.windowController()->window()->showPage(MainWindow::SettingsPageIndex);
-    QTRY_VERIFY(notes.contains(SettingsNotes::Status));
-    QTRY_VERIFY(notes.contains(SettingsNotes::ConfigPaths));
-    // Six loads failed; none of them became a pop-up or an "update" text.
-    QVERIFY(notificationText(shell).isEmpty());
-    for (const QString &text : notes)
-        QVERIFY2(!text.contains(QStringLiteral("update")), qPrintable(text));
-
-    // The open page notices the service coming back and loads again by itself.
-    QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
-    QTRY_VERIFY_WITH_TIMEOUT(!notes.contains(SettingsNotes::Status), 10000);
-    QTRY_VERIFY(!notes.contains(SettingsNotes::ConfigPaths));
-}
-
-void TestSettingsFlow::changeReachesDaemon_data()
-{
-    QTest::addColumn<QByteArray>("signal");
-    QTest::addColumn<QVariantList>("arguments");
-    QTest::addColumn<QString>("check");
-    QTest::addColumn<QString>("expected");
-    QTest::addColumn<QString>("error");
-    const auto row = [](const char *name, const char *signal, const QVariantList &arguments,
-                        const char *check, const QString &expected, const char *error = "") {
-        QTest::addRow("%s", name) << QByteArray(signal) << arguments << QString::fromLatin1(check)
-                                  << expected << QString::fromUtf8(error);
-    };
-    const auto text = [](const char *value) { return QVariant(QString::fromLatin1(value)); };
-    row("kill switch mode", "setKillSwitchModeRequested(QString)", {text("always")},
-        "killSwitchMode", QStringLiteral("always"));
-    row("system proxy", "setSystemProxyRequested(QString)", {text("on")}, "systemProxy",
-        QStringLiteral("on"));
-    row("local network", "setLocalNetworkRequested(QString)", {text("protected")}, "localNetwork",
-        QStringLiteral("protected"));
-    row("api url", "setAPIURLRequested(QString)", {text("https://api.example.com")}, "apiURL",
-        QStringLiteral("https://api.example.com"));
-    row("auto connect", "setAutoConnectRequested(QString)", {text("smart")}, "autoConnect",
-        QStringLiteral("smart"));
-    row("listeners", "setProxyListenersRequested(QString,QString)",
-        {text("127.0.0.1:1090"), text("127.0.0.1:8090")}, "listeners",
-        QStringLiteral("127.0.0.1:1090 127.0.0.1:8090"));
-    row("dns policy", "setSplitDNSPolicyRequested(QString)", {text("remote")}, "dnsPolicy",
-        QStringLiteral("remote"));
-    row("dns servers", "setSplitDNSLocalRequested(QStringList)",
-        {QStringList{QStringLiteral("9.9.9.9"), QStringLiteral("1.1.1.1")}}, "dnsServers",
-        QStringLiteral("9.9.9.9 1.1.1.1"));
-    row("language", "setLanguageRequested(QString,QString)", {text("user"), text("de")}, "language",
-        QStringLiteral("user de"));
-    row("repair", "repairDiagnosticsRequested()", {}, "repair", QStringLiteral("3"));
-    // Refused by the daemon: its words are shown and the store keeps the daemon's value.
-    row("refused api url", "setAPIURLRequested(QString)", {text("ftp://api.example.com")}, "apiURL",
-        QStringLiteral("https://api.tovra.invalid"), "API URL must be");
-    row("refused auto connect", "setAutoConnectRequested(QString)", {text("always")}, "autoConnect",
-        QStringLiteral("off"), "auto connect must be");
-}
-
-void TestSettingsFlow::changeReachesDaemon()
-{
-    QFETCH(QByteArray, signal);
-    QFETCH(QVariantList, arguments);
-    QFETCH(QString, check);
-    QFETCH(QString, expected);
-    QFETCH(QString, error);
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
-    TovraAppShell shell(nullptr, daemon.socketPath());
-    shell.setSystemTrayAvailable(false);
-    openSettings(shell);
-    QTRY_VERIFY(shell.state()->splitDNS().valid && shell.state()->apiURLConfig().valid &&
-                shell.state()->languageConfig().valid && shell.state()->killSwitch().valid);
-
-    QVERIFY(SignalProbe::emitSignal(shell.windowController()->window(), signal, arguments));
-    if (error.isEmpty()) {
-        QTRY_COMPARE(readBack(shell, check), expected);
-    } else {
-        QTRY_VERIFY(notificationText(shell).contains(error));
-        QCOMPARE(readBack(shell, check), expected);
+private Q_SLOTS:
+    void pageLoadFillsTheStore()
+    {
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+        TovraAppShell shell(nullptr, daemon.socketPath());
+        shell.setSystemTrayAvailable(false);
+        openSettings(shell);
+        const AppState *state = shell.state();
+        QTRY_VERIFY(state->runtime().valid && state->killSwitch().valid &&
+                    state->apiURLConfig().valid && state->languageConfig().valid &&
+                    state->splitDNS().valid && state->configPaths().valid);
+        QVERIFY(!state->languageConfig().supportedLanguages.isEmpty());
+        QVERIFY(shell.windowController()->replayState().settingsNotes.isEmpty());
     }
-}
 
-void TestSettingsFlow::tooOldDaemonSaysSoAtTheModes()
-{
-    DemoDaemon daemon;
-    QVERIFY2(daemon.start({QStringLiteral("--no-kill-switch-mode")}),
-             qPrintable(daemon.errorString()));
-    TovraAppShell shell(nullptr, daemon.socketPath());
-    shell.setSystemTrayAvailable(false);
-    openSettings(shell);
-    QTRY_VERIFY(shell.state()->killSwitch().valid);
-    Q_EMIT shell.windowController()->window()->setKillSwitchModeRequested(QStringLiteral("always"));
-    const auto &notes = shell.windowController()->replayState().settingsNotes;
-    QTRY_COMPARE(notes.value(SettingsNotes::KillSwitchMode),
-                 QStringLiteral("Tovra daemon is too old for Kill Switch modes. Update Tovra."));
-    QCOMPARE(shell.state()->killSwitch().mode, QStringLiteral("auto"));
-}
+    void daemonDownLeavesNotesNotPopUps()
+    {
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start({QStringLiteral("--fail"), QStringLiteral("/v1/config/api-url=500")}),
+                 qPrintable(daemon.errorString()));
+        TovraAppShell shell(nullptr, daemon.socketPath());
+        shell.setSystemTrayAvailable(false);
+        openSettings(shell);
+        const auto &notes = shell.windowController()->replayState().settingsNotes;
+        QTRY_VERIFY(notes.contains(SettingsNotes::APIURL));
+        QTRY_VERIFY(shell.state()->configPaths().valid);
+        QVERIFY(!notes.contains(SettingsNotes::Status));
+        QVERIFY2(notificationText(shell).isEmpty(), qPrintable(notificationText(shell)));
+
+        QVERIFY(daemon.stop());
+        shell.windowController()->window()->showPage(MainWindow::VpnPageIndex);
+        shell.windowController()->window()->showPage(MainWindow::SettingsPageIndex);
+        QTRY_VERIFY(notes.contains(SettingsNotes::Status));
+        QTRY_VERIFY(notes.contains(SettingsNotes::ConfigPaths));
+        // Six loads failed; none of them became a pop-up or an "update" text.
+        QVERIFY(notificationText(shell).isEmpty());
+        for (const QString &text : notes)
+            QVERIFY2(!text.contains(QStringLiteral("update")), qPrintable(text));
+
+        // The open page notices the service coming back and loads again by itself.
+        QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+        QTRY_VERIFY_WITH_TIMEOUT(!notes.contains(SettingsNotes::Status), 10000);
+        QTRY_VERIFY(!notes.contains(SettingsNotes::ConfigPaths));
+    }
+
+    void changeReachesDaemon_data()
+    {
+        QTest::addColumn<QByteArray>("signal");
+        QTest::addColumn<QVariantList>("arguments");
+        QTest::addColumn<QString>("check");
+        QTest::addColumn<QString>("expected");
+        QTest::addColumn<QString>("error");
+        const auto row = [](const char *name, const char *signal, const QVariantList &arguments,
+                            const char *check, const QString &expected, const char *error = "") {
+            QTest::addRow("%s", name)
+                << QByteArray(signal) << arguments << QString::fromLatin1(check) << expected
+                << QString::fromUtf8(error);
+        };
+        const auto text = [](const char *value) { return QVariant(QString::fromLatin1(value)); };
+        row("kill switch mode", "setKillSwitchModeRequested(QString)", {text("always")},
+            "killSwitchMode", QStringLiteral("always"));
+        row("system proxy", "setSystemProxyRequested(QString)", {text("on")}, "systemProxy",
+            QStringLiteral("on"));
+        row("local network", "setLocalNetworkRequested(QString)", {text("protected")},
+            "localNetwork", QStringLiteral("protected"));
+        row("api url", "setAPIURLRequested(QString)", {text("https://api.example.com")}, "apiURL",
+            QStringLiteral("https://api.example.com"));
+        row("auto connect", "setAutoConnectRequested(QString)", {text("smart")}, "autoConnect",
+            QStringLiteral("smart"));
+        row("listeners", "setProxyListenersRequested(QString,QString)",
+            {text("127.0.0.1:1090"), text("127.0.0.1:8090")}, "listeners",
+            QStringLiteral("127.0.0.1:1090 127.0.0.1:8090"));
+        row("dns policy", "setSplitDNSPolicyRequested(QString)", {text("remote")}, "dnsPolicy",
+            QStringLiteral("remote"));
+        row("dns servers", "setSplitDNSLocalRequested(QStringList)",
+            {QStringList{QStringLiteral("9.9.9.9"), QStringLiteral("1.1.1.1")}}, "dnsServers",
+            QStringLiteral("9.9.9.9 1.1.1.1"));
+        row("language", "setLanguageRequested(QString,QString)", {text("user"), text("de")},
+            "language", QStringLiteral("user de"));
+        row("repair", "repairDiagnosticsRequested()", {}, "repair", QStringLiteral("3"));
+        // Refused by the daemon: its words are shown and the store keeps the daemon's value.
+        row("refused api url", "setAPIURLRequested(QString)", {text("ftp://api.example.com")},
+            "apiURL", QStringLiteral("https://api.tovra.invalid"), "API URL must be");
+        row("refused auto connect", "setAutoConnectRequested(QString)", {text("always")},
+            "autoConnect", QStringLiteral("off"), "auto connect must be");
+    }
+
+    void changeReachesDaemon()
+    {
+        QFETCH(QByteArray, signal);
+        QFETCH(QVariantList, arguments);
+        QFETCH(QString, check);
+        QFETCH(QString, expected);
+        QFETCH(QString, error);
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+        TovraAppShell shell(nullptr, daemon.socketPath());
+        shell.setSystemTrayAvailable(false);
+        openSettings(shell);
+        QTRY_VERIFY(shell.state()->splitDNS().valid && shell.state()->apiURLConfig().valid &&
+                    shell.state()->languageConfig().valid && shell.state()->killSwitch().valid);
+
+        QVERIFY(emitSignal(shell.windowController()->window(), signal, arguments));
+        if (error.isEmpty()) {
+            QTRY_COMPARE(readBack(shell, check), expected);
+        } else {
+            QTRY_VERIFY(notificationText(shell).contains(error));
+            QCOMPARE(readBack(shell, check), expected);
+        }
+    }
+
+    void tooOldDaemonSaysSoAtTheModes()
+    {
+        DemoDaemon daemon;
+        QVERIFY2(daemon.start({QStringLiteral("--no-kill-switch-mode")}),
+                 qPrintable(daemon.errorString()));
+        TovraAppShell shell(nullptr, daemon.socketPath());
+        shell.setSystemTrayAvailable(false);
+        openSettings(shell);
+        QTRY_VERIFY(shell.state()->killSwitch().valid);
+        Q_EMIT shell.windowController()->window()->setKillSwitchModeRequested(
+            QStringLiteral("always"));
+        const auto &notes = shell.windowController()->replayState().settingsNotes;
+        QTRY_COMPARE(
+            notes.value(SettingsNotes::KillSwitchMode),
+            QStringLiteral("Tovra daemon is too old for Kill Switch modes. Update Tovra."));
+        QCOMPARE(shell.state()->killSwitch().mode, QStringLiteral("auto"));
+    }
+
+private:
+    TempXdgDirs m_dirs;
+};
 
 QTEST_MAIN(TestSettingsFlow)
 #include "TestSettingsFlow.moc"

@@ -1,8 +1,6 @@
-#include "DemoDaemon.h"
 #include "ScriptedPeer.h"
 
 #include <QJsonDocument>
-#include <QJsonObject>
 #include <QProcess>
 #include <QTest>
 #include <QVariantMap>
@@ -169,9 +167,6 @@ private Q_SLOTS:
         QTest::addRow("dash, CRLF, no newline after")
             << QStringList{user, u"-"_s} << QByteArray("pw\r\n") << 0
             << QByteArray(R"("password":"pw","remember_me":false)");
-        QTest::addRow("dash, only the first line")
-            << QStringList{user, u"-"_s} << QByteArray("first\nsecond\n") << 0
-            << QByteArray(R"("password":"first",)");
         QTest::addRow("dash, nothing on input") << QStringList{user, u"-"_s} << QByteArray() << 2
                                                 << QByteArray("no password on standard input");
         QTest::addRow("dash, empty line") << QStringList{user, u"-"_s} << QByteArray("\n") << 2
@@ -198,46 +193,6 @@ private Q_SLOTS:
         else
             QVERIFY2(run.err.contains(expected), run.err.constData());
     }
-
-    void everyOperationAgainstDemoDaemon_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        // In this order: the daemon keeps its state from row to row. Arguments are split at blanks.
-        // clang-format off
-        for (const char *row : {
-                 "fetchVersion", "fetchAPIURLConfig", "setAPIURL https://api.tovra.invalid/",
-                 "resetAPIURL", "setAutoConnectPreference last", "fetchLanguageConfig",
-                 "setLanguage user de-DE", "setLanguageIfSource system fr-FR user",
-                 "checkUpdate 0.1.0+1", "login demo@tovra.invalid demo true", "fetchStatus",
-                 "fetchUser", "fetchPurchaseURL en", "fetchNodes false", "fetchNodes true",
-                 "setNodeFavorite 1001 true", "fetchNodeGroups", "fetchConfigPaths", "fetchKillSwitch",
-                 "setKillSwitchEnabled true", "setKillSwitchMode always", "setKillSwitchAllowLAN true",
-                 "setKillSwitchEnabled false", R"(setMode {"transport":"tovravpn","policy":"split"})",
-                 "setSystemProxyPreference on", "setLocalNetworkPreference protected",
-                 "setProxyLANPreference true", "setProxyListeners 127.0.0.1:1080 127.0.0.1:8080",
-                 "fetchSplitDNS", "setSplitDNSLocal 1.1.1.1,9.9.9.9", "setSplitDNSPolicy local",
-                 "clearSplitDNSLocal", "resetSplitDNS", "fetchSplitRules direct",
-                 "importSplitRules direct a.example\nb.example", "repairDiagnostics",
-                 "connectRuntime", "connectNode 1002", "connectSmart DE", "disconnectRuntime",
-                 "startGUIUpdateDownload 0.3.0 3000", "fetchGUIUpdateDownload",
-                 "cancelGUIUpdateDownload", "logout"})
-            QTest::newRow(QByteArray(row).left(48).constData()) << QString::fromUtf8(row).split(u' ');
-        // clang-format on
-    }
-
-    void everyOperationAgainstDemoDaemon()
-    {
-        QFETCH(QStringList, arguments);
-        if (!m_daemon.running())
-            QVERIFY2(m_daemon.start(), qPrintable(m_daemon.errorString()));
-        const Run run = runCtl(QStringList{u"--socket"_s, m_daemon.socketPath()} + arguments);
-        QVERIFY2(run.exitCode == 0, run.err.constData());
-        const QJsonObject record = QJsonDocument::fromJson(run.out).object();
-        QCOMPARE(record.value(QLatin1String("valid")).toBool(), true);
-    }
-
-private:
-    DemoDaemon m_daemon;
 };
 
 QTEST_GUILESS_MAIN(TestTovraCtl)

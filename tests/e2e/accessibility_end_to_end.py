@@ -126,10 +126,6 @@ def window():
     return top_level(pyatspi.ROLE_FRAME)
 
 
-def dialog():
-    return top_level(pyatspi.ROLE_DIALOG)
-
-
 def press_keys(*keys):
     subprocess.run(["xdotool", "key", "--clearmodifiers", *keys], check=True)
 
@@ -279,18 +275,16 @@ pump(lambda: checked(pyatspi.ROLE_RADIO_BUTTON, "Kill Switch mode: Always"), 8, 
 # Buttons are named by what they do, not by their row.
 act(find(window(), pyatspi.ROLE_PUSH_BUTTON, "Repair connection"), "Press")
 expect_request("POST /v1/vpn/repair", "Repair connection")
-if find(window(), pyatspi.ROLE_PUSH_BUTTON, "Open logs") is None:
-    fail("no button named \"Open logs\"")
 act(find(window(), pyatspi.ROLE_PUSH_BUTTON, "Check for updates"), "Press")
 expect_request("/v1/gui/update/check", "Check for updates")
 
 
 def check_dialog(title):
     """Every control of the dialog reached with Tab, and Escape closes it."""
-    if pump(lambda: dialog() is not None, 8, f"the {title}"):
-        check_page(title, dialog())
+    if pump(lambda: top_level(pyatspi.ROLE_DIALOG) is not None, 8, f"the {title}"):
+        check_page(title, top_level(pyatspi.ROLE_DIALOG))
         press_keys("Escape")
-        pump(lambda: dialog() is None, 5, f"Escape to close the {title}")
+        pump(lambda: top_level(pyatspi.ROLE_DIALOG) is None, 5, f"Escape to close the {title}")
 
 
 check_dialog("update dialog")  # the demo daemon offers an update

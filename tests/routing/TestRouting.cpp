@@ -64,18 +64,14 @@ private Q_SLOTS:
         QTest::addColumn<ModeInfo>("mode");
         QTest::addColumn<QString>("label");
         QTest::addColumn<bool>("proxySplit");
-        const char *tunnel = "TovraVPN Global";
         const char *tunnelSplit = "TovraVPN Split";
         const char *global = "Tovra Proxy Global";
         const char *split = "Tovra Proxy Split";
         // clang-format off
         QTest::addRow("auto") << mode("auto") << "Auto" << false;
-        QTest::addRow("tovravpn empty policy") << mode("tovravpn") << tunnel << false;
         QTest::addRow("tovravpn proxy-region")
             << mode("tovravpn", "proxy-region") << tunnelSplit << false;
-        QTest::addRow("tovravpn unknown word") << mode("tovravpn", "smart") << tunnel << false;
         QTest::addRow("capital Proxy is not proxy") << mode("Proxy", "split") << "Proxy" << false;
-        QTest::addRow("unknown transport as is") << mode("shadow") << "shadow" << false;
         QTest::addRow("proxy empty policy") << mode("proxy") << global << false;
         QTest::addRow("proxy gfwlist") << mode("proxy", "gfwlist") << split << true;
         QTest::addRow("word global")
@@ -120,7 +116,6 @@ private Q_SLOTS:
         QTest::addRow("tovravpn empty") << "tovravpn" << "" << false << false;
         QTest::addRow("tovravpn Split capital") << "tovravpn" << "Split" << false << false;
         QTest::addRow("proxy split is not tunnel") << "proxy" << "split" << false << false;
-        QTest::addRow("TovraVPN capital") << "TovraVPN" << "split" << false << false;
         // clang-format on
     }
 
@@ -146,7 +141,6 @@ private Q_SLOTS:
         QTest::addRow("gfwlist") << "gfwlist" << "" << profile("direct", {}, {}, true);
         QTest::addRow("bypass-region")
             << "bypass-region" << "cn, ir" << profile("proxy", {u"cn"_s, u"ir"_s});
-        QTest::addRow("direct-region") << "direct-region" << "cn" << profile("proxy", {u"cn"_s});
         QTest::addRow("proxy-region")
             << "proxy-region" << "us,,jp" << profile("direct", {}, {u"us"_s, u"jp"_s});
         QTest::addRow("empty is global") << "" << "" << profile("proxy");
@@ -259,12 +253,8 @@ private Q_SLOTS:
         QTest::addRow("no record") << record(false, true, lockdown, active) << u"Unavailable"_s;
         QTest::addRow("lockdown active, enabled")
             << record(true, true, lockdown, active) << u"Lockdown"_s;
-        QTest::addRow("lockdown, empty state")
-            << record(true, true, lockdown) << u"Lockdown unavailable"_s;
         QTest::addRow("lockdown, Active capital")
             << record(true, true, lockdown, u"Active"_s) << u"Lockdown unavailable"_s;
-        QTest::addRow("Lockdown capital is ordinary")
-            << record(true, true, u"Lockdown"_s, active) << u"On"_s;
         QTest::addRow("lockdown with blank")
             << record(true, false, u"lockdown "_s, active) << u"Off"_s;
         QTest::addRow("on") << record(true, true, u"auto"_s) << u"On"_s;

@@ -8,7 +8,7 @@
 
 namespace {
 
-enum class Answer { Accept, Alternate, Cancel, Escape, EnterKey, Close };
+enum class Answer { Accept, Alternate, Cancel, Escape, EnterKey };
 enum class Asked { VpnMode, Proxy };
 
 // Answers the next modal dialog once it is up, through its real buttons or keys; counts the
@@ -26,8 +26,6 @@ void answerNextDialog(Answer answer, int *buttons)
             *buttons += button->isHidden() ? 0 : 1;
         if (answer == Answer::Escape || answer == Answer::EnterKey) {
             QTest::keyClick(dialog, answer == Answer::Escape ? Qt::Key_Escape : Qt::Key_Return);
-        } else if (answer == Answer::Close) {
-            dialog->close();
         } else {
             QTest::mouseClick(answer == Answer::Accept      ? dialog->acceptButton()
                               : answer == Answer::Alternate ? dialog->alternateButton()
@@ -53,7 +51,6 @@ private Q_SLOTS:
         QTest::addRow("vpn mode: enter accepts") << Asked::VpnMode << Answer::EnterKey << 1;
         QTest::addRow("vpn mode: choose mode") << Asked::VpnMode << Answer::Alternate << 2;
         QTest::addRow("vpn mode: escape") << Asked::VpnMode << Answer::Escape << 0;
-        QTest::addRow("vpn mode: closed") << Asked::VpnMode << Answer::Close << 0;
         QTest::addRow("proxy: open settings") << Asked::Proxy << Answer::Accept << 1;
         QTest::addRow("proxy: cancel") << Asked::Proxy << Answer::Cancel << 0;
     }

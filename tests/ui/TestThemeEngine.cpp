@@ -47,9 +47,6 @@ void TestThemeEngine::renderedSheetIsComplete_data()
     QTest::addRow("light auto") << Appearance::Light << Qt::LayoutDirectionAuto << normal
                                 << QStringList();
     QTest::addRow("dark ltr") << Appearance::Dark << Qt::LeftToRight << normal << QStringList();
-    QTest::addRow("dark rtl") << Appearance::Dark << Qt::RightToLeft << normal << QStringList();
-    QTest::addRow("dark auto") << Appearance::Dark << Qt::LayoutDirectionAuto << normal
-                               << QStringList();
     // The strong variant widens the ring to 3px in the ring's own colour.
     QTest::addRow("high contrast light rtl")
         << Appearance::Light << Qt::RightToLeft << high
@@ -180,7 +177,6 @@ void TestThemeEngine::resolveAppearance_data()
     QTest::addRow("light over dark desktop") << "light" << D::Dark << light;
     QTest::addRow("dark over light desktop") << "dark" << D::Light << dark;
     QTest::addRow("system dark") << "system" << D::Dark << dark;
-    QTest::addRow("system light") << "system" << D::Light << light;
     QTest::addRow("system unknown is light") << "system" << D::Unknown << light;
     QTest::addRow("unknown preference follows desktop") << "Dark " << D::Dark << dark;
 }
@@ -201,7 +197,6 @@ void TestThemeEngine::pendingPrimaryActionKeepsItsColour_data()
     QTest::addRow("connect pending") << "connect" << true << ThemeColor::AccentStrong;
     QTest::addRow("connect idle") << "connect" << false << ThemeColor::Surface;
     QTest::addRow("disconnect pending") << "disconnect" << true << ThemeColor::Danger;
-    QTest::addRow("disconnect idle") << "disconnect" << false << ThemeColor::Surface;
 }
 
 void TestThemeEngine::pendingPrimaryActionKeepsItsColour()
@@ -237,7 +232,6 @@ void TestThemeEngine::sidebarIconTints_data()
     QTest::addRow("checked") << QIcon::Normal << QIcon::On << ThemeColor::SidebarSelectedText;
     QTest::addRow("checked hover") << QIcon::Active << QIcon::On << ThemeColor::SidebarSelectedText;
     QTest::addRow("disabled") << QIcon::Disabled << QIcon::Off << ThemeColor::DisabledText;
-    QTest::addRow("disabled checked") << QIcon::Disabled << QIcon::On << ThemeColor::DisabledText;
 }
 
 void TestThemeEngine::sidebarIconTints()

@@ -86,7 +86,7 @@ void ScriptedPeer::handleConnection(QLocalSocket *socket)
             complete = requestComplete(m_requests[slot]);
             for (const auto &[prefix, bytes] : std::as_const(m_routes)) {
                 if (m_requests[slot].startsWith(prefix))
-                    chosen = Reply{{Step{bytes, 0}}, Ending::Close};
+                    chosen = Reply{{Step{bytes, 0}}, Ending::Close, true};
             }
         }
         if (complete && !*answered) {
@@ -95,6 +95,10 @@ void ScriptedPeer::handleConnection(QLocalSocket *socket)
         }
     };
     connect(socket, &QLocalSocket::readyRead, socket, onData);
+    if (!reply.waitForRequest) {
+        *answered = true;
+        answer(socket, reply);
+    }
     if (socket->bytesAvailable() > 0)
         onData();
 }

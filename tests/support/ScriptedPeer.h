@@ -14,8 +14,8 @@ class QLocalServer;
 class QLocalSocket;
 
 // A daemon stand-in on a real Unix socket, served from its own thread so that blocking
-// exchanges on the test thread can talk to it. It records every request's exact bytes and,
-// once a request is whole, answers it with the next scripted reply (the last one repeats).
+// exchanges on the test thread can talk to it. It records every request's exact bytes and
+// answers each connection with the next scripted reply (the last one repeats).
 class ScriptedPeer : public QObject
 {
     Q_OBJECT
@@ -33,6 +33,7 @@ public:
     {
         QList<Step> steps;
         Ending ending = Ending::Close;
+        bool waitForRequest = true; // read the whole request before answering
     };
 
     ScriptedPeer();
@@ -45,7 +46,7 @@ public:
     // Whole reply written at once, then the connection closes.
     void setReply(const QByteArray &bytes)
     {
-        setReply(Reply{{Step{bytes, 0}}, Ending::Close});
+        setReply(Reply{{Step{bytes, 0}}, Ending::Close, true});
     }
 
     // Answers every request whose bytes begin with the prefix (such as "GET /v1/kill-switch ")

@@ -117,54 +117,13 @@ private Q_SLOTS:
         QCOMPARE(requested.count(), 2);
     }
 
-    void busyIndicatorsWaitForTheDelay()
-    {
-        Fixture f;
-        ModePage *mode = f.find<ModePage>();
-        f.window->setSettingsOperationBusy(true);
-        f.window->setModeOperationBusy(true);
-        f.window->setSettingsOperationBusy(false);
-        QVERIFY(!mode->isModeBusy());
-        // The mode indicator started later with the same delay; once it shows, the settings one
-        // would have shown too had its timer survived.
-        QTRY_VERIFY(mode->isModeBusy());
-        QVERIFY(!f.find<SettingsPage>()->isBusy());
-        QVERIFY(!mode->isSettingsBusy());
-        f.window->setModeOperationBusy(false);
-        QVERIFY(!mode->isModeBusy());
-    }
-
-    void pagesBuiltLate()
-    {
-        TempXdgDirs dirs;
-        AppState state;
-        GuiPreferences preferences;
-        MainWindow window(&state, &preferences);
-        // Until the window has painted, only the first page exists; a visit builds one at once.
-        QVERIFY(!window.findChild<ModePage *>());
-        window.showPage(MainWindow::SettingsPageIndex);
-        QVERIFY(window.findChild<SettingsPage *>());
-        QVERIFY(!window.findChild<ModePage *>());
-        window.setSplitRulesImportInProgress(true);
-        window.showPage(MainWindow::VpnPageIndex);
-
-        window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QTRY_VERIFY(window.findChild<ModePage *>());
-        // A page built late takes what the window was told before it existed.
-        QVERIFY(window.findChild<ModePage *>()->isSplitRulesImportInProgress());
-        QCOMPARE(window.findChildren<SettingsPage *>().size(), 1);
-    }
-
     void errorFallbacks_data()
     {
         QTest::addColumn<int>("report"); // 0 operation, 1 settings, 2 mode
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("shown");
-        QTest::addRow("operation, empty") << 0 << QString() << "Operation failed";
         QTest::addRow("operation, daemon text")
             << 0 << QStringLiteral("  node is offline \n") << "node is offline";
-        QTest::addRow("settings, empty") << 1 << QString() << "Settings operation failed";
         QTest::addRow("mode, empty") << 2 << QString() << "Mode operation failed";
     }
 
@@ -192,7 +151,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("stored");
         QTest::addColumn<Appearance>("effective");
         QTest::addColumn<int>("changes");
-        QTest::addRow("dark") << "dark" << false << "dark" << Appearance::Dark << 1;
         QTest::addRow("dark from settings page")
             << "dark" << true << "dark" << Appearance::Dark << 1;
         QTest::addRow("unknown means system")
@@ -235,8 +193,6 @@ private Q_SLOTS:
             ctrlR(Qt::CTRL | Qt::Key_R);
         QTest::addRow("Ctrl+2: Locations")
             << ctrl2 << 0 << 0 << 1 << "" << 0 << false << false << false;
-        QTest::addRow("find on VPN")
-            << find << 0 << 0 << 0 << "TovraVPNSearch" << 0 << false << false << false;
         QTest::addRow("find on Locations")
             << find << 1 << 0 << 1 << "TovraLocationsSearch" << 0 << false << false << false;
         QTest::addRow("find on Mode: nothing")
@@ -248,8 +204,6 @@ private Q_SLOTS:
                             << true << false << false;
         QTest::addRow("Ctrl+Q") << QKeySequence(Qt::CTRL | Qt::Key_Q) << 0 << 0 << 0 << "" << 0
                                 << false << true << false;
-        QTest::addRow("Ctrl+W") << QKeySequence(QKeySequence::Close) << 0 << 0 << 0 << "" << 0
-                                << false << false << true;
     }
 
     void shortcuts()

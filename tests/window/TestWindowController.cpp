@@ -52,7 +52,6 @@ private Q_SLOTS:
         QTest::addColumn<QByteArray>("slot");
         QTest::addColumn<int>("page");
         QTest::addColumn<bool>("minimised");
-        QTest::addRow("showOrRaise") << QByteArray("showOrRaise") << 0 << false;
         QTest::addRow("showOrRaise, minimised") << QByteArray("showOrRaise") << 0 << true;
         QTest::addRow("showAccount") << QByteArray("showAccount") << 4 << false;
         QTest::addRow("showLocations") << QByteArray("showLocations") << 1 << false;
@@ -201,16 +200,8 @@ private Q_SLOTS:
         QCOMPARE(f.notification(), notification);
     }
 
-    void appearanceThemesUpdateDialog_data()
-    {
-        QTest::addColumn<bool>("withWindow");
-        QTest::addRow("no window") << false;
-        QTest::addRow("window open") << true;
-    }
-
     void appearanceThemesUpdateDialog()
     {
-        QFETCH(bool, withWindow);
         const auto background = [](Appearance appearance) {
             return ThemeEngine::buildColors(appearance).color(ThemeColor::WindowBg);
         };
@@ -218,9 +209,6 @@ private Q_SLOTS:
         QDialog dialog;
         f.controller.setUpdateDialog(&dialog);
         QCOMPARE(dialog.palette().color(QPalette::Window), background(Appearance::Light));
-        if (withWindow) {
-            f.controller.showOrRaise();
-        }
         f.controller.setAppearancePreference(QStringLiteral("dark"));
         QCOMPARE(f.preferences.appearance(), QStringLiteral("dark"));
         QCOMPARE(dialog.palette().color(QPalette::Window), background(Appearance::Dark));

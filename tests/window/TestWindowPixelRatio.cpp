@@ -1,8 +1,5 @@
-#include "AppState.h"
-#include "GuiPreferences.h"
-#include "MainWindow.h"
 #include "PixelRatioWatch.h"
-#include "TempXdgDirs.h"
+#include "WindowFixture.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -31,11 +28,8 @@ void TestWindowPixelRatio::iconsFollowTheScreen()
             right = screen;
     }
     QVERIFY(middle && right);
-    TempXdgDirs dirs;
-    AppState state;
-    GuiPreferences preferences;
-    MainWindow window(&state, &preferences);
-    window.show();
+    WindowFixture f;
+    MainWindow &window = *f.show();
     QVERIFY(QTest::qWaitForWindowExposed(&window));
     auto *watch = window.findChild<PixelRatioWatch *>();
     QSignalSpy changes(watch, &PixelRatioWatch::changed);

@@ -89,25 +89,25 @@ private Q_SLOTS:
         QCOMPARE(imports.at(0).at(1).toString(), u"# work sites\nexample.org\n\n203.0.113.0/24"_s);
     }
 
-    void tenThousandLines()
+    void manyBadLines()
     {
         QStringList lines;
-        for (int i = 0; i < 10000; ++i)
+        for (int i = 0; i < 60; ++i)
             lines.append(u"host%1.example.org"_s.arg(i));
         lines[41] = u"bad line one"_s;
-        lines[9998] = u"bad line two"_s;
-        for (int i = 5000; i < 5020; ++i)
+        lines[58] = u"bad line two"_s;
+        for (int i = 45; i < 55; ++i)
             lines[i] = u"nope"_s;
         TovraSplitRulesEditorDialog dialog;
         dialog.setRules(rules(kDemoRules));
         dialog.editor()->setPlainText(lines.join(u'\n'));
-        QTRY_VERIFY(dialog.statusLabel()->text().startsWith(u"Rules: 10000 \u00b7 Lines: 10000"_s));
+        QTRY_VERIFY(dialog.statusLabel()->text().startsWith(u"Rules: 60 \u00b7 Lines: 60"_s));
         QTest::mouseClick(dialog.importButton(), Qt::LeftButton);
         // The first bad lines, then how many more.
         const QString listed = dialog.problemsLabel()->text();
         QVERIFY(listed.contains(u"Line 42:"_s));
-        QVERIFY(!listed.contains(u"Line 9999:"_s));
-        QVERIFY2(listed.contains(u"Bad lines in all: 22."_s), qPrintable(listed));
+        QVERIFY(!listed.contains(u"Line 59:"_s));
+        QVERIFY2(listed.contains(u"Bad lines in all: 12."_s), qPrintable(listed));
     }
 
     void kindsFromTheRecordAndEditsSurviveASwitch()

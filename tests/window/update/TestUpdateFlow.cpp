@@ -63,12 +63,10 @@ private Q_SLOTS:
     void offerDownloadsAndOpensTheVerifiedInstaller()
     {
         QFETCH(QStringList, daemonArguments);
-        QVERIFY(startShell(daemonArguments));
+        QVERIFY(offer(daemonArguments));
         QStringList states;
         connect(m_shell->updateFlow(), &UpdateFlow::downloadChanged, this,
                 [&states](const GUIUpdateDownloadInfo &info) { states << info.state; });
-        m_shell->checkSettingsUpdate();
-        QTRY_VERIFY(dialog()->isVisible());
         QCOMPARE(dialog()->phase(), UpdateDialog::Phase::Offer);
         QCOMPARE(m_preferences->updateBookkeeping(kGuiVersion).lastNotifiedVersionNum, 3000);
 
@@ -105,27 +103,9 @@ private Q_SLOTS:
         QCOMPARE(m_opened.constLast(), m_opened.constFirst());
     }
 
-    // Pressed while a check runs, the dialog steps aside: the word that the download waits for the
-    // check is said in the window.
-    void backgroundDuringCheckTellsTheWindow()
-    {
-        QVERIFY(startShell());
-        m_shell->checkSettingsUpdate();
-        QTRY_VERIFY(dialog()->isVisible());
-        m_shell->updateFlow()->check(false);
-        button("TovraUpdateBackground")->click();
-        QVERIFY(!dialog()->isVisible());
-        QCOMPARE(
-            m_shell->notifier()->lastText(),
-            QStringLiteral("Finishing the latest update check before starting the download..."));
-        QTRY_COMPARE_WITH_TIMEOUT(m_opened.size(), 1, kDownloadWaitMs);
-    }
-
     void cancelMidDownload()
     {
-        QVERIFY(startShell());
-        m_shell->checkSettingsUpdate();
-        QTRY_VERIFY(dialog()->isVisible());
+        QVERIFY(offer());
         button("TovraUpdateDownload")->click();
         QTRY_COMPARE(dialog()->phase(), UpdateDialog::Phase::Downloading);
         button("TovraUpdateCancel")->click();
@@ -145,9 +125,7 @@ private Q_SLOTS:
     {
         // Every answer waits 1.5 s: the first poll sees bytes moving, and by the time the daemon
         // reads the cancel sent right then, the download has completed.
-        QVERIFY(startShell({QStringLiteral("--latency"), QStringLiteral("1500")}));
-        m_shell->checkSettingsUpdate();
-        QTRY_VERIFY_WITH_TIMEOUT(dialog()->isVisible(), 10000);
+        QVERIFY(offer({QStringLiteral("--latency"), QStringLiteral("1500")}));
         bool canceled = false;
         connect(m_shell->updateFlow(), &UpdateFlow::downloadChanged, this,
                 [&](const GUIUpdateDownloadInfo &info) {
@@ -172,9 +150,7 @@ private Q_SLOTS:
 
     void staleOfferFailsThenRetryChecksAgain()
     {
-        QVERIFY(startShell());
-        m_shell->checkSettingsUpdate();
-        QTRY_VERIFY(dialog()->isVisible());
+        QVERIFY(offer());
         // The offer in hand is older than the daemon's release.
         UpdateInfo stale = m_shell->state()->update();
         stale.versionCode = QStringLiteral("0.2.9");
@@ -198,10 +174,7 @@ private Q_SLOTS:
 
     void missingDownloadEndpointOffersTheLink()
     {
-        QVERIFY(
-            startShell({QStringLiteral("--fail"), QStringLiteral("/v1/gui/update/download=404")}));
-        m_shell->checkSettingsUpdate();
-        QTRY_VERIFY(dialog()->isVisible());
+        QVERIFY(offer({QStringLiteral("--fail"), QStringLiteral("/v1/gui/update/download=404")}));
         button("TovraUpdateDownload")->click();
         QTRY_COMPARE(dialog()->phase(), UpdateDialog::Phase::Failed);
         QCOMPARE(dialog()->messageText(), QStringLiteral("Could not start the update download"));
@@ -258,11 +231,14 @@ private Q_SLOTS:
 
     void daemonGoneMidDownloadStopsPollingThenRecovers()
     {
-        QVERIFY(startShell());
-        m_shell->checkSettingsUpdate();
-        QTRY_VERIFY(dialog()->isVisible());
+        QVERIFY(offer());
+        // Pressed while a check runs, the dialog steps aside and the window says what waits.
+        m_shell->updateFlow()->check(false);
         button("TovraUpdateBackground")->click();
         QVERIFY(!dialog()->isVisible());
+        QCOMPARE(
+            m_shell->notifier()->lastText(),
+            QStringLiteral("Finishing the latest update check before starting the download..."));
         QTRY_COMPARE(dialog()->phase(), UpdateDialog::Phase::Downloading);
         QVERIFY(m_daemon->stop());
 
@@ -382,6 +358,14 @@ private:
         m_shell->updateFlow()->setClock([this] { return m_now; });
         m_shell->start();
         return true;
+    }
+    // The shell on a fresh demo daemon with the offer on screen, asked for from Settings.
+    bool offer(const QStringList &daemonArguments = {})
+    {
+        if (!startShell(daemonArguments))
+            return false;
+        m_shell->checkSettingsUpdate();
+        return QTest::qWaitFor([this] { return dialog()->isVisible(); }, 10000);
     }
     UpdateDialog *dialog() const { return m_shell->windowController()->updateDialog(); }
     QPushButton *button(const char *name) const

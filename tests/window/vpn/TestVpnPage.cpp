@@ -3,7 +3,6 @@
 #include "CatalogFixture.h"
 #include "ControlMetaTypes.h"
 #include "GuiPreferences.h"
-#include "QuickEntryField.h"
 #include "RecentActivityStore.h"
 #include "TempXdgDirs.h"
 #include "ToggleSwitch.h"
@@ -84,7 +83,6 @@ private Q_SLOTS:
     void states_data()
     {
         QTest::addColumn<QByteArray>("extra");
-        QTest::addColumn<QString>("unavailable");
         QTest::addColumn<QString>("pendingLabel");
         QTest::addColumn<QStringList>("expected"); // dot, title, detail, location, primary
         QTest::addColumn<QByteArray>("intent");    // of a click on the primary button
@@ -93,41 +91,29 @@ private Q_SLOTS:
             << QByteArray(R"("tunnel_state": "connected", "connected_since": "2026-01-01T10:00:00Z",
                  "connected_node": {"id": 1004, "region": "DE", "name": "Berlin 01"},
                  "kill_switch": {"enabled": true, "mode": "auto", "guard": "active"})")
-            << QString() << QString()
+            << QString()
             << texts({"connected", "Connected", "Your traffic goes through the Tovra tunnel.",
                       "Germany \u00b7 Berlin 01", "Disconnect"})
             << QByteArray(SIGNAL(disconnectRuntimeRequested())) << true;
         QTest::addRow("connecting with a target")
-            << QByteArray() << QString() << "Japan"
+            << QByteArray() << "Japan"
             << texts({"disconnected", "Connecting\u2026", "Connecting to Japan", "", "Cancel"})
             << QByteArray(SIGNAL(cancelConnectRequested())) << true;
-        QTest::addRow("daemon connecting by itself")
-            << QByteArray(R"("tunnel_state": "connecting",
-                 "connected_node": {"id": 1018, "region": "JP", "name": "Tokyo 01"})")
-            << QString() << QString()
-            << texts({"disconnected", "Connecting\u2026", "Connecting to Japan \u00b7 Tokyo 01",
-                      "Japan \u00b7 Tokyo 01", "Cancel"})
-            << QByteArray(SIGNAL(disconnectRuntimeRequested())) << true;
         QTest::addRow("disconnecting")
-            << QByteArray(R"("tunnel_state": "disconnecting")") << QString() << QString()
+            << QByteArray(R"("tunnel_state": "disconnecting")") << QString()
             << texts({"disconnected", "Disconnecting\u2026", "Closing the tunnel.", "",
                       "Disconnecting\u2026"})
             << QByteArray() << false;
         QTest::addRow("disconnected, kill switch guarding")
             << QByteArray(
                    R"("kill_switch": {"enabled": true, "mode": "always", "guard": "active"})")
-            << QString() << QString()
+            << QString()
             << texts({"disconnected", "Disconnected",
                       "Kill Switch blocks traffic until you connect.",
                       "Germany \u00b7 Frankfurt 01", "Connect"})
             << QByteArray(SIGNAL(connectRuntimeRequested())) << true;
-        QTest::addRow("daemon unavailable")
-            << QByteArray() << "Tovra daemon is not running." << QString()
-            << texts({"unavailable", "Service unavailable", "Tovra daemon is not running.", "",
-                      "Connect"})
-            << QByteArray() << false;
         QTest::addRow("signed out")
-            << QByteArray(R"("auth_state": "logged_out")") << QString() << QString()
+            << QByteArray(R"("auth_state": "logged_out")") << QString()
             << texts({"disconnected", "Signed out", "Sign in to your Tovra account to connect.", "",
                       "Sign In"})
             << QByteArray(SIGNAL(accountPageRequested())) << true;
@@ -135,14 +121,12 @@ private Q_SLOTS:
     void states()
     {
         QFETCH(QByteArray, extra);
-        QFETCH(QString, unavailable);
         QFETCH(QString, pendingLabel);
         QFETCH(QStringList, expected);
         QFETCH(QByteArray, intent);
         QFETCH(bool, enabled);
         Fixture f;
         loadCatalogue(f.state);
-        f.page.setDaemonUnavailableReason(unavailable);
         if (!pendingLabel.isEmpty())
             f.page.setConnectInProgress(true, QStringLiteral("country:jp"), pendingLabel);
         f.apply(status(extra));
@@ -216,44 +200,6 @@ private Q_SLOTS:
         QCOMPARE(lines, spoken);
     }
 
-    // Through the page with the real catalogue: the target is named, then connected.
-    void quickEntryConnects_data()
-    {
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<int>("downs");
-        QTest::addColumn<QByteArray>("intent");
-        QTest::addColumn<QVariantList>("pending");
-        QTest::addRow("a country")
-            << "germany" << 0 << QByteArray(SIGNAL(connectSmartRequested(QString)))
-            << QVariantList{QStringLiteral("country:de"), QStringLiteral("Germany")};
-        QTest::addRow("a node") << "tokyo" << 1
-                                << QByteArray(SIGNAL(connectNodeRequested(QString, QString)))
-                                << QVariantList{QStringLiteral("1018"), QStringLiteral("Tokyo 01")};
-    }
-    void quickEntryConnects()
-    {
-        QFETCH(QString, typed);
-        QFETCH(int, downs);
-        QFETCH(QByteArray, intent);
-        QFETCH(QVariantList, pending);
-        Fixture f;
-        loadCatalogue(f.state);
-        f.apply(status({}));
-        QSignalSpy named(&f.page, &VpnPage::pendingConnectTargetChanged);
-        QSignalSpy connects(&f.page, intent.constData());
-        QuickEntryField *field = f.page.quickEntry();
-        QTest::keyClicks(field, typed);
-        QTRY_VERIFY(!field->isSearchPending());
-        for (int i = 0; i < downs; ++i)
-            QTest::keyClick(field, Qt::Key_Down);
-        QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(named.size(), 1);
-        QCOMPARE(named.first(), pending);
-        QCOMPARE(connects.size(), 1);
-        QCOMPARE(connects.first().first(), pending.first());
-        QVERIFY(!f.page.isQuickEntryPopupOpen());
-    }
-
     // A location the shell records shows at once; Clear empties the list and says so.
     void recentLocations()
     {
@@ -267,8 +213,10 @@ private Q_SLOTS:
         QCOMPARE(card->rows().first()->text(), QStringLiteral("Japan \u00b7 Tokyo 01"));
 
         QSignalSpy cleared(&f.page, &VpnPage::recentConnectionsCleared);
+        QSignalSpy named(&f.page, &VpnPage::pendingConnectTargetChanged);
         QSignalSpy connects(&f.page, &VpnPage::connectNodeRequested);
         QTest::mouseClick(card->rows().first(), Qt::LeftButton);
+        QCOMPARE(named.size(), 1);
         QCOMPARE(connects.size(), 1);
         QCOMPARE(connects.first().first().toString(), QStringLiteral("1100"));
         QTest::mouseClick(card->clearButton(), Qt::LeftButton);

@@ -27,7 +27,6 @@ private Q_SLOTS:
         QTest::addRow("zh_TW") << u"zh_TW"_s << u"zh-Hant"_s;
         QTest::addRow("zh-hant script") << u"ZH-HANT"_s << u"zh-Hant"_s;
         QTest::addRow("zh-HK regional") << u"zh_hk"_s << u"zh-HK"_s;
-        QTest::addRow("de-DE drops region") << u"de-DE"_s << u"de"_s;
         QTest::addRow("de-CH keeps region") << u"de_ch"_s << u"de-CH"_s;
         QTest::addRow("es-419 stays") << u"es-419"_s << u"es-419"_s;
         QTest::addRow("blanks and underscores") << u"  fr__CA  "_s << u"fr-CA"_s;

@@ -17,8 +17,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
-// The shell against the real demo daemon: the flows that break in practice. (An incompatible or
-// vanished daemon, and the way back, run through the real client in the fault matrix.)
+// The shell against the real demo daemon: the flows that break in practice. (An incompatible
+// daemon, and one that goes away, run through the real client in the fault matrix.)
 class TestTovraAppShell : public QObject
 {
     Q_OBJECT
@@ -42,8 +42,23 @@ private Q_SLOTS:
         // Without a tray the window is the way in: shown at start, and closing it quits.
         QVERIFY(shell.windowController()->window() &&
                 shell.windowController()->window()->isVisible());
-        // The tray's own status poll fills the store.
+    }
+
+    void daemonAwayThenBack()
+    {
+        DemoDaemon daemon;
+        TovraAppShell shell(nullptr, daemon.socketPath());
+        shell.setSystemTrayAvailable(false);
+        shell.start();
+        // An unreachable daemon is never called incompatible: the tray stays usable for retries.
+        QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::CompatibilityUnknown);
+        QCOMPARE(shell.notifier()->lastText(), QStringLiteral("Tovra daemon is not running."));
+        QVERIFY(shell.tray()->isControlAvailable());
+
+        QVERIFY2(daemon.start(), qPrintable(daemon.errorString()));
+        shell.tray()->refreshStatus();
         QTRY_VERIFY(shell.state()->runtime().valid);
+        QTRY_COMPARE(shell.compatibilityState(), TovraAppShell::Compatible);
     }
 
     void newerDisconnectSupersedesConnect()

@@ -125,19 +125,6 @@ private Q_SLOTS:
         QCOMPARE(m_tray->trayIcon()->toolTip(), u"Tovra"_s);
     }
 
-    void daemonUnavailableWithEmptyError()
-    {
-        // The status request stays unanswered, so the answer below is the one the tray awaits.
-        m_peer->setReply(ScriptedPeer::Reply{{}, ScriptedPeer::Ending::KeepOpen, true});
-        m_peer->setReplyForRequest("GET /v1/kill-switch ", ScriptedPeer::response(404, "no"));
-        m_tray->start();
-        QTRY_COMPARE(sent("GET /v1/status ").size(), 1);
-        // The tray numbers its requests from 1, below the shell's: the kill switch took 1 at start.
-        Q_EMIT m_worker->statusFinished(2, RuntimeInfo(), QString());
-        QCOMPARE(m_tray->menu().statusLine->text(), u"Tovra: daemon unavailable"_s);
-        QCOMPARE(m_tray->menu().daemonLine->text(), u"daemon unavailable"_s);
-    }
-
     void staleStatusAnswerDropped()
     {
         startWith(plainStatus("disconnected"));

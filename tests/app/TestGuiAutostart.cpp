@@ -32,9 +32,10 @@ private Q_SLOTS:
     void enableWritesPrivateEntry()
     {
         // An entry of an older install is replaced, through an atomic save that leaves no
-        // temporary file behind.
+        // temporary file behind. Inside the Exec line's double quotes \ " ` $ take a backslash.
         QVERIFY(GuiAutostart({}, u"/old/place/tovra"_s).reconcile(true, nullptr));
-        const GuiAutostart autostart({}, u"/opt/tovra/bin/tovra"_s);
+        const QString path = u"/home/zo\u00eb/My \"Apps\"/$d/`e`/f\\g/tovra"_s;
+        const GuiAutostart autostart({}, path);
         QString error;
         QVERIFY(autostart.reconcile(true, &error));
         QCOMPARE(error, QString());
@@ -43,8 +44,9 @@ private Q_SLOTS:
                             "Type=Application\n"
                             "Name=Tovra VPN\n"
                             "Comment=Start Tovra VPN in the desktop session\n"
-                            "Exec=\"/opt/tovra/bin/tovra\" --tovra-autostart\n"
-                            "TryExec=/opt/tovra/bin/tovra\n"
+                            "Exec=\"/home/zo\xc3\xab/My \\\"Apps\\\"/\\$d/\\`e\\`/f\\\\g/tovra\" "
+                            "--tovra-autostart\n"
+                            "TryExec=/home/zo\xc3\xab/My \"Apps\"/$d/`e`/f\\g/tovra\n"
                             "Icon=com.tovra.vpn\n"
                             "Terminal=false\n"
                             "NoDisplay=true\n"
@@ -57,37 +59,11 @@ private Q_SLOTS:
                  QFileDevice::ReadOwner | QFileDevice::WriteOwner);
     }
 
-    void execLine_data()
-    {
-        QTest::addColumn<QString>("path");
-        QTest::addColumn<QByteArray>("exec"); // inside double quotes, \ " ` $ take a backslash
-        QTest::addRow("space") << u"/home/ann/My Apps/tovra"_s
-                               << QByteArray("\"/home/ann/My Apps/tovra\"");
-        QTest::addRow("shell characters")
-            << u"/tmp/a b/\"c\"/$d/`e`/f\\g"_s
-            << QByteArray("\"/tmp/a b/\\\"c\\\"/\\$d/\\`e\\`/f\\\\g\"");
-        QTest::addRow("non-ascii")
-            << u"/home/zoë/tovra"_s << QByteArray("\"/home/zo\xc3\xab/tovra\"");
-    }
-
-    void execLine()
-    {
-        QFETCH(QString, path);
-        QFETCH(QByteArray, exec);
-        const GuiAutostart autostart({}, path);
-        QVERIFY(autostart.reconcile(true, nullptr));
-        const QByteArray contents = readFile(autostart.entryPath());
-        const QByteArray lines =
-            "\nExec=" + exec + " --tovra-autostart\nTryExec=" + path.toUtf8() + '\n';
-        QVERIFY2(contents.contains(lines), contents.constData());
-    }
-
     void configDirectory_data()
     {
         QTest::addColumn<QString>("explicitDir");
         QTest::addColumn<QString>("xdgConfigHome");
         QTest::addColumn<QString>("expectedDir"); // relative to the temporary root
-        QTest::addRow("XDG_CONFIG_HOME") << u""_s << u"xdg"_s << u"xdg"_s;
         QTest::addRow("XDG_CONFIG_HOME cleaned") << u""_s << u" xdg//sub/../ "_s << u"xdg"_s;
         QTest::addRow("explicit wins") << u" given/ "_s << u"xdg"_s << u"given"_s;
     }

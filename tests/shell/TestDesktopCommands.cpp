@@ -111,9 +111,6 @@ private Q_SLOTS:
         QTest::addRow("signed out") << "" << true << QStringList{u"--toggle-connection"_s} << 5
                                     << "tovra: sign in to Tovra before connecting"
                                     << "-";
-        QTest::addRow("disconnect while down")
-            << "demo" << true << QStringList{u"--disconnect"_s} << 0 << ""
-            << "-";
         QTest::addRow("two actions")
             << "demo" << false << QStringList{u"--connect"_s, u"--disconnect"_s} << 2
             << "tovra: give only one of --connect, --disconnect"

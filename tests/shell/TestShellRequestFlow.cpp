@@ -54,28 +54,6 @@ private Q_SLOTS:
                  QStringLiteral("second"));
     }
 
-    void languageSyncBacksOffWithoutStatus()
-    {
-        // The daemon answers status requests with errors only; each failed answer reaches the sync
-        // check, and the retries back off while no status is held.
-        m_peer->setReply(ScriptedPeer::response(503, R"({"error":"daemon starting"})"));
-        LanguageFlow *language = m_shell->languageFlow();
-        ControlWorker *worker = m_shell->workers()->control();
-        const auto askStatus = [&] {
-            const quint64 id = m_shell->ledger()->issue(RequestLedger::Kind::Status);
-            QMetaObject::invokeMethod(worker, "fetchStatus", Qt::QueuedConnection,
-                                      Q_ARG(quint64, id), Q_ARG(int, 3000));
-        };
-        askStatus();
-        QTRY_VERIFY(language->retryTimerActive());
-        QCOMPARE(language->retryTimerIntervalMs(), 1000);
-        // Further answers leave the pending retry as it is; the retries themselves back off.
-        askStatus();
-        QTRY_COMPARE_WITH_TIMEOUT(language->retryTimerIntervalMs(), 2000, 3000);
-        QTRY_COMPARE_WITH_TIMEOUT(language->retryTimerIntervalMs(), 4000, 5000);
-        QVERIFY(!m_shell->state()->runtime().valid);
-    }
-
     void languageSyncSendsDesktopLanguage_data()
     {
         QTest::addColumn<QString>("source");

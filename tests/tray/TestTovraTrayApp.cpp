@@ -118,6 +118,21 @@ private Q_SLOTS:
         QCOMPARE(m_tray->trayIcon()->toolTip(), u"Tovra - daemon unavailable"_s);
     }
 
+    void staleStatusAnswerDropped()
+    {
+        startWith(plainStatus("disconnected"));
+        QSignalSpy changes(m_state.get(), &AppState::runtimeChanged);
+        m_peer->setReply(plainStatus("connected"));
+        // An answer to someone else's status request (the shell's number) is not the tray's.
+        fetchStatusAsShell(kShellId);
+        QCOMPARE(m_tray->menu().statusLine->text(), u"Tovra: disconnected"_s);
+        QCOMPARE(changes.count(), 0);
+
+        m_tray->refreshStatus();
+        QTRY_COMPARE(m_tray->menu().statusLine->text(), u"Tovra: connected"_s);
+        QCOMPARE(changes.count(), 1);
+    }
+
     void statusHeldWhileMenuOpen()
     {
         startWith(plainStatus("disconnected"));

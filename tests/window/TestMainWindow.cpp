@@ -119,12 +119,12 @@ private Q_SLOTS:
 
     void errorFallbacks_data()
     {
-        QTest::addColumn<int>("report"); // 0 operation, 1 settings, 2 mode
+        QTest::addColumn<int>("report"); // 0 operation, 1 mode
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("shown");
         QTest::addRow("operation, daemon text")
             << 0 << QStringLiteral("  node is offline \n") << "node is offline";
-        QTest::addRow("mode, empty") << 2 << QString() << "Mode operation failed";
+        QTest::addRow("mode, empty") << 1 << QString() << "Mode operation failed";
     }
 
     void errorFallbacks()
@@ -135,7 +135,6 @@ private Q_SLOTS:
         Fixture f;
         f.window->show();
         const std::array reports = {&MainWindow::showOperationError,
-                                    &MainWindow::showSettingsOperationError,
                                     &MainWindow::showModeOperationError};
         (f.window->*reports.at(report))(message);
         QVERIFY(f.host()->isVisible());

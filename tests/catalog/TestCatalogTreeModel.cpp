@@ -229,7 +229,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("sendTabs");
         QTest::addColumn<int>("nodes");
         QTest::addRow("all") << u"all"_s << true << 22;
-        QTest::addRow("none chosen") << QString() << true << 22;
         QTest::addRow("free by the daemon's ids") << u"free"_s << true << 5;
         QTest::addRow("svip by the daemon's ids") << u"SVIP"_s << true << 17;
         QTest::addRow("free without the daemon's tab") << u"free"_s << false << 5;

@@ -52,7 +52,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("password");
         QTest::addColumn<QString>("error");
         const QString wrong = u"Incorrect email or password."_s;
-        QTest::addRow("svip account") << DemoUser << Password << QString();
         QTest::addRow("user name in capitals") << DemoUser.toUpper() << Password << QString();
         QTest::addRow("unknown account") << u"who@tovra.invalid"_s << Password << wrong;
         QTest::addRow("empty user") << QString() << Password << u"Enter account and password."_s;
@@ -259,21 +258,6 @@ private Q_SLOTS:
         QTEST(info.language, "language");
         QCOMPARE(info.effectiveLanguage, effective);
         QCOMPARE(E::fetchStatus(socket(), Timeout).effectiveLanguage, effective);
-    }
-
-    // The download itself, its file and cancel are driven end to end by TestUpdateFlow; here only
-    // what no flow reaches: an offer the daemon no longer holds.
-    void updateDownloadRefusesOtherRelease()
-    {
-        QString error;
-        const UpdateInfo offer =
-            E::checkUpdate(socket(), QStringLiteral(TOVRA_VERSION), Timeout, &error);
-        QVERIFY(offer.updateAvailable);
-        QCOMPARE(QUrl(offer.artifactURL).host(), QStringLiteral(TOVRA_VENDOR_HOST));
-        const GUIUpdateDownloadInfo mismatch =
-            E::startGUIUpdateDownload(socket(), QStringLiteral(TOVRA_VERSION), 42, Timeout, &error);
-        QCOMPARE(mismatch.state, u"failed"_s);
-        QCOMPARE(mismatch.errorCode, u"release_mismatch"_s);
     }
 
 private:

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
 # End to end: the demo daemon, a real X server (Xvfb) with a tray host (trayer), and the client.
 # Checks that the tray icon appears, that "Connect" in the tray menu connects and turns the icon
-# green, and that a click opens the window; cuts the AppStream picture of the menu. (Quit from the
-# menu, and the menu after a host restart: tray_hosts.sh.)
+# green, and that a click opens the window; cuts the AppStream pictures of the menu and the window.
+# (The same through a StatusNotifierItem host: wayland_end_to_end.sh; Quit from the menu, and the
+# menu after a host restart: tray_hosts.sh.)
 # Usage: tray_end_to_end.sh CLIENT DAEMON CTL GRAB SCREENSHOT_DIR
 set -euo pipefail
 client=$1 daemon=$2 ctl=$3 grab=$4 shots=$5
@@ -47,4 +48,6 @@ xdo key Escape
 locate_icon || fail "the icon went away"
 xdo mousemove "$icon_x" "$icon_y" click 1
 wait_for 10 window_visible || fail "a click on the tray icon did not open the window"
-echo "end-to-end: icon shown, connected through the menu, window opened; picture in $shots"
+"$grab" "$shots/appstream-window.png" "$win_x" "$win_y" "$win_w" "$win_h" \
+    || fail "could not take the AppStream window picture"
+echo "end-to-end: icon shown, connected through the menu, window opened; pictures in $shots"

@@ -45,7 +45,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("ping");
         QTest::addColumn<int>("bars");
         QTest::addRow("unknown") << -1 << -1 << 0;
-        QTest::addRow("measured zero") << -1 << 0 << 4;
         QTest::addRow("fast") << -1 << 79 << 4;
         QTest::addRow("good") << -1 << 80 << 3;
         QTest::addRow("fair") << -1 << 150 << 2;
@@ -104,7 +103,6 @@ private Q_SLOTS:
     {
         QTest::addColumn<Qt::LayoutDirection>("direction");
         QTest::addColumn<bool>("favorite");
-        QTest::addRow("ltr add") << Qt::LeftToRight << false;
         QTest::addRow("ltr remove") << Qt::LeftToRight << true;
         QTest::addRow("rtl add") << Qt::RightToLeft << false;
     }

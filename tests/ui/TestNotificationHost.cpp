@@ -82,7 +82,6 @@ private Q_SLOTS:
         QTest::addColumn<int>("previous");
         QTest::addColumn<int>("duration");
         QTest::addColumn<bool>("timed");
-        QTest::addRow("timed") << 0 << 30 << true;
         QTest::addRow("zero stays") << 0 << 0 << false;
         QTest::addRow("negative stops earlier timer") << 50 << -5 << false;
         QTest::addRow("shorter restarts long timer") << 3600000 << 40 << true;

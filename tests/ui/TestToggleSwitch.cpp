@@ -35,7 +35,6 @@ private Q_SLOTS:
         QTest::addColumn<bool>("checked");
         QTest::addColumn<int>("input");
         QTest::addRow("mouse on unchecked") << false << 0;
-        QTest::addRow("space") << false << int(Qt::Key_Space);
         QTest::addRow("return") << true << int(Qt::Key_Return);
     }
 

@@ -119,12 +119,12 @@ private Q_SLOTS:
 
     void errorFallbacks_data()
     {
-        QTest::addColumn<int>("report"); // 0 operation, 1 settings, 2 mode
+        QTest::addColumn<int>("report"); // 0 operation, 1 mode
         QTest::addColumn<QString>("message");
         QTest::addColumn<QString>("shown");
         QTest::addRow("operation, daemon text")
             << 0 << QStringLiteral("  node is offline \n") << "node is offline";
-        QTest::addRow("mode, empty") << 2 << QString() << "Mode operation failed";
+        QTest::addRow("mode, empty") << 1 << QString() << "Mode operation failed";
     }
 
     void errorFallbacks()
@@ -135,7 +135,6 @@ private Q_SLOTS:
         Fixture f;
         f.window->show();
         const std::array reports = {&MainWindow::showOperationError,
-                                    &MainWindow::showSettingsOperationError,
                                     &MainWindow::showModeOperationError};
         (f.window->*reports.at(report))(message);
         QVERIFY(f.host()->isVisible());
@@ -188,22 +187,19 @@ private Q_SLOTS:
         QTest::addColumn<int>("refreshes"); // refreshLocationsRequested
         QTest::addColumn<bool>("shortcutsShown");
         QTest::addColumn<bool>("quits");
-        QTest::addColumn<bool>("hidden");
         const QKeySequence ctrl2(Qt::CTRL | Qt::Key_2), find(QKeySequence::Find),
             ctrlR(Qt::CTRL | Qt::Key_R);
-        QTest::addRow("Ctrl+2: Locations")
-            << ctrl2 << 0 << 0 << 1 << "" << 0 << false << false << false;
+        QTest::addRow("Ctrl+2: Locations") << ctrl2 << 0 << 0 << 1 << "" << 0 << false << false;
         QTest::addRow("find on Locations")
-            << find << 1 << 0 << 1 << "TovraLocationsSearch" << 0 << false << false << false;
-        QTest::addRow("find on Mode: nothing")
-            << find << 2 << 0 << 2 << "" << 0 << false << false << false;
-        QTest::addRow("Ctrl+R") << ctrlR << 2 << 0 << 2 << "" << 1 << false << false << false;
+            << find << 1 << 0 << 1 << "TovraLocationsSearch" << 0 << false << false;
+        QTest::addRow("find on Mode: nothing") << find << 2 << 0 << 2 << "" << 0 << false << false;
+        QTest::addRow("Ctrl+R") << ctrlR << 2 << 0 << 2 << "" << 1 << false << false;
         QTest::addRow("Ctrl+R in the cooldown")
-            << ctrlR << 1 << 30 << 1 << "" << 0 << false << false << false;
+            << ctrlR << 1 << 30 << 1 << "" << 0 << false << false;
         QTest::addRow("F1") << QKeySequence(QKeySequence::HelpContents) << 0 << 0 << 0 << "" << 0
-                            << true << false << false;
+                            << true << false;
         QTest::addRow("Ctrl+Q") << QKeySequence(Qt::CTRL | Qt::Key_Q) << 0 << 0 << 0 << "" << 0
-                                << false << true << false;
+                                << false << true;
     }
 
     void shortcuts()
@@ -216,7 +212,6 @@ private Q_SLOTS:
         QFETCH(int, refreshes);
         QFETCH(bool, shortcutsShown);
         QFETCH(bool, quits);
-        QFETCH(bool, hidden);
         Fixture f;
         f.holdSplitRules();
         f.state.startNodesRefreshCooldown(cooldown);
@@ -225,7 +220,6 @@ private Q_SLOTS:
         f.window->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(f.window));
         QSignalSpy refresh(f.window, &MainWindow::refreshLocationsRequested);
-        QSignalSpy toTray(f.window, &MainWindow::hiddenToTray);
         if (quits) {
             // Quit ends the application's event loop; the deadline ends it with 1 otherwise.
             QTimer::singleShot(0, f.window, [&] { QTest::keySequence(f.window, keys); });
@@ -236,7 +230,6 @@ private Q_SLOTS:
         }
         QCOMPARE(f.window->currentPage(), page);
         QCOMPARE(refresh.count(), refreshes);
-        QCOMPARE(toTray.count(), hidden ? 1 : 0);
         if (!focus.isEmpty())
             QTRY_COMPARE(QApplication::focusWidget() ? QApplication::focusWidget()->objectName()
                                                      : QString(),

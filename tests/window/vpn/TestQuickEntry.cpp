@@ -69,12 +69,6 @@ private Q_SLOTS:
         QTest::addColumn<QString>("kind");
         QTest::addColumn<QString>("target");
         QTest::addColumn<QString>("label");
-        QTest::addRow("country first") << "germ" << 0 << "group"
-                                       << "country:de"
-                                       << "Germany";
-        QTest::addRow("city next") << "germ" << 1 << "group"
-                                   << "city:de:frankfurt"
-                                   << "Frankfurt";
         QTest::addRow("a node below it") << "germ" << 2 << "node"
                                          << "1001"
                                          << "Frankfurt 01";

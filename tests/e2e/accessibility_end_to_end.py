@@ -17,6 +17,7 @@ import gi
 gi.require_version("Atspi", "2.0")
 from gi.repository import GLib  # noqa: E402
 import pyatspi  # noqa: E402
+from atspi_drive import client as app  # noqa: E402
 
 DAEMON_LOG, RESTART = sys.argv[1], sys.argv[2]
 CONTROL_ROLES = {
@@ -102,15 +103,6 @@ def find(root, role, name):
     for node in walk(root):
         if node.getRole() == role and node.name == name:
             return node
-    return None
-
-
-def app():
-    desktop = pyatspi.Registry.getDesktop(0)
-    for index in range(desktop.childCount):
-        candidate = desktop.getChildAtIndex(index)
-        if candidate is not None and (candidate.name or "").lower() == "tovra":
-            return candidate
     return None
 
 

@@ -104,4 +104,5 @@ def run(steps):
             sys.exit(f"atspi: unknown step {step!r}")
 
 
-run(sys.argv[1:])
+if __name__ == "__main__":
+    run(sys.argv[1:])

@@ -192,7 +192,6 @@ private Q_SLOTS:
         QTest::addRow("Ctrl+2: Locations") << ctrl2 << 0 << 0 << 1 << "" << 0 << false << false;
         QTest::addRow("find on Locations")
             << find << 1 << 0 << 1 << "TovraLocationsSearch" << 0 << false << false;
-        QTest::addRow("find on Mode: nothing") << find << 2 << 0 << 2 << "" << 0 << false << false;
         QTest::addRow("Ctrl+R") << ctrlR << 2 << 0 << 2 << "" << 1 << false << false;
         QTest::addRow("Ctrl+R in the cooldown")
             << ctrlR << 1 << 30 << 1 << "" << 0 << false << false;

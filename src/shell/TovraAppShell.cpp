@@ -127,9 +127,14 @@ void TovraAppShell::start()
     if (m_trayAvailable < 0)
         connect(icon, &TrayIcon::hostPresentChanged, m_context.window,
                 &WindowController::setSystemTrayAvailable);
-    m_context.tray->start();
-    if (!trayAvailable || showOnLaunch)
+    if (!trayAvailable || showOnLaunch) {
+        // The window's first paint first: the tray's icon, menu and first requests follow a turn
+        // of the event loop later.
         m_context.window->showOrRaise();
+        QTimer::singleShot(0, m_context.tray, &TovraTrayApp::start);
+    } else {
+        m_context.tray->start();
+    }
     m_update->scheduleAtStart(kFirstUpdateCheckDelayMs);
 }
 

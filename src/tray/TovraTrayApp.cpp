@@ -163,18 +163,22 @@ void TovraTrayApp::start()
 {
     m_started = true;
     m_icon->setContextMenu(m_menu.menu);
+    const auto logLines = [this] {
+        guiTextLog("tray", m_menu.statusLine->text() + QStringLiteral(" | ") +
+                               m_menu.daemonLine->text() + QStringLiteral(" | ") +
+                               m_menu.account->text());
+    };
     if (guiTextLogEnabled()) {
-        for (QAction *line : {m_menu.statusLine, m_menu.daemonLine, m_menu.account}) {
-            connect(line, &QAction::changed, this, [this] {
-                guiTextLog("tray", m_menu.statusLine->text() + QStringLiteral(" | ") +
-                                       m_menu.daemonLine->text() + QStringLiteral(" | ") +
-                                       m_menu.account->text());
-            });
-        }
+        for (QAction *line : {m_menu.statusLine, m_menu.daemonLine, m_menu.account})
+            connect(line, &QAction::changed, this, logLines);
     }
     m_painter->drawIdleIcon();
     m_icon->show();
     redraw();
+    // Answers may have come before the tray started (the window's first paint goes first):
+    // what the menu says now is written once, changed or not.
+    if (guiTextLogEnabled())
+        logLines();
     m_poller->schedule(kFirstPollMs);
     m_operations->fetchKillSwitch();
     m_menuSession->prewarm();

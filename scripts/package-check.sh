@@ -68,7 +68,10 @@ echo "== installed tovra-ctl"
 echo "== installed client"
 mkdir -p "$work/config/Tovra" "$work/runtime"
 chmod 700 "$work/runtime"
-Xvfb -displayfd 5 -screen 0 1024x600x24 -nolisten tcp 5>"$work/display" 2>"$work/xvfb.log" &
+# Its abstract socket alone, and never reset: as the end-to-end harness does, so that another
+# X server on this machine cannot take or remove its display meanwhile.
+Xvfb -displayfd 5 -screen 0 1024x600x24 -nolisten tcp -nolisten unix -noreset 5>"$work/display" \
+    2>"$work/xvfb.log" &
 pids+=($!)
 wait_for 10 test -s "$work/display" || fail "Xvfb did not start"
 export DISPLAY=":$(head -n1 "$work/display")" QT_QPA_PLATFORM=xcb
@@ -76,7 +79,7 @@ unset WAYLAND_DISPLAY
 trayer --edge top --align right --widthtype request --height 28 --SetDockType true \
     --transparent false >"$work/trayer.log" 2>&1 &
 pids+=($!)
-wait_for 10 xdotool search --class trayer >/dev/null || fail "trayer did not start"
+wait_for 20 xdotool search --class trayer >/dev/null || fail "trayer did not start: $(tail -n 3 "$work/trayer.log")"
 socket=$work/control.sock
 "$build/demo/tovra-demo-daemon" --socket "$socket" >"$work/daemon.log" 2>&1 &
 pids+=($!)

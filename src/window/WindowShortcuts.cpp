@@ -3,22 +3,16 @@
 #include "BidiText.h"
 
 #include <QAction>
-#include <QCoreApplication>
 #include <QWidget>
 
 namespace {
 
 using Id = WindowShortcuts::Id;
 
-QString tr(const char *text)
-{
-    return QCoreApplication::translate("WindowShortcuts", text);
-}
-
 // Keys without a standard key of the desktop are texts, so a language may pick others.
 QKeySequence translatedKeys(const char *keys)
 {
-    return QKeySequence(tr(keys), QKeySequence::PortableText);
+    return QKeySequence(WindowShortcuts::tr(keys), QKeySequence::PortableText);
 }
 
 } // namespace

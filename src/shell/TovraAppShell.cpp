@@ -27,6 +27,9 @@
 namespace {
 
 constexpr int kFirstUpdateCheckDelayMs = 30000;
+// The tray waits for the window's first picture at most this long (a window that is never
+// exposed, such as one on a hidden workspace, must not keep the tray away).
+constexpr int kTrayAfterWindowMaxMs = 1000;
 
 } // namespace
 
@@ -128,10 +131,11 @@ void TovraAppShell::start()
         connect(icon, &TrayIcon::hostPresentChanged, m_context.window,
                 &WindowController::setSystemTrayAvailable);
     if (!trayAvailable || showOnLaunch) {
-        // The window's first paint first: the tray's icon, menu and first requests follow a turn
-        // of the event loop later.
+        // The window's first picture first: the tray's icon, menu and first requests follow it.
+        connect(m_context.window, &WindowController::windowPainted, m_context.tray,
+                &TovraTrayApp::start, Qt::SingleShotConnection);
+        QTimer::singleShot(kTrayAfterWindowMaxMs, m_context.tray, &TovraTrayApp::start);
         m_context.window->showOrRaise();
-        QTimer::singleShot(0, m_context.tray, &TovraTrayApp::start);
     } else {
         m_context.tray->start();
     }

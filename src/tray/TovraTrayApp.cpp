@@ -161,6 +161,8 @@ void TovraTrayApp::connectCollaborators()
 
 void TovraTrayApp::start()
 {
+    if (m_started)
+        return;
     m_started = true;
     m_icon->setContextMenu(m_menu.menu);
     const auto logLines = [this] {
@@ -327,6 +329,8 @@ void TovraTrayApp::redrawOrDefer()
 void TovraTrayApp::redraw()
 {
     m_redrawPending = false;
+    if (!m_started) // start() draws what the state is by then
+        return;
     m_nodeLoader->updateEntries();
     if (m_daemonAvailable && m_daemonUnreachable) {
         showDaemonUnavailable(m_menu.daemonLine->text());

@@ -12,8 +12,6 @@
 #include <QCoreApplication>
 #include <QMenu>
 
-namespace {} // namespace
-
 TrayMenuPainter::TrayMenuPainter(AppState *state, const TrayMenu &menu, TrayIcon *icon,
                                  TrayModeActions *modeActions, TrayNodeMenuModel *nodeModel,
                                  TrayNodeLoader *nodeLoader, const TrayOperations *operations)
@@ -24,9 +22,17 @@ TrayMenuPainter::TrayMenuPainter(AppState *state, const TrayMenu &menu, TrayIcon
     , m_nodeModel(nodeModel)
     , m_nodeLoader(nodeLoader)
     , m_operations(operations)
-    , m_iconOn(QStringLiteral(":/icons/tray-on.png"))
-    , m_iconOff(QStringLiteral(":/icons/tray-off.png"))
 {}
+
+const QIcon &TrayMenuPainter::stateIcon(bool connected)
+{
+    // Decoded on first use, after the window's first paint when the window shows at start.
+    QIcon &icon = connected ? m_iconOn : m_iconOff;
+    if (icon.isNull())
+        icon = QIcon(connected ? QStringLiteral(":/icons/tray-on.png")
+                               : QStringLiteral(":/icons/tray-off.png"));
+    return icon;
+}
 
 bool TrayMenuPainter::isBusy(const Situation &situation) const
 {
@@ -41,7 +47,7 @@ const KillSwitchInfo &TrayMenuPainter::killSwitchRecord() const
 void TrayMenuPainter::drawIdleIcon()
 {
     m_icon->setToolTip(QStringLiteral("Tovra"));
-    m_icon->setIcon(m_iconOff);
+    m_icon->setIcon(stateIcon(false));
 }
 
 void TrayMenuPainter::draw(const Situation &situation)
@@ -53,7 +59,7 @@ void TrayMenuPainter::draw(const Situation &situation)
     m_menu.account->setText(
         TrayStatusFormatter::accountLine(runtime, m_state->user(), situation.userLookup));
     const bool connected = TrayStatusFormatter::isConnected(runtime);
-    m_icon->setIcon(connected ? m_iconOn : m_iconOff);
+    m_icon->setIcon(stateIcon(connected));
     m_icon->setToolTip(QStringLiteral("Tovra"));
     updateEnabledStates(situation);
 }
@@ -64,7 +70,7 @@ void TrayMenuPainter::drawUnavailable(const QString &errorMessage, const Situati
     m_menu.daemonLine->setText(
         errorMessage.trimmed().isEmpty() ? TrayMenuText::tr("daemon unavailable") : errorMessage);
     m_menu.account->setText(TrayMenuText::tr("Account: unavailable"));
-    m_icon->setIcon(m_iconOff);
+    m_icon->setIcon(stateIcon(false));
     m_icon->setToolTip(TrayMenuText::tr("Tovra - daemon unavailable"));
     updateEnabledStates(situation);
 }

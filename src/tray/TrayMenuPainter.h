@@ -49,6 +49,7 @@ private:
     bool isBusy(const Situation &situation) const;
     void updateStatusLine();
     void updateConnectEntry(const Situation &situation);
+    const QIcon &stateIcon(bool connected);
 
     AppState *m_state;
     TrayMenu m_menu;
@@ -57,7 +58,7 @@ private:
     TrayNodeMenuModel *m_nodeModel;
     TrayNodeLoader *m_nodeLoader;
     const TrayOperations *m_operations;
-    // Loaded once; the icon flips between them on every status change.
+    // Loaded once, when first shown; the icon flips between them on every status change.
     QIcon m_iconOn;
     QIcon m_iconOff;
 };

@@ -439,7 +439,7 @@ void MainWindow::showEvent(QShowEvent *event)
 {
     QMainWindow::showEvent(event);
     applyTitleBarHooks();
-    if (!m_stack->allBuilt() && windowHandle()) {
+    if (!m_painted && windowHandle()) {
         windowHandle()->installEventFilter(this);
     }
 }
@@ -448,11 +448,15 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     // Once the first page is on screen, the others are built in the turns that follow.
     if (watched == windowHandle() && event->type() == QEvent::Expose &&
-        windowHandle()->isExposed()) {
+        windowHandle()->isExposed() && !m_painted) {
+        m_painted = true;
         windowHandle()->removeEventFilter(this);
-        if (guiTextLogEnabled()) // the first picture, once this expose has painted it
-            QTimer::singleShot(0, this,
-                               [this] { guiTextLog("window.shown", m_pageTitle->text()); });
+        // Once this expose has painted.
+        QTimer::singleShot(0, this, [this] {
+            if (guiTextLogEnabled())
+                guiTextLog("window.shown", m_pageTitle->text());
+            Q_EMIT firstPainted();
+        });
         m_stack->buildRemainingPages();
     }
     return QMainWindow::eventFilter(watched, event);

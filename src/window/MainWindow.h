@@ -92,6 +92,8 @@ public Q_SLOTS:
     void showPage(int index);
 
 Q_SIGNALS:
+    // Once per window, a turn after its first picture reached the screen.
+    void firstPainted();
     void hiddenToTray();
     void connectRuntimeRequested();
     void cancelConnectRequested();
@@ -165,4 +167,5 @@ private:
     bool m_hideOnClose = true;
     bool m_deleteOnClose = false;
     bool m_unifiedTitleBar = false;
+    bool m_painted = false;
 };

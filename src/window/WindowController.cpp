@@ -93,6 +93,7 @@ MainWindow *WindowController::ensureWindow()
     connect(window, &QObject::destroyed, this, [this] { m_window.clear(); });
     WindowIntents::forward(window, this);
     connect(window, &MainWindow::hiddenToTray, this, &WindowController::handleHiddenToTray);
+    connect(window, &MainWindow::firstPainted, this, &WindowController::windowPainted);
     connect(window, &MainWindow::openExternalURLRequested, this,
             &WindowController::openExternalURL);
     connect(window, &MainWindow::appearancePreferenceChanged, m_updateDialogs,

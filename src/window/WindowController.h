@@ -102,6 +102,8 @@ public Q_SLOTS:
     void activateFromApplication();
 
 Q_SIGNALS:
+    // A window's first picture is on screen.
+    void windowPainted();
     void connectRuntimeRequested();
     void cancelConnectRequested();
     void disconnectRuntimeRequested();

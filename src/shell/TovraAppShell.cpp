@@ -115,8 +115,10 @@ void TovraAppShell::setSystemTrayAvailable(bool available)
 void TovraAppShell::start()
 {
     TrayIcon *icon = m_context.tray->trayIcon();
-    const bool trayAvailable = m_trayAvailable >= 0 ? m_trayAvailable == 1 : icon->hostPresent();
     const bool showOnLaunch = m_context.preferences->showOnLaunch();
+    // Whether the window shows hangs on the tray only when the user asked for no window.
+    icon->watchHosts(showOnLaunch ? TrayIcon::HostLook::Background : TrayIcon::HostLook::Settled);
+    const bool trayAvailable = m_trayAvailable >= 0 ? m_trayAvailable == 1 : icon->hostPresent();
     if (m_launchedByAutostart && !trayAvailable && !showOnLaunch) {
         // Nothing to show and no tray to live in: leave quietly.
         QTimer::singleShot(0, this, &TovraAppShell::exitRequested);

@@ -24,17 +24,27 @@ StatusNotifierHostWatcher::StatusNotifierHostWatcher(const QDBusConnection &bus,
     connect(&m_retry, &QTimer::timeout, this, &StatusNotifierHostWatcher::ask);
 }
 
-void StatusNotifierHostWatcher::start(int firstLookTimeoutMs)
+void StatusNotifierHostWatcher::start()
 {
-    if (!m_bus.isConnected())
+    if (!m_bus.isConnected()) {
+        m_answered = true;
         return;
+    }
     auto *owner =
         new QDBusServiceWatcher(kService, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(owner, &QDBusServiceWatcher::serviceOwnerChanged, this,
             &StatusNotifierHostWatcher::ask);
     for (const char *signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         m_bus.connect(kService, kPath, kService, QLatin1String(signal), this, SLOT(ask()));
-    apply(m_bus.call(question(), QDBus::Block, firstLookTimeoutMs));
+    ask();
+}
+
+void StatusNotifierHostWatcher::settle(int timeoutMs)
+{
+    if (m_answered)
+        return;
+    ++m_asked; // the question on its way is answered here
+    apply(m_bus.call(question(), QDBus::Block, timeoutMs));
 }
 
 QDBusMessage StatusNotifierHostWatcher::question() const
@@ -62,6 +72,7 @@ void StatusNotifierHostWatcher::ask()
 
 void StatusNotifierHostWatcher::apply(const QDBusMessage &reply)
 {
+    m_answered = true;
     if (reply.type() == QDBusMessage::ErrorMessage &&
         reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply")) {
         m_retry.start(m_retryMs);

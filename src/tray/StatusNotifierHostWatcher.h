@@ -18,9 +18,10 @@ class StatusNotifierHostWatcher : public QObject
 public:
     explicit StatusNotifierHostWatcher(const QDBusConnection &bus, QObject *parent = nullptr);
 
-    // The first look blocks for at most firstLookTimeoutMs; changes are followed without
-    // blocking after it.
-    void start(int firstLookTimeoutMs);
+    // Follows hosts from now on; the first answer comes without blocking.
+    void start();
+    // Waits for the first answer, if it has not come, for at most timeoutMs.
+    void settle(int timeoutMs);
     bool present() const { return m_present; }
 
 Q_SIGNALS:
@@ -39,4 +40,5 @@ private:
     bool m_present = false;
     // Only the answer to the latest question counts.
     quint64 m_asked = 0;
+    bool m_answered = false;
 };

@@ -175,6 +175,7 @@ void TovraTrayApp::start()
             connect(line, &QAction::changed, this, logLines);
     }
     m_painter->drawIdleIcon();
+    m_icon->watchHosts(TrayIcon::HostLook::Settled);
     m_icon->show();
     redraw();
     // Answers may have come before the tray started (the window's first paint goes first):

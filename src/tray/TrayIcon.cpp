@@ -23,9 +23,18 @@ TrayIcon::TrayIcon(QObject *parent)
                 handleHostChange();
             });
     connect(m_xembedTray, &XEmbedTrayWatcher::presentChanged, this, &TrayIcon::handleHostChange);
-    m_statusNotifierHosts->start(kFirstLookTimeoutMs);
+}
+
+void TrayIcon::watchHosts(HostLook look)
+{
+    if (!m_watching) {
+        m_watching = true;
+        m_statusNotifierHosts->start();
+    }
+    if (look == HostLook::Background)
+        return;
+    m_statusNotifierHosts->settle(kFirstLookTimeoutMs);
     m_xembedTray->start();
-    m_hostPresent = hostPresent();
 }
 
 TrayIcon::~TrayIcon()

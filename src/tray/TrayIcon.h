@@ -22,6 +22,9 @@ class TrayIcon : public QObject
 public:
     // How long the first look at the session bus may block start-up at most.
     static constexpr int kFirstLookTimeoutMs = 250;
+    // Settled: the first answers are waited for, so hostPresent() is true to the desktop at
+    // once. Background: they come as signals, for a start that shows the window anyway.
+    enum class HostLook { Background, Settled };
 
     explicit TrayIcon(QObject *parent = nullptr);
     ~TrayIcon() override;
@@ -38,6 +41,8 @@ public:
     void showMessage(const QString &title, const QString &message,
                      QSystemTrayIcon::MessageIcon kind, int durationMs);
 
+    // Starts following the tray hosts; a later Settled look waits for what is still unknown.
+    void watchHosts(HostLook look);
     bool hostPresent() const;
 
 Q_SIGNALS:
@@ -55,4 +60,5 @@ private:
     QPointer<QMenu> m_menu;
     bool m_shown = false;
     bool m_hostPresent = false;
+    bool m_watching = false;
 };

@@ -11,6 +11,7 @@
 #include "GuiRestartScheduler.h"
 #include "GuiSingleInstance.h"
 #include "GuiStallMonitor.h"
+#include "SessionBusWarmup.h"
 #include "SingleInstanceClient.h"
 #include "TovraAppShell.h"
 #include "TranslationManager.h"
@@ -174,6 +175,8 @@ int main(int argc, char *argv[])
                  qUtf8Printable(instanceError));
         return 1;
     }
+
+    const SessionBusWarmup sessionBusWarmup; // while the daemon is asked for the language
 
     const QString socketPath = ControlClient::socketPathFromEnvironment();
     const QString language =

@@ -24,27 +24,17 @@ StatusNotifierHostWatcher::StatusNotifierHostWatcher(const QDBusConnection &bus,
     connect(&m_retry, &QTimer::timeout, this, &StatusNotifierHostWatcher::ask);
 }
 
-void StatusNotifierHostWatcher::start()
+void StatusNotifierHostWatcher::start(int firstLookTimeoutMs)
 {
-    if (!m_bus.isConnected()) {
-        m_answered = true;
+    if (!m_bus.isConnected())
         return;
-    }
     auto *owner =
         new QDBusServiceWatcher(kService, m_bus, QDBusServiceWatcher::WatchForOwnerChange, this);
     connect(owner, &QDBusServiceWatcher::serviceOwnerChanged, this,
             &StatusNotifierHostWatcher::ask);
     for (const char *signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         m_bus.connect(kService, kPath, kService, QLatin1String(signal), this, SLOT(ask()));
-    ask();
-}
-
-void StatusNotifierHostWatcher::settle(int timeoutMs)
-{
-    if (m_answered)
-        return;
-    ++m_asked; // the question on its way is answered here
-    apply(m_bus.call(question(), QDBus::Block, timeoutMs));
+    apply(m_bus.call(question(), QDBus::Block, firstLookTimeoutMs));
 }
 
 QDBusMessage StatusNotifierHostWatcher::question() const
@@ -72,7 +62,6 @@ void StatusNotifierHostWatcher::ask()
 
 void StatusNotifierHostWatcher::apply(const QDBusMessage &reply)
 {
-    m_answered = true;
     if (reply.type() == QDBusMessage::ErrorMessage &&
         reply.errorName() == QLatin1String("org.freedesktop.DBus.Error.NoReply")) {
         m_retry.start(m_retryMs);

@@ -18,10 +18,9 @@ class StatusNotifierHostWatcher : public QObject
 public:
     explicit StatusNotifierHostWatcher(const QDBusConnection &bus, QObject *parent = nullptr);
 
-    // Follows hosts from now on; the first answer comes without blocking.
-    void start();
-    // Waits for the first answer, if it has not come, for at most timeoutMs.
-    void settle(int timeoutMs);
+    // The first look blocks for at most firstLookTimeoutMs; changes are followed without
+    // blocking after it.
+    void start(int firstLookTimeoutMs);
     bool present() const { return m_present; }
 
 Q_SIGNALS:
@@ -40,5 +39,4 @@ private:
     bool m_present = false;
     // Only the answer to the latest question counts.
     quint64 m_asked = 0;
-    bool m_answered = false;
 };

@@ -27,13 +27,11 @@ TrayIcon::TrayIcon(QObject *parent)
 
 void TrayIcon::watchHosts(HostLook look)
 {
-    if (!m_watching) {
-        m_watching = true;
-        m_statusNotifierHosts->start();
-    }
-    if (look == HostLook::Background)
+    // Even the bus's match rules for the watcher's signals are blocking round trips.
+    if (look == HostLook::Background || m_watching)
         return;
-    m_statusNotifierHosts->settle(kFirstLookTimeoutMs);
+    m_watching = true;
+    m_statusNotifierHosts->start(kFirstLookTimeoutMs);
     m_xembedTray->start();
 }
 

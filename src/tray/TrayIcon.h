@@ -22,8 +22,9 @@ class TrayIcon : public QObject
 public:
     // How long the first look at the session bus may block start-up at most.
     static constexpr int kFirstLookTimeoutMs = 250;
-    // Settled: the first answers are waited for, so hostPresent() is true to the desktop at
-    // once. Background: they come as signals, for a start that shows the window anyway.
+    // Settled: hosts are looked for now, and hostPresent() is true to the desktop at once.
+    // Background: not yet, for a start that shows the window whatever the answer; the tray
+    // settles it when it starts.
     enum class HostLook { Background, Settled };
 
     explicit TrayIcon(QObject *parent = nullptr);
@@ -41,7 +42,7 @@ public:
     void showMessage(const QString &title, const QString &message,
                      QSystemTrayIcon::MessageIcon kind, int durationMs);
 
-    // Starts following the tray hosts; a later Settled look waits for what is still unknown.
+    // Starts following the tray hosts, once.
     void watchHosts(HostLook look);
     bool hostPresent() const;
 

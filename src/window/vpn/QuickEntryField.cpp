@@ -24,7 +24,6 @@ QuickEntryField::QuickEntryField(RecentActivityStore *recent, QWidget *overlay, 
     , m_overlay(overlay)
     , m_filter(new CatalogFilterModel(this))
     , m_model(new QuickEntryModel(this))
-    , m_popup(new QuickEntryPopup(m_model, overlay))
     , m_debounce(new QTimer(this))
 {
     setObjectName(QStringLiteral("TovraVPNSearch"));
@@ -56,7 +55,6 @@ QuickEntryField::QuickEntryField(RecentActivityStore *recent, QWidget *overlay, 
             m_debounce->start();
         }
     });
-    connect(m_popup, &QuickEntryPopup::rowActivated, this, &QuickEntryField::activateRow);
     if (m_recent) {
         const auto recentChanged = [this] {
             if (text().trimmed().isEmpty())
@@ -88,9 +86,21 @@ void QuickEntryField::applyTheme(const ThemeColors &colors)
     m_model->setMutedColor(colors.color(ThemeColor::TextMuted));
 }
 
+QuickEntryPopup *QuickEntryField::popup()
+{
+    // Hidden until the field is used: made with the window, it would be built and styled
+    // before the window's first paint for nothing.
+    if (!m_popup) {
+        m_popup = new QuickEntryPopup(m_model, m_overlay);
+        connect(m_popup, &QuickEntryPopup::rowActivated, this, &QuickEntryField::activateRow);
+        m_popup->setCurrentRow(text().trimmed().isEmpty() ? -1 : m_model->nextSelectable(-1, 1));
+    }
+    return m_popup;
+}
+
 bool QuickEntryField::isPopupOpen() const
 {
-    return m_popup->isVisible();
+    return m_popup && m_popup->isVisible();
 }
 
 bool QuickEntryField::isSearchPending() const
@@ -103,14 +113,15 @@ void QuickEntryField::openPopup()
     if (!isVisible())
         return;
     place();
-    m_popup->show();
+    popup()->show();
     setPopupOpenProperty(true);
 }
 
 void QuickEntryField::closePopup()
 {
     m_debounce->stop();
-    m_popup->hide();
+    if (m_popup)
+        m_popup->hide();
     setPopupOpenProperty(false);
 }
 
@@ -125,7 +136,7 @@ void QuickEntryField::setPopupOpenProperty(bool open)
 
 void QuickEntryField::place()
 {
-    m_popup->placeUnder(this, m_overlay->height() - kBottomMargin);
+    popup()->placeUnder(this, m_overlay->height() - kBottomMargin);
 }
 
 void QuickEntryField::refreshRows()
@@ -140,7 +151,8 @@ void QuickEntryField::refreshRows()
         m_model->showMatches(*m_filter, search);
     }
     // While typing the best match is one Enter away; the recent lists wait for an arrow key.
-    m_popup->setCurrentRow(search.isEmpty() ? -1 : m_model->nextSelectable(-1, 1));
+    if (m_popup)
+        m_popup->setCurrentRow(search.isEmpty() ? -1 : m_model->nextSelectable(-1, 1));
     if (isPopupOpen())
         place();
 }

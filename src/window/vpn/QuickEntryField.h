@@ -34,7 +34,8 @@ public:
     bool isSearchPending() const;
 
     QuickEntryModel *entryModel() const { return m_model; }
-    QuickEntryPopup *popup() const { return m_popup; }
+    // The list under the field, made when first opened.
+    QuickEntryPopup *popup();
 
 Q_SIGNALS:
     // The first text typed: the catalogue is needed from now on.
@@ -60,6 +61,6 @@ private:
     QWidget *m_overlay;
     CatalogFilterModel *m_filter;
     QuickEntryModel *m_model;
-    QuickEntryPopup *m_popup;
+    QuickEntryPopup *m_popup = nullptr;
     QTimer *m_debounce;
 };

@@ -116,8 +116,11 @@ void TovraAppShell::start()
 {
     TrayIcon *icon = m_context.tray->trayIcon();
     const bool showOnLaunch = m_context.preferences->showOnLaunch();
-    // Whether the window shows hangs on the tray only when the user asked for no window.
-    icon->watchHosts(showOnLaunch ? TrayIcon::HostLook::Background : TrayIcon::HostLook::Settled);
+    // Whether the window shows hangs on the tray only when the user asked for no window;
+    // otherwise the hosts are looked for when the tray starts, after the window's first picture
+    // (even the bus's match rules for the watcher's signals are blocking round trips).
+    if (!showOnLaunch)
+        icon->watchHosts(TrayIcon::HostLook::Settled);
     const bool trayAvailable = m_trayAvailable >= 0 ? m_trayAvailable == 1 : icon->hostPresent();
     if (m_launchedByAutostart && !trayAvailable && !showOnLaunch) {
         // Nothing to show and no tray to live in: leave quietly.

@@ -34,7 +34,10 @@ void StatusNotifierHostWatcher::start(int firstLookTimeoutMs)
             &StatusNotifierHostWatcher::ask);
     for (const char *signal : {"StatusNotifierHostRegistered", "StatusNotifierHostUnregistered"})
         m_bus.connect(kService, kPath, kService, QLatin1String(signal), this, SLOT(ask()));
-    apply(m_bus.call(question(), QDBus::Block, firstLookTimeoutMs));
+    if (firstLookTimeoutMs > 0)
+        apply(m_bus.call(question(), QDBus::Block, firstLookTimeoutMs));
+    else
+        ask();
 }
 
 QDBusMessage StatusNotifierHostWatcher::question() const

@@ -18,8 +18,8 @@ class StatusNotifierHostWatcher : public QObject
 public:
     explicit StatusNotifierHostWatcher(const QDBusConnection &bus, QObject *parent = nullptr);
 
-    // The first look blocks for at most firstLookTimeoutMs; changes are followed without
-    // blocking after it.
+    // Follows hosts from now on. The first look blocks for at most firstLookTimeoutMs; with 0
+    // its answer comes later, as every change does.
     void start(int firstLookTimeoutMs);
     bool present() const { return m_present; }
 

@@ -175,7 +175,9 @@ void TovraTrayApp::start()
             connect(line, &QAction::changed, this, logLines);
     }
     m_painter->drawIdleIcon();
-    m_icon->watchHosts(TrayIcon::HostLook::Settled);
+    // Shown as soon as a host answers: a watcher slow to answer must not stall a window that is
+    // already on screen.
+    m_icon->watchHosts(TrayIcon::HostLook::Background);
     m_icon->show();
     redraw();
     // Answers may have come before the tray started (the window's first paint goes first):

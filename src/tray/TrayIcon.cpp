@@ -27,11 +27,10 @@ TrayIcon::TrayIcon(QObject *parent)
 
 void TrayIcon::watchHosts(HostLook look)
 {
-    // Even the bus's match rules for the watcher's signals are blocking round trips.
-    if (look == HostLook::Background || m_watching)
+    if (m_watching)
         return;
     m_watching = true;
-    m_statusNotifierHosts->start(kFirstLookTimeoutMs);
+    m_statusNotifierHosts->start(look == HostLook::Settled ? kFirstLookTimeoutMs : 0);
     m_xembedTray->start();
 }
 

@@ -22,9 +22,8 @@ class TrayIcon : public QObject
 public:
     // How long the first look at the session bus may block start-up at most.
     static constexpr int kFirstLookTimeoutMs = 250;
-    // Settled: hosts are looked for now, and hostPresent() is true to the desktop at once.
-    // Background: not yet, for a start that shows the window whatever the answer; the tray
-    // settles it when it starts.
+    // Settled: the first answers are waited for, so hostPresent() is true to the desktop at
+    // once. Background: they come as signals.
     enum class HostLook { Background, Settled };
 
     explicit TrayIcon(QObject *parent = nullptr);
@@ -42,7 +41,7 @@ public:
     void showMessage(const QString &title, const QString &message,
                      QSystemTrayIcon::MessageIcon kind, int durationMs);
 
-    // Starts following the tray hosts, once.
+    // Starts following the tray hosts; the first call decides how.
     void watchHosts(HostLook look);
     bool hostPresent() const;
 

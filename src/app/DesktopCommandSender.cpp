@@ -2,7 +2,6 @@
 
 #include "GuiSingleInstance.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QProcess>
 #include <QThread>
@@ -13,11 +12,6 @@ namespace {
 
 constexpr int kConnectTimeoutMs = 500;
 constexpr int kStartPollMs = 100;
-
-QString text(const char *source)
-{
-    return QCoreApplication::translate("DesktopCommandSender", source);
-}
 
 DesktopAnswer failed(const QString &detail)
 {
@@ -47,12 +41,11 @@ DesktopAnswer DesktopCommandSender::send(const DesktopRequest &request)
         client.setStandardErrorFile(QProcess::nullDevice());
         qint64 pid = 0;
         if (!client.startDetached(&pid))
-            return failed(text(QT_TRANSLATE_NOOP("DesktopCommandSender", "could not start Tovra")));
+            return failed(tr("could not start Tovra"));
         const QDeadlineTimer deadline(kStartTimeoutMs);
         while (delivery == GuiSingleInstance::Delivery::NotReached) {
             if (deadline.hasExpired() || ::kill(pid_t(pid), 0) != 0)
-                return failed(
-                    text(QT_TRANSLATE_NOOP("DesktopCommandSender", "Tovra did not start")));
+                return failed(tr("Tovra did not start"));
             QThread::msleep(kStartPollMs);
             delivery = instance.sendRequest(request, kConnectTimeoutMs, kAnswerTimeoutMs, &answer);
         }
@@ -64,14 +57,12 @@ DesktopAnswer DesktopCommandSender::send(const DesktopRequest &request)
         // A client from before answers existed: it came to the front and did nothing else.
         if (request.isActivation())
             return {};
-        return failed(text(QT_TRANSLATE_NOOP("DesktopCommandSender",
-                                             "the running Tovra is an older version: it came to "
-                                             "the front but did not act on the request; quit it "
-                                             "and try again")));
+        return failed(tr("the running Tovra is an older version: it came to "
+                         "the front but did not act on the request; quit it "
+                         "and try again"));
     case GuiSingleInstance::Delivery::NoAnswer:
     case GuiSingleInstance::Delivery::NotReached:
         break;
     }
-    return failed(
-        text(QT_TRANSLATE_NOOP("DesktopCommandSender", "the running Tovra did not answer")));
+    return failed(tr("the running Tovra did not answer"));
 }

@@ -3,12 +3,15 @@
 #include "DesktopAnswer.h"
 #include "DesktopRequest.h"
 
+#include <QCoreApplication>
 #include <QString>
 
 // Hands a desktop command to the running client and waits for its answer; with none running
 // it starts one (a plain launch, in the background) and hands the command to that one.
 class DesktopCommandSender
 {
+    Q_DECLARE_TR_FUNCTIONS(DesktopCommandSender)
+
 public:
     // The running client may first wait for the service and then for the daemon's answer.
     static constexpr int kAnswerTimeoutMs = 70000;

@@ -448,7 +448,7 @@ bool MainWindow::eventFilter(QObject *watched, QEvent *event)
 {
     // Once the first page is on screen, the others are built in the turns that follow.
     if (watched == windowHandle() && event->type() == QEvent::Expose &&
-        windowHandle()->isExposed() && !m_painted) {
+        windowHandle()->isExposed()) {
         m_painted = true;
         windowHandle()->removeEventFilter(this);
         // Once this expose has painted.

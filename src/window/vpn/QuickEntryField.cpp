@@ -93,7 +93,7 @@ QuickEntryPopup *QuickEntryField::popup()
     if (!m_popup) {
         m_popup = new QuickEntryPopup(m_model, m_overlay);
         connect(m_popup, &QuickEntryPopup::rowActivated, this, &QuickEntryField::activateRow);
-        m_popup->setCurrentRow(text().trimmed().isEmpty() ? -1 : m_model->nextSelectable(-1, 1));
+        m_popup->setCurrentRow(firstCurrentRow());
     }
     return m_popup;
 }
@@ -150,11 +150,16 @@ void QuickEntryField::refreshRows()
         m_filter->setFilterText(search);
         m_model->showMatches(*m_filter, search);
     }
-    // While typing the best match is one Enter away; the recent lists wait for an arrow key.
     if (m_popup)
-        m_popup->setCurrentRow(search.isEmpty() ? -1 : m_model->nextSelectable(-1, 1));
+        m_popup->setCurrentRow(firstCurrentRow());
     if (isPopupOpen())
         place();
+}
+
+int QuickEntryField::firstCurrentRow() const
+{
+    // While typing the best match is one Enter away; the recent lists wait for an arrow key.
+    return text().trimmed().isEmpty() ? -1 : m_model->nextSelectable(-1, 1);
 }
 
 void QuickEntryField::moveCurrent(int step)

@@ -52,6 +52,7 @@ protected:
 
 private:
     void refreshRows();
+    int firstCurrentRow() const;
     void activateRow(int row);
     void moveCurrent(int step);
     void setPopupOpenProperty(bool open);
